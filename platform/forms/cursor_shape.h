@@ -1,0 +1,7 @@
+#pragma once
+
+namespace orvendal {
+
+enum class CursorShape { kArrow, kText };
+
+}  // namespace orvendal

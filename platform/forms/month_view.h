@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+
+#include "platform/base/date.h"
+#include "platform/forms/control.h"
+
+namespace orvendal {
+
+/// A calendar of one month with a selected day.
+///
+/// Invariants: Value is a day without time, MinDate <= Value <= MaxDate. The month that shows is the view; it
+/// follows the selection, and the month buttons turn it without selecting.
+class MonthView final : public Control {
+ public:
+  MonthView(Form& form, Control* container, std::string_view name, int index = -1);
+  ControlKind Kind() const override { return ControlKind::kMonthView; }
+
+  Date Value() const { return value_; }
+  /// Selects the day and shows its month, raising nothing. Outside MinDate..MaxDate error 35773.
+  void Value(Date day);
+  Date MinDate() const { return min_date_; }
+  void MinDate(Date day);
+  Date MaxDate() const { return max_date_; }
+  void MaxDate(Date day);
+  ColorWord MonthBackColor() const { return month_back_color_; }
+  void MonthBackColor(ColorWord color);
+
+  /// The user selected another day: Value is new already; `cancel` True puts the old one back.
+  std::function<void(Date start, Date end, bool& cancel)> OnSelChange;
+  /// The user clicked a day, after OnSelChange if that changed the selection.
+  std::function<void(Date clicked)> OnDateClick;
+
+  /// First day of the month that shows.
+  Date ViewMonth() const { return view_month_; }
+  /// Place of a day of the view (neighbour months' days included), relative to the control; nothing if it
+  /// does not show.
+  std::optional<Rect> DayRectangle(Date day) const;
+  Rect PreviousButton() const;
+  Rect NextButton() const;
+
+  void RestoreDefaults() override;
+  void Paint(Canvas& canvas) override;
+  void MousePressed(int button, int shift, Point local) override;
+  bool KeyDownDefault(int key_code, int shift) override;
+  bool MouseWheel(double lines) override;
+  void FocusChanged(bool has_focus) override;
+
+ protected:
+  ControlProperties DefaultProperties() const override;
+
+ private:
+  struct Layout;
+  Layout Measure() const;
+  Date FirstShownDay() const;
+  std::optional<Date> DayAt(Point local) const;
+  void SelectByUser(Date day);
+  void TurnView(int months);
+
+  Date value_;
+  Date view_month_;
+  Date min_date_;
+  Date max_date_;
+  ColorWord month_back_color_ = system_color::kWindowBackground;
+};
+
+}  // namespace orvendal

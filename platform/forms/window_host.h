@@ -1,0 +1,119 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/base/clock.h"
+#include "platform/base/region.h"
+#include "platform/base/runtime_error.h"
+#include "platform/forms/color.h"
+#include "platform/forms/cursor_shape.h"
+#include "platform/forms/font.h"
+#include "platform/forms/geometry.h"
+
+namespace orvendal {
+
+class Form;
+class Timer;
+
+enum class WindowState { kNormal = 0, kMinimized = 1, kMaximized = 2 };
+
+/// The native window of one loaded form. Made by the host, owned by the form, gone with its destruction.
+/// How to implement one: forward input to the form's input members (form.h), call Form::Paint for what has to
+/// be painted, and do here what the form says. It decides nothing.
+class FormWindow {
+ public:
+  virtual ~FormWindow() = default;
+  virtual void Show() = 0;
+  virtual void Hide() = 0;
+  /// Brings the window to the front.
+  virtual void Raise() = 0;
+  /// Place and size of the window changed; see Form::Left, Top, Width, Height (twips).
+  virtual void BoundsChanged() = 0;
+  virtual void CaptionChanged() = 0;
+  virtual void StateChanged(WindowState state) = 0;
+  /// Something in `area` (twips) is to be painted at the next turn of the event loop.
+  virtual void RequestPaint(const Rect& area) = 0;
+  /// Paints at once what was requested.
+  virtual void PaintNow() = 0;
+  virtual void Cursor(CursorShape shape) = 0;
+  /// Where the caret stands, in twips from the form's corner; nothing if there is none.
+  virtual void Caret(const std::optional<Rect>& caret) = 0;
+};
+
+/// The system as the form engine sees it: screen, clock, fonts, clipboard, native windows. Outlives all
+/// forms. How to implement one: see adapters/headless for the smallest, adapters/qt for a desktop.
+class WindowHost {
+ public:
+  WindowHost() = default;
+  WindowHost(const WindowHost&) = delete;
+  WindowHost& operator=(const WindowHost&) = delete;
+  virtual ~WindowHost() = default;
+
+  virtual const Region& UserRegion() = 0;
+  virtual Clock& SystemClock() = 0;
+  /// Size of the display in twips.
+  virtual double ScreenWidth() = 0;
+  virtual double ScreenHeight() = 0;
+  /// A plain colour word for a system colour index.
+  virtual ColorWord SystemColor(std::uint32_t index) { return ClassicSystemColor(index); }
+
+  /// Width of one line of text, and height of any line, in twips.
+  virtual double TextWidth(const FontSpec& font, std::string_view text) = 0;
+  virtual double LineHeight(const FontSpec& font) = 0;
+
+  virtual std::unique_ptr<FormWindow> CreateFormWindow(Form& form) = 0;
+  /// Runs until `form` is hidden or unloaded; other forms take no input meanwhile.
+  virtual void RunModal(Form& form) = 0;
+  /// Lets pending input and paint requests through.
+  virtual void DoEvents() = 0;
+  /// Enabled or Interval of a timer changed, or the timer goes away (`alive` false).
+  virtual void TimerChanged(Timer& timer, bool alive) = 0;
+
+  virtual void Beep() = 0;
+  virtual std::string ClipboardText() = 0;
+  virtual void ClipboardText(const std::string& text) = 0;
+
+  /// An error that no handler trapped during an event: the user is told its number and description.
+  virtual void ReportError(const RuntimeError& error) = 0;
+
+  // What the engine keeps for all forms of one host.
+
+  /// The form that was shown or activated last; nullptr after it is gone.
+  Form* ActiveForm() const { return active_form_; }
+  /// Counts every modal dialog ever opened; a gesture that sees it change is over.
+  std::uint64_t ModalSerial() const { return modal_serial_; }
+  /// Whether `form` may take input: no dialog is up, or it is itself the innermost one.
+  bool TakesInput(const Form& form) const;
+  Rgb Resolve(ColorWord color) {
+    return RgbOf(IsSystemColor(color) ? SystemColor(SystemColorIndex(color)) : color);
+  }
+
+ private:
+  friend class Form;
+  friend class ModalScope;
+  Form* active_form_ = nullptr;
+  class ModalScope* innermost_ = nullptr;
+  std::uint64_t modal_serial_ = 0;
+};
+
+/// A modal dialog is up from construction to destruction. Whoever opens a dialog that is no engine form (a
+/// message box, a dialog of an outside library) holds one around it; Form::Show does it for its own.
+class ModalScope {
+ public:
+  explicit ModalScope(WindowHost& host, const Form* form = nullptr);
+  ~ModalScope();
+  ModalScope(const ModalScope&) = delete;
+  ModalScope& operator=(const ModalScope&) = delete;
+
+ private:
+  friend class WindowHost;
+  WindowHost& host_;
+  const Form* form_;
+  ModalScope* outer_;
+};
+
+}  // namespace orvendal
