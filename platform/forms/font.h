@@ -25,6 +25,8 @@ class ControlFont {
     spec_ = spec;
     changed_();
   }
+  /// Back to the font that controls have without one of their own; tells nobody.
+  void Restore() { spec_ = {}; }
   const std::string& Name() const { return spec_.name; }
   double Size() const { return spec_.size; }
   void Size(double points) {

@@ -109,6 +109,8 @@ class Form : public Object {
 
   /// The control in front at that place that takes the mouse; nullptr for the form itself.
   Control* ControlAt(Point position) const;
+  /// Where the focused control has its caret, on the form; nothing if it has none.
+  std::optional<Rect> CaretRectangle() const;
 
  protected:
   /// Puts the form and its controls to the values of the design; called at each load, before OnLoad.
@@ -121,13 +123,13 @@ class Form : public Object {
     int button = 0;
     bool pressed = false;
     bool swallowed = false;
-    bool second_of_double = false;
     bool click_wanted = false;
   };
 
   void Register(Control* control) { controls_.push_back(control); }
-  void Guarded(const std::function<void()>& event);
+  void Dispatch(const std::function<void()>& event);
   bool StillLoaded(std::uint64_t life) const { return loaded_ && life == life_; }
+  void SizeWasChanged();
   void LayOutAligned();
   void UpdateCaret();
 
@@ -136,17 +138,17 @@ class Form : public Object {
   void LeaveIneligible();
   Control* NextTabStop(const Control* from, bool backwards) const;
   bool MoveFocusByTab(bool backwards);
-  void FocusFirst();
 
   // Input (form_input.cpp).
-  void PressSecondOfDouble(Control* target, Point position, int button, int shift);
   void PressFirst(Control* target, Point position, int button, int shift);
+  void PressSecondOfDouble(Control* target, Point position, int button, int shift);
+  void Release(Control* target, Point position, int button, int shift);
   bool GestureOver(std::uint64_t life, std::uint64_t modal_serial);
 
   // Painting (form_paint.cpp).
   void InvalidateArea(const Rect& area);
   void PaintChildren(Canvas& canvas, const Control* container, const Rect& area);
-  Control* ChildAt(const Control* container, Point position) const;
+  void CollectAt(const Control* container, Point position, std::vector<Control*>& hits) const;
 
   WindowHost& host_;
   std::string name_;
@@ -168,6 +170,7 @@ class Form : public Object {
   std::uint64_t life_ = 0;  // counts loads, so that a handler's end can tell another life
   std::unique_ptr<FormWindow> window_;
   Control* active_control_ = nullptr;
+  std::uint64_t focus_serial_ = 0;  // counts moves of the focus, so that an inner one wins over the outer
   Control* key_target_ = nullptr;
   bool character_swallowed_ = false;
   Gesture gesture_;

@@ -1,0 +1,172 @@
+#include "adapters/headless/robot.h"
+
+#include <cctype>
+#include <stdexcept>
+
+#include "platform/base/text.h"
+#include "platform/forms/month_view.h"
+#include "platform/forms/ms_flex_grid.h"
+
+namespace orvendal {
+namespace {
+
+// "Nuevo" of "LblNuevo" and "DivNuevo": the labels and shapes of one action button share it.
+std::string ActionOf(const Control& control) {
+  const bool is_member =
+      control.Index() >= 0 && (control.Name().starts_with("Lbl") || control.Name().starts_with("Div"));
+  return is_member ? control.Name().substr(3) : std::string();
+}
+
+bool IsInside(const Control* inner, const Control* outer) {
+  for (; inner != nullptr; inner = inner->Container()) {
+    if (inner == outer) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+Control& Robot::Find(std::string_view name) const {
+  if (Control* control = form_.FindControl(name)) return *control;
+  if (Control* area = form_.FindControl(std::string(name) + "(1)")) return *area;
+  throw std::invalid_argument("there is no control " + std::string(name));
+}
+
+std::string Robot::WhyUnreachable(const Control& control, Point position) const {
+  if (!control.IsShown()) return control.FullName() + " is hidden";
+  if (!control.IsOperable()) return control.FullName() + " is disabled";
+  const Control* hit = form_.ControlAt(position);
+  if (hit == &control ||
+      (hit != nullptr && !ActionOf(control).empty() && ActionOf(*hit) == ActionOf(control)))
+    return {};
+  const bool off_form = !Rect{0, 0, form_.Width(), form_.Height()}.Contains(position);
+  if (off_form) return control.FullName() + " lies outside the form";
+  if (hit != nullptr && IsInside(hit, &control))
+    return control.FullName() + " is covered by " + hit->FullName();
+  return control.FullName() + " is covered" + (hit != nullptr ? " by " + hit->FullName() : "");
+}
+
+Point Robot::MiddleOf(const Control& control) const {
+  const Rect bounds = control.Bounds();
+  return {bounds.left + bounds.width / 2, bounds.top + bounds.height / 2};
+}
+
+void Robot::Press(Point position, int button, int shift) {
+  form_.MousePress(position, button, shift, false);
+}
+void Robot::Release(Point position, int button, int shift) {
+  form_.MouseRelease(position, button, shift);
+}
+
+void Robot::ClickAt(Point position) {
+  form_.MousePress(position, mouse_button::kLeft, 0, false);
+  form_.MouseRelease(position, mouse_button::kLeft, 0);
+}
+
+void Robot::DoubleClickAt(Point position) {
+  ClickAt(position);
+  form_.MousePress(position, mouse_button::kLeft, 0, true);
+  form_.MouseRelease(position, mouse_button::kLeft, 0);
+}
+
+void Robot::Click(const Control& control) {
+  const Point middle = MiddleOf(control);
+  const std::string why = WhyUnreachable(control, middle);
+  if (!why.empty()) throw std::invalid_argument(why);
+  ClickAt(middle);
+}
+
+void Robot::DoubleClick(const Control& control) {
+  const Point middle = MiddleOf(control);
+  const std::string why = WhyUnreachable(control, middle);
+  if (!why.empty()) throw std::invalid_argument(why);
+  DoubleClickAt(middle);
+}
+
+Point Robot::CellPosition(MSFlexGrid& grid, int row, int column) const {
+  if (row < 0 || row >= grid.Rows() || column < 0 || column >= grid.Cols()) {
+    throw std::invalid_argument(grid.FullName() + " has no cell " + std::to_string(row) + " " +
+                                std::to_string(column));
+  }
+  if (grid.ColWidth(column) == 0) {
+    throw std::invalid_argument("column " + std::to_string(column) + " of " + grid.FullName() + " is hidden");
+  }
+  // A row out of view is scrolled to, as a hand does with the wheel.
+  const auto is_whole = [&] {
+    const Rect cell = grid.CellRectangle(row, column);
+    return !cell.IsEmpty() && cell.height >= grid.RowHeight(row);
+  };
+  for (int turn = 0; turn <= grid.Rows() && !is_whole(); ++turn) {
+    const int top = grid.TopRow();
+    grid.MouseWheel(row < top ? -1 : 1);
+    if (grid.TopRow() == top) break;
+  }
+  const Rect cell = grid.CellRectangle(row, column);
+  if (cell.IsEmpty()) throw std::invalid_argument("that cell of " + grid.FullName() + " is out of view");
+  const Rect bounds = grid.Bounds();
+  return {bounds.left + cell.left + cell.width / 2, bounds.top + cell.top + cell.height / 2};
+}
+
+void Robot::ClickCell(MSFlexGrid& grid, int row, int column) {
+  const Point position = CellPosition(grid, row, column);
+  const std::string why = WhyUnreachable(grid, position);
+  if (!why.empty()) throw std::invalid_argument(why);
+  ClickAt(position);
+}
+
+void Robot::DoubleClickCell(MSFlexGrid& grid, int row, int column) {
+  const Point position = CellPosition(grid, row, column);
+  const std::string why = WhyUnreachable(grid, position);
+  if (!why.empty()) throw std::invalid_argument(why);
+  DoubleClickAt(position);
+}
+
+void Robot::ClickDay(MonthView& calendar, Date day) {
+  if (!calendar.IsOperable()) throw std::invalid_argument(calendar.FullName() + " is not open");
+  const Rect bounds = calendar.Bounds();
+  const auto middle = [&bounds](const Rect& place) {
+    return Point{bounds.left + place.left + place.width / 2, bounds.top + place.top + place.height / 2};
+  };
+  const auto month_of = [](Date date) { return date.Year() * 12 + date.Month(); };
+  int distance = month_of(day) - month_of(calendar.ViewMonth());
+  while (distance != 0) {
+    ClickAt(middle(distance < 0 ? calendar.PreviousButton() : calendar.NextButton()));
+    const int left = month_of(day) - month_of(calendar.ViewMonth());
+    if (left == distance) throw std::invalid_argument("the calendar does not reach that day");
+    distance = left;
+  }
+  const std::optional<Rect> place = calendar.DayRectangle(day);
+  if (!place) throw std::invalid_argument("the calendar does not show that day");
+  ClickAt(middle(*place));
+}
+
+void Robot::Key(int key_code, int shift) {
+  form_.KeyPress(key_code, shift);
+  const bool control = (shift & shift_mask::kControl) != 0;
+  if (key_code == key::kReturn || key_code == key::kEscape || key_code == key::kBack) {
+    form_.Character(static_cast<char32_t>(key_code));
+  } else if (control && key_code >= 'A' && key_code <= 'Z') {
+    form_.Character(static_cast<char32_t>(key_code - 'A' + 1));
+  }
+  form_.KeyRelease(key_code, shift);
+}
+
+void Robot::Type(std::string_view text) {
+  for (std::size_t offset = 0; offset < text.size();) {
+    const char32_t character = NextCharacter(text, offset);
+    if (character == U'\n') {
+      Key(key::kReturn);
+      continue;
+    }
+    if (character == U'\t') {
+      Key(key::kTab);
+      continue;
+    }
+    const int code = character < 128 ? std::toupper(static_cast<int>(character)) : 0xE7;
+    form_.KeyPress(code, 0);
+    form_.Character(character);
+    form_.KeyRelease(code, 0);
+  }
+}
+
+}  // namespace orvendal

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/forms/form.h"
+
+namespace orvendal {
+
+class MSFlexGrid;
+class MonthView;
+
+/// Hands that use a form as a person would: positions and keys go through the form's own input, so that hit
+/// test, focus and disabled controls decide what happens. Raises std::invalid_argument for what no hand could
+/// do.
+class Robot {
+ public:
+  explicit Robot(Form& form) : form_(form) {}
+
+  /// The control by its full name, or by the plain name of a group of two, whose click area (1) is meant.
+  Control& Find(std::string_view name) const;
+  /// Why a click on the control would not reach it; empty if it would. What belongs to the same action button
+  /// never covers.
+  std::string WhyUnreachable(const Control& control, Point position) const;
+
+  void Click(const Control& control);
+  void DoubleClick(const Control& control);
+  void ClickCell(MSFlexGrid& grid, int row, int column);
+  void DoubleClickCell(MSFlexGrid& grid, int row, int column);
+  /// Clicks that day in an open calendar, turning months as needed.
+  void ClickDay(MonthView& calendar, Date day);
+  void Press(Point position, int button = 1, int shift = 0);
+  void Release(Point position, int button = 1, int shift = 0);
+  void ClickAt(Point position);
+  void DoubleClickAt(Point position);
+
+  /// One key by its code, with the character that it stands for.
+  void Key(int key_code, int shift = 0);
+  /// Types a text, one key after the other; a line break is Enter.
+  void Type(std::string_view text);
+
+  Point MiddleOf(const Control& control) const;
+
+ private:
+  Point CellPosition(MSFlexGrid& grid, int row, int column) const;
+
+  Form& form_;
+};
+
+}  // namespace orvendal

@@ -1,0 +1,219 @@
+#include "platform/forms/form.h"
+#include "platform/forms/timer.h"
+
+namespace orvendal {
+namespace {
+
+Point LocalTo(const Control& control, Point position) {
+  const Rect bounds = control.Bounds();
+  return {position.x - bounds.left, position.y - bounds.top};
+}
+
+}  // namespace
+
+void Form::Dispatch(const std::function<void()>& event) {
+  if (!loaded_) return;
+  const ObjectRef self = shared_from_this();
+  const std::uint64_t life = life_;
+  try {
+    event();
+  } catch (const RuntimeError& error) {
+    const ModalScope report(host_);
+    host_.ReportError(error);
+    gesture_.pressed = false;
+    gesture_.swallowed = true;
+  }
+  if (StillLoaded(life)) UpdateCaret();
+}
+
+bool Form::GestureOver(std::uint64_t life, std::uint64_t modal_serial) {
+  if (!StillLoaded(life)) return true;
+  if (host_.ModalSerial() == modal_serial) return false;
+  gesture_.pressed = false;
+  gesture_.swallowed = true;
+  return true;
+}
+
+void Form::MousePress(Point position, int button, int shift, bool second_of_double) {
+  if (!host_.TakesInput(*this)) return;
+  Dispatch([&] {
+    if (second_of_double && gesture_.swallowed) return;
+    if (gesture_.pressed) return;  // another button while one is held
+    Control* target = ControlAt(position);
+    const bool is_double = second_of_double && target != nullptr && target == gesture_.target &&
+                           button == gesture_.button && !target->ClickPrecedesMouseUp() &&
+                           target->RaisesClick(LocalTo(*target, position));
+    if (is_double) {
+      PressSecondOfDouble(target, position, button, shift);
+    } else {
+      PressFirst(target, position, button, shift);
+    }
+  });
+}
+
+void Form::PressFirst(Control* target, Point position, int button, int shift) {
+  gesture_ = {};
+  gesture_.target = target;
+  gesture_.button = button;
+  if (target == nullptr) {
+    if (OnMouseDown) OnMouseDown();
+    return;
+  }
+  const std::uint64_t life = life_;
+  const std::uint64_t serial = host_.ModalSerial();
+  const Point local = LocalTo(*target, position);
+  gesture_.pressed = true;
+  gesture_.click_wanted = button == mouse_button::kLeft && target->RaisesClick(local);
+
+  target->MousePressing(button, shift, local);
+  if (GestureOver(life, serial)) return;
+  if (target->OnMouseDown && target->IsOperable()) target->OnMouseDown(button, shift, local.x, local.y);
+  if (GestureOver(life, serial)) return;
+  if (target->IsOperable()) target->MousePressed(button, shift, local);
+  if (GestureOver(life, serial)) return;
+  if (target->IsFocusable()) MoveFocus(target);
+  GestureOver(life, serial);
+}
+
+void Form::PressSecondOfDouble(Control* target, Point position, int button, int shift) {
+  const std::uint64_t life = life_;
+  const std::uint64_t serial = host_.ModalSerial();
+  gesture_.pressed = true;
+  gesture_.click_wanted = false;
+  if (button == mouse_button::kLeft && target->OnDblClick) target->OnDblClick();
+  if (GestureOver(life, serial)) return;
+  if (target->IsOperable()) target->MouseDoubleClicked(button, shift, LocalTo(*target, position));
+  GestureOver(life, serial);
+}
+
+void Form::MouseMove(Point position, int buttons, int shift) {
+  if (!host_.TakesInput(*this)) return;
+  Dispatch([&] {
+    Control* target = gesture_.pressed ? gesture_.target : ControlAt(position);
+    if (window_) {
+      window_->Cursor(target != nullptr ? target->Cursor(LocalTo(*target, position)) : CursorShape::kArrow);
+    }
+    if (target == nullptr || !target->IsOperable()) return;
+    const std::uint64_t life = life_;
+    const Point local = LocalTo(*target, position);
+    if (target->OnMouseMove) target->OnMouseMove(buttons, shift, local.x, local.y);
+    if (StillLoaded(life) && gesture_.pressed) target->MouseMoved(buttons, shift, local);
+  });
+}
+
+void Form::MouseRelease(Point position, int button, int shift) {
+  if (!host_.TakesInput(*this)) return;
+  Dispatch([&] {
+    if (!gesture_.pressed || button != gesture_.button) return;
+    gesture_.pressed = false;
+    if (gesture_.target != nullptr) Release(gesture_.target, position, button, shift);
+  });
+}
+
+void Form::Release(Control* target, Point position, int button, int shift) {
+  const std::uint64_t life = life_;
+  const std::uint64_t serial = host_.ModalSerial();
+  const bool click = gesture_.click_wanted && target->Bounds().Contains(position);
+  const bool click_first = target->ClickPrecedesMouseUp();
+  const auto raise_click = [&] {
+    if (click && target->OnClick && target->IsOperable()) target->OnClick();
+  };
+  target->MouseReleased(button, shift, LocalTo(*target, position));
+  if (GestureOver(life, serial)) return;
+  if (click_first) raise_click();
+  if (GestureOver(life, serial)) return;
+  const Point local = LocalTo(*target, position);
+  if (target->OnMouseUp && target->IsOperable()) target->OnMouseUp(button, shift, local.x, local.y);
+  if (GestureOver(life, serial)) return;
+  if (!click_first) raise_click();
+  GestureOver(life, serial);
+}
+
+void Form::MouseWheel(Point position, double lines) {
+  if (!host_.TakesInput(*this)) return;
+  Dispatch([&] {
+    std::vector<Control*> hits;
+    CollectAt(nullptr, position, hits);
+    for (Control* control : hits) {
+      if (control->IsOperable() && control->MouseWheel(lines)) return;
+    }
+  });
+}
+
+void Form::KeyPress(int key_code, int shift) {
+  if (!host_.TakesInput(*this)) return;
+  if (key_code == key::kF4 && (shift & shift_mask::kAlt) != 0) {
+    character_swallowed_ = true;
+    CloseRequest();
+    return;
+  }
+  Dispatch([&] {
+    character_swallowed_ = false;
+    key_target_ = active_control_;
+    const bool plain = (shift & (shift_mask::kControl | shift_mask::kAlt)) == 0;
+    if (key_code == key::kTab && plain && MoveFocusByTab((shift & shift_mask::kShift) != 0)) {
+      character_swallowed_ = true;
+      return;
+    }
+    const std::uint64_t life = life_;
+    Control* target = key_target_;
+    int code = key_code;
+    if ((key_preview_ || target == nullptr) && OnKeyDown) OnKeyDown(code, shift);
+    if (!StillLoaded(life) || code == 0 || target == nullptr) return;
+    if (target->OnKeyDown && target->IsOperable()) target->OnKeyDown(code, shift);
+    if (!StillLoaded(life) || code == 0 || !target->IsOperable()) return;
+    if (target->KeyDownDefault(code, shift)) character_swallowed_ = true;
+  });
+  // The clipboard's older keys mean the same as the letters, and pass the same filters.
+  if (key_code == key::kInsert && shift == shift_mask::kShift) Character(character::kPaste);
+  if (key_code == key::kInsert && shift == shift_mask::kControl) Character(character::kCopy);
+  if (key_code == key::kDelete && shift == shift_mask::kShift) Character(character::kCut);
+}
+
+void Form::Character(char32_t character) {
+  if (!host_.TakesInput(*this)) return;
+  Dispatch([&] {
+    if (character_swallowed_) return;
+    const std::uint64_t life = life_;
+    Control* target = key_target_ != nullptr ? key_target_ : active_control_;
+    int ascii = static_cast<int>(character);
+    if ((key_preview_ || target == nullptr) && OnKeyPress) OnKeyPress(ascii);
+    if (!StillLoaded(life) || ascii == 0 || target == nullptr || !target->IsOperable()) return;
+    if (target->OnKeyPress) target->OnKeyPress(ascii);
+    // A handler that hid its control without taking the character lets it in all the same.
+    if (StillLoaded(life) && ascii != 0) target->CharacterDefault(ascii);
+  });
+}
+
+void Form::KeyRelease(int key_code, int shift) {
+  if (!host_.TakesInput(*this)) return;
+  Dispatch([&] {
+    const std::uint64_t life = life_;
+    Control* target = active_control_;
+    int code = key_code;
+    key_target_ = nullptr;
+    if ((key_preview_ || target == nullptr) && OnKeyUp) OnKeyUp(code, shift);
+    if (!StillLoaded(life) || target == nullptr || !target->IsOperable()) return;
+    if (target->OnKeyUp) target->OnKeyUp(code, shift);
+    if (StillLoaded(life) && target->IsOperable()) target->KeyUpDefault(key_code, shift);
+  });
+}
+
+void Form::CloseRequest() {
+  if (!host_.TakesInput(*this)) return;
+  Dispatch([&] {
+    if (OnCloseRequest) {
+      OnCloseRequest();
+    } else {
+      Unload();
+    }
+  });
+}
+
+void Form::TimerElapsed(Timer& timer) {
+  Dispatch([&] {
+    if (timer.Enabled() && timer.OnTimer) timer.OnTimer();
+  });
+}
+
+}  // namespace orvendal
