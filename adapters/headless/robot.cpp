@@ -17,6 +17,21 @@ std::string ActionOf(const Control& control) {
   return is_member ? control.Name().substr(3) : std::string();
 }
 
+// Punctuation has key codes of its own: the characters' numbers are those of arrows and other keys.
+int KeyCodeOf(char32_t character) {
+  constexpr int kComma = 188;
+  constexpr int kMinus = 189;
+  constexpr int kPeriod = 190;
+  constexpr int kOther = 231;
+  if (character == U' ') return key::kSpace;
+  if (character == U',') return kComma;
+  if (character == U'-') return kMinus;
+  if (character == U'.') return kPeriod;
+  if (character < 128 && std::isalnum(static_cast<int>(character)) != 0)
+    return std::toupper(static_cast<int>(character));
+  return kOther;
+}
+
 bool IsInside(const Control* inner, const Control* outer) {
   for (; inner != nullptr; inner = inner->Container()) {
     if (inner == outer) return true;
@@ -162,7 +177,7 @@ void Robot::Type(std::string_view text) {
       Key(key::kTab);
       continue;
     }
-    const int code = character < 128 ? std::toupper(static_cast<int>(character)) : 0xE7;
+    const int code = KeyCodeOf(character);
     form_.KeyPress(code, 0);
     form_.Character(character);
     form_.KeyRelease(code, 0);
