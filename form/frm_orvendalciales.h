@@ -1,0 +1,223 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "component/component_state.h"
+#include "platform/forms/barra.h"
+#include "platform/forms/boton.h"
+#include "platform/forms/combo_box.h"
+#include "platform/forms/command_button.h"
+#include "platform/forms/form.h"
+#include "platform/forms/h_scroll_bar.h"
+#include "platform/forms/label.h"
+#include "platform/forms/month_view.h"
+#include "platform/forms/ms_flex_grid.h"
+#include "platform/forms/picture_box.h"
+#include "platform/forms/shape.h"
+#include "platform/forms/text_box.h"
+#include "platform/forms/timer.h"
+#include "screen/action_bar.h"
+
+namespace orvendal {
+
+/// The screen: the entry of opening stock counts. One object with its 46 controls, its variables, its
+/// handlers named Control_Event and its procedures; their definitions lie in form/ (frame and start), lines/
+/// (entry of lines) and count/ (what is done with them).
+///
+/// Invariants between two events: lines have no gaps; `MSFProductos1` is what the store held at the last
+/// load; `PintandoFila`, `MoviendoColumna`, `CargandoLineas` and `FlagFechaCambio` are False; supervisor mode
+/// is on exactly while `LblSupervisor` is visible.
+class FrmOrvendalciales final : public Form {
+ public:
+  explicit FrmOrvendalciales(ComponentState& state);
+
+  // Controls, in the order of their creation.
+  Barra Barra1{*this, nullptr, "Barra1"};
+  PictureBox PicServicios{*this, nullptr, "PicServicios"};
+  PictureBox PicDatos{*this, &PicServicios, "PicDatos"};
+  ComboBox CodigosaRecalcular{*this, &PicDatos, "CodigosaRecalcular"};
+  CommandButton CmdEmpl{*this, &PicDatos, "CmdEmpl"};
+  Timer TimerCBarra{*this, &PicDatos, "TimerCBarra"};
+  TextBox TxtEmpleado{*this, &PicDatos, "TxtEmpleado"};
+  PictureBox PicCalendario{*this, &PicDatos, "PicCalendario"};
+  MonthView Calendario{*this, &PicCalendario, "Calendario"};
+  TextBox TxtCodigo{*this, &PicDatos, "TxtCodigo"};
+  HScrollBar ScrollProductos{*this, &PicDatos, "ScrollProductos"};
+  TextBox TxtMSF{*this, &PicDatos, "TxtMSF"};
+  TextBox MkFecha{*this, &PicDatos, "MkFecha"};
+  TextBox TxtFechaHora{*this, &PicDatos, "TxtFechaHora"};
+  MSFlexGrid MSFProductos1{*this, &PicDatos, "MSFProductos1"};
+  MSFlexGrid MSFProductos{*this, &PicDatos, "MSFProductos"};
+  Boton BtnAnuloSuper{*this, &PicDatos, "BtnAnuloSuper"};
+  Label LblEntrada{*this, &PicDatos, "LblEntrada"};
+  Label LblSucursal{*this, &PicDatos, "LblSucursal"};
+  Label LblDatos{*this, &PicDatos, "LblDatos"};
+  Shape Shape1{*this, &PicDatos, "Shape1"};
+  Label LblFecha{*this, &PicDatos, "LblFecha"};
+  Label LblEmpleado{*this, &PicDatos, "LblEmpleado"};
+  Shape DivCliente{*this, &PicDatos, "DivCliente"};
+  Label LblGuardar_1{*this, &PicServicios, "LblGuardar", 1};
+  Label LblBorrar_1{*this, &PicServicios, "LblBorrar", 1};
+  Label LblNuevo_1{*this, &PicServicios, "LblNuevo", 1};
+  Label LblSupervisor{*this, &PicServicios, "LblSupervisor"};
+  Label LblCancelar_0{*this, &PicServicios, "LblCancelar", 0};
+  Label LblGuardar_0{*this, &PicServicios, "LblGuardar", 0};
+  Label LblBorrar_0{*this, &PicServicios, "LblBorrar", 0};
+  Label LblBuscar_0{*this, &PicServicios, "LblBuscar", 0};
+  Label LblNuevo_0{*this, &PicServicios, "LblNuevo", 0};
+  Shape DivOrden{*this, &PicServicios, "DivOrden"};
+  Label LblCancelar_1{*this, &PicServicios, "LblCancelar", 1};
+  Label LblBuscar_1{*this, &PicServicios, "LblBuscar", 1};
+  Shape DivNuevo_1{*this, &PicServicios, "DivNuevo", 1};
+  Shape DivNuevo_0{*this, &PicServicios, "DivNuevo", 0};
+  Shape DivBuscar_1{*this, &PicServicios, "DivBuscar", 1};
+  Shape DivBuscar_0{*this, &PicServicios, "DivBuscar", 0};
+  Shape DivCancelar_1{*this, &PicServicios, "DivCancelar", 1};
+  Shape DivCancelar_0{*this, &PicServicios, "DivCancelar", 0};
+  Shape DivBorrar_1{*this, &PicServicios, "DivBorrar", 1};
+  Shape DivBorrar_0{*this, &PicServicios, "DivBorrar", 0};
+  Shape DivGuardar_1{*this, &PicServicios, "DivGuardar", 1};
+  Shape DivGuardar_0{*this, &PicServicios, "DivGuardar", 0};
+
+  /// The variables of the form, empty again at each load.
+  struct Variables {
+    RecordsetRef RsCodigos;  // made on first use, see RsCodigosEnUso
+    bool PrimeraActivacion = false;
+    bool ModoNuevo = false;  // nothing sets it
+    bool PintandoFila = false;
+    bool MoviendoColumna = false;
+    std::string CodigoCelda;    // written only
+    std::string CantidadCelda;  // written only
+    std::string BufferTeclas;   // cleared only
+    bool CambiarEstilista = false;
+    bool FlagSupervisor = false;
+    bool FlagFechaCambio = false;
+    std::uint8_t UltimaColumna = 0;
+    bool CargandoLineas = false;  // a load runs: the open editor is not to write into the lines
+  };
+  Variables variables;
+
+  // Frame: start, activation, keys, closing.
+  void Form_Load();
+  void Form_Activate();
+  void Form_KeyDown(int& KeyCode, int Shift);
+  void Form_Unload(int& Cancel);
+  void Barra1_Minimizar();
+  void Barra1_Cerrar();
+  void TimerCBarra_Timer();
+  /// Switches the action bar to one of the sets below: the names of the buttons to switch off.
+  void PonerBotones(const ButtonSet& off);
+
+  // Cell editor and grid.
+  void ColocarEditor();
+  void EntrarCelda(int& KeyAscii);
+  void TxtMSF_GotFocus();
+  void TxtMSF_KeyDown(int& KeyCode, int Shift);
+  void TxtMSF_KeyPress(int& KeyAscii);
+  void MSFProductos_GotFocus();
+  void MSFProductos_Click();
+  void MSFProductos_DblClick();
+  void MSFProductos_KeyPress(int& KeyAscii);
+  void MSFProductos_MouseDown(int Button, int Shift, double X, double Y);
+  void MSFProductos_RowColChange();
+  void MSFProductos_LeaveCell();
+  void MSFProductos_Scroll();
+  void ScrollProductos_Change();
+  /// `Direccion`: "Izq", "Der", "Arr" or "Aba".
+  void MoverCelda(const std::string& Direccion);
+
+  // Products and stylist.
+  void ValidarProducto(bool& Resultado);
+  std::string BuscarReferencia(const std::string& Referencia);
+  bool ProductoRepetido(const std::string& Codigo);
+  bool CargarLinea(const std::string& Codigo);
+  void LblBuscar_Click(int Index);
+  void CmdEmpl_Click();
+  void TxtEmpleado_GotFocus();
+  void TxtEmpleado_KeyPress(int& KeyAscii);
+  void TxtEmpleado_LostFocus();
+
+  // Count.
+  void CargarExistencias();
+  void LblNuevo_Click(int Index);
+  void LblCancelar_Click(int Index);
+  void LimpiarCabecera();
+  void LblGuardar_Click(int Index);
+  bool ExisteProducto(const std::string& Codigo);
+  void AnotarRecalculo(const std::string& Codigo);
+  void LblBorrar_Click(int Index);
+  void BtnAnuloSuper_Click();
+  void MkFecha_GotFocus();
+  void MkFecha_KeyPress(int& KeyAscii);
+  void MkFecha_LostFocus();
+  void TxtFechaHora_GotFocus();
+  void TxtFechaHora_LostFocus();
+  void Calendario_DblClick();
+  void Calendario_LostFocus();
+  void Calendario_KeyPress(int& KeyAscii);
+  void Calendario_SelChange(Date StartDate, Date EndDate, bool& Cancel);
+  bool HayCambios();
+
+ protected:
+  void ApplyDesign() override;
+
+ private:
+  // Wiring, one line per control and event.
+  void WireFrame();
+  void WireLines();
+  void WireCount();
+  void WireActionBar();
+  void WirePressLook(Label& member, Label& caption);
+
+  // Steps of Form_Load.
+  void SetCaptions();
+  void DefineLineGrid();
+  void FitDescriptionColumn();
+  void FitEditor();
+  void DefineSnapshotGrid();
+  void NameBranch();
+  void SetDates();
+  void FitToScreen();
+
+  // Shared small steps.
+  ActionBar Buttons();
+  DatosComunes& Session() { return state_.session; }
+  const Region& UserRegion() { return Host().UserRegion(); }
+  std::string TextOf(const Value& value) { return UserRegion().ToText(value); }
+  RecordsetRef NewRecordset() { return state_.environment.recordsets.NewRecordset(); }
+  Recordset& RsCodigosEnUso();
+  std::int32_t Mostrar(std::string texto, std::int32_t estilo, std::string titulo);
+  std::string FormatoFecha(std::string fecha);
+  std::shared_ptr<FrmOrvendalciales> GlobalForm();
+  void TakeGlobalForm(const ObjectRef& form);
+
+  void PaintLine(ColorWord back_color, ColorWord fore_color, int last_column);
+  void SelectEditorText();
+  void PlaceEditorAnew();
+  bool IsEditingQuantity();
+  void ConfirmCell();
+  void ConfirmQuantity();
+  void FocusEditorOrGrid();
+  std::string AbrirBuscador(const std::string& field, const std::string& text);
+  std::string ChosenProduct();
+  struct Pick;
+  Pick AbrirSelector(bool para_nuevo);
+  std::int32_t AskToSave();
+  void FillRow(int row);
+  bool StoreRow(int row);
+  void WriteLoadedRow(int row, const Recordset& lines);
+  void ShowNormalMode();
+
+  ComponentState& state_;
+};
+
+/// The button sets, by the names of what is switched off.
+extern const ButtonSet BotonesEnCelda;
+extern const ButtonSet BotonesConLineas;
+extern const ButtonSet BotonesEnReposo;
+extern const ButtonSet BotonesSoloCancelar;
+extern const ButtonSet BotonesBloqueados;
+
+}  // namespace orvendal

@@ -1,0 +1,119 @@
+#include "form/columns.h"
+#include "form/frm_orvendalciales.h"
+#include "store/statements.h"
+
+namespace orvendal {
+
+void FrmOrvendalciales::ValidarProducto(bool& Resultado) {
+  Resultado = false;
+  const std::string code = ChosenProduct();
+  if (code.empty()) return;
+  if (ProductoRepetido(code)) return;
+  Resultado = CargarLinea(code);
+}
+
+// The product that the editor's text stands for: from the product table, else from the references, else from
+// the user, who decides too where several products match. "" if he does not.
+std::string FrmOrvendalciales::ChosenProduct() {
+  const bool by_code = MSFProductos.Col() == column::kCode;
+  const std::string text = TxtMSF.Text();
+  const char* const field = by_code ? "Codigo" : "Descripcion";
+  const RecordsetRef products = NewRecordset();
+  statements::OpenForReading(
+      *products, by_code ? statements::ProductsLikeCode(text) : statements::ProductsByDescription(text),
+      Session().Conexion);
+  std::string code;
+  if (products->AtEnd()) {
+    code = BuscarReferencia(text);
+    if (code.empty()) code = AbrirBuscador(field, text);
+  } else if (products->RecordCount() == 1) {
+    code = TextOf(products->Fields("Codigo").Value());
+  } else {
+    code = AbrirBuscador(field, text);
+  }
+  products->Close();
+  return code;
+}
+
+std::string FrmOrvendalciales::BuscarReferencia(const std::string& Referencia) {
+  RecordsetRef references = NewRecordset();
+  statements::OpenForReading(*references, statements::Reference(Referencia), Session().Conexion);
+  std::string code;
+  if (!references->AtEnd()) code = TextOf(references->Fields("IdProducto").Value());
+  references->Close();
+  references.reset();
+  return code;
+}
+
+bool FrmOrvendalciales::ProductoRepetido(const std::string& Codigo) {
+  for (int row = 1; row <= MSFProductos.Rows() - 1; ++row) {
+    const std::string& code = MSFProductos.TextMatrix(row, column::kCode);
+    if (code.empty()) return false;
+    if (code == Codigo && row != MSFProductos.Row()) {
+      Mostrar("El Producto Seleccionado ya se ha Introducido Anteriormente, Imposible Continuar",
+              message::kInformation, "");
+      return true;
+    }
+  }
+  return false;
+}
+
+bool FrmOrvendalciales::CargarLinea(const std::string& Codigo) {
+  MSFlexGrid& grid = MSFProductos;
+  const int row = grid.Row();
+  // A line is not loaded twice with the same product.
+  if (Codigo == grid.TextMatrix(row, column::kStoredCode)) return false;
+  RecordsetRef product = NewRecordset();
+  statements::OpenForReading(*product, statements::DescriptionOf(Codigo), Session().Conexion);
+  if (product->AtEnd()) {
+    product->Close();
+    product.reset();
+    return false;
+  }
+  TxtMSF.Text(Codigo);
+  grid.TextMatrix(row, column::kCode, Codigo);
+  grid.TextMatrix(row, column::kDescription, TextOf(product->Fields("Descripcion").Value()));
+  product->Close();
+
+  statements::OpenForReading(*product, statements::StockOf(Session().ClaveSucursal(), Codigo),
+                             Session().Conexion);
+  std::int32_t stock = 0;
+  if (!product->AtEnd()) stock = UserRegion().ToLong(product->Fields("Stock").Value());
+  const std::string stock_text = TextOf(stock);
+  grid.TextMatrix(row, column::kPreviousQuantity, stock_text);
+  grid.TextMatrix(row, column::kQuantity, stock_text);
+  grid.TextMatrix(row, column::kDate, TextOf(Calendario.Value()));
+  grid.TextMatrix(row, column::kEmployeeCode, TxtCodigo.Text());
+  grid.TextMatrix(row, column::kStylist, TxtEmpleado.Text());
+  grid.TextMatrix(row, column::kStoredCode, Codigo);
+  product->Close();
+  product.reset();
+  return true;
+}
+
+void FrmOrvendalciales::LblBuscar_Click(int /*Index*/) {
+  const int row = MSFProductos.Row();
+  // The search starts from the cell: what is typed and not confirmed does not reach it.
+  const std::string code =
+      MSFProductos.Col() == column::kCode
+          ? AbrirBuscador("Codigo", MSFProductos.TextMatrix(row, column::kCode))
+          : AbrirBuscador("Descripcion", MSFProductos.TextMatrix(row, column::kDescription));
+  if (code.empty() || ProductoRepetido(code) || !CargarLinea(code)) return;
+  if (MSFProductos.Col() == column::kQuantity) {
+    PlaceEditorAnew();  // the cursor does not move, so no event brings the stock into the editor
+  } else {
+    MSFProductos.Col(column::kQuantity);
+  }
+}
+
+std::string FrmOrvendalciales::AbrirBuscador(const std::string& field, const std::string& text) {
+  std::unique_ptr<BuscadorProductos> dialog = state_.environment.library.NewBuscadorProductos();
+  ObjectRef form = GlobalForm();
+  bool ignored = false;
+  const std::string code =
+      dialog->Buscar(Session().DatosSesion, form, "Orvendalcial", field, text, "Modal", ignored);
+  TakeGlobalForm(form);
+  return code;
+}
+
+}  // namespace orvendal

@@ -1,0 +1,63 @@
+#include "form/frm_orvendalciales.h"
+#include "form/pick.h"
+#include "screen/palette.h"
+
+namespace orvendal {
+
+void FrmOrvendalciales::CmdEmpl_Click() {
+  TxtEmpleado.Enabled(true);
+  variables.CambiarEstilista = true;
+  TxtEmpleado.SetFocus();
+}
+
+FrmOrvendalciales::Pick FrmOrvendalciales::AbrirSelector(bool para_nuevo) {
+  std::unique_ptr<SelectorEmpleado> picker = state_.environment.library.NewSelectorEmpleado();
+  picker->ParaNuevo(para_nuevo);
+  picker->Aceptado(false);
+  picker->OpcionFija(true);
+  picker->Nombre("");
+  ConnectionRef connection = Session().Conexion;
+  picker->Elegir(connection, Session().CodSucursal);
+  Session().Conexion = connection;
+  Pick pick;
+  pick.accepted = picker->Aceptado();
+  if (pick.accepted) {
+    pick.name = picker->Nombre();
+    pick.code = picker->Codigo();
+  }
+  return pick;
+}
+
+void FrmOrvendalciales::TxtEmpleado_GotFocus() {
+  TxtEmpleado.BackColor(palette::kDarkSand);
+  if (!TxtEmpleado.Text().empty() && !variables.CambiarEstilista) {
+    PicDatos.SetFocus();
+    return;
+  }
+  const Pick pick = AbrirSelector(false);
+  // A box that the button opened closes again whether the user chose or not.
+  if (variables.CambiarEstilista) TxtEmpleado.Enabled(false);
+  variables.CambiarEstilista = false;
+  if (!pick.accepted) {
+    PicDatos.SetFocus();
+    return;
+  }
+  TxtEmpleado.Text(pick.name);
+  TxtCodigo.Text(pick.code);
+  if (!TxtEmpleado.Text().empty()) TxtEmpleado.Enabled(false);
+  PonerBotones(BotonesConLineas);
+  MSFProductos.SetFocus();
+}
+
+// Nobody types into the box: it only triggers the picker.
+void FrmOrvendalciales::TxtEmpleado_KeyPress(int& /*KeyAscii*/) {}
+void FrmOrvendalciales::TxtEmpleado_LostFocus() {}
+
+void FrmOrvendalciales::MSFProductos_GotFocus() {
+  if (!TxtEmpleado.Text().empty()) return;
+  Mostrar("Debe seleccionar un Estilista", message::kInformation, "");
+  TxtEmpleado.Enabled(true);
+  TxtEmpleado.SetFocus();
+}
+
+}  // namespace orvendal
