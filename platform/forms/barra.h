@@ -31,6 +31,8 @@ class Barra final : public Control {
   void MousePressed(int button, int shift, Point local) override;
   void MouseMoved(int buttons, int shift, Point local) override;
   void MouseReleased(int button, int shift, Point local) override;
+  bool RaisesClick(Point local) const override { return PartAt(local) == Part::kNone; }
+  void GestureCancelled() override;
 
  protected:
   ControlProperties DefaultProperties() const override;

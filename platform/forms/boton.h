@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/forms/button_press.h"
 #include "platform/forms/control.h"
 #include "platform/forms/property_list.h"
 
@@ -27,19 +28,16 @@ class Boton final : public Control {
   bool KeyDownDefault(int key_code, int shift) override;
   void KeyUpDefault(int key_code, int shift) override;
   void FocusChanged(bool has_focus) override;
+  void GestureCancelled() override;
 
  protected:
   ControlProperties DefaultProperties() const override;
 
  private:
-  void Pushed(bool pushed);
-
   PropertyList stored_;
   std::string caption_;
   int border_pixels_ = 1;
-  bool pushed_ = false;
-  bool armed_ = false;
-  bool blank_down_ = false;
+  ButtonPress press_;
 };
 
 }  // namespace orvendal

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "platform/forms/button_press.h"
 #include "platform/forms/control.h"
 
 namespace orvendal {
@@ -27,18 +28,15 @@ class CommandButton final : public Control {
   bool KeyDownDefault(int key_code, int shift) override;
   void KeyUpDefault(int key_code, int shift) override;
   void FocusChanged(bool has_focus) override;
+  void GestureCancelled() override;
 
  protected:
   ControlProperties DefaultProperties() const override;
 
  private:
-  void Pushed(bool pushed);
-
   std::string caption_;
   int style_ = 0;
-  bool pushed_ = false;
-  bool armed_ = false;  // the mouse button went down on it
-  bool blank_down_ = false;
+  ButtonPress press_;
 };
 
 }  // namespace orvendal

@@ -166,6 +166,8 @@ class Control {
   virtual void MouseMoved(int /*buttons*/, int /*shift*/, Point /*local*/) {}
   /// Before MouseUp and Click are raised.
   virtual void MouseReleased(int /*button*/, int /*shift*/, Point /*local*/) {}
+  /// The press that is under way ends without a release: a dialog or an error came between.
+  virtual void GestureCancelled() {}
   virtual void MouseDoubleClicked(int /*button*/, int /*shift*/, Point /*local*/) {}
   /// Positive `lines` scroll down. True if the control made use of it.
   virtual bool MouseWheel(double /*lines*/) { return false; }

@@ -22,6 +22,7 @@ void Form::Dispatch(const std::function<void()>& event) {
     host_.ReportError(error);
     gesture_.pressed = false;
     gesture_.swallowed = true;
+    if (gesture_.target != nullptr) gesture_.target->GestureCancelled();
   }
   if (StillLoaded(life)) UpdateCaret();
 }
@@ -31,6 +32,7 @@ bool Form::GestureOver(std::uint64_t life, std::uint64_t modal_serial) {
   if (host_.ModalSerial() == modal_serial) return false;
   gesture_.pressed = false;
   gesture_.swallowed = true;
+  if (gesture_.target != nullptr) gesture_.target->GestureCancelled();
   return true;
 }
 

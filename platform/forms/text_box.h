@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "platform/forms/control.h"
 
@@ -54,36 +56,60 @@ class TextBox final : public Control {
 
  protected:
   ControlProperties DefaultProperties() const override;
+  void FontChanged() override;
+  void SizeChanged() override;
 
  private:
+  struct Snapshot {
+    std::string text;
+    std::size_t caret = 0;
+  };
+  struct Drag {
+    std::size_t anchor = 0;    // the end of the selection that stays
+    std::size_t position = 0;  // where the pointer was last
+    double origin = 0;         // TextOrigin at the press
+    bool moving = false;
+  };
+
+  // What the text measures, in twips.
   Rect TextArea() const;
-  double OffsetOf(std::size_t position) const;  // twips from the start of the text
+  double OffsetOf(std::size_t position) const;  // from the start of the text
   double TextOrigin() const;                    // where the text starts, relative to the control
-  std::size_t PositionAt(double x) const;
-  void MoveCaret(std::size_t position, bool extend);
+  std::size_t PositionAt(double x, double origin) const;
+  std::size_t CharacterAt(double x) const;
+
+  // Changes (text_box.cpp).
   void Select(std::size_t anchor, std::size_t caret);
-  void ReplaceSelection(const std::string& text);
-  void Edited();
   void ScrollToCaret();
+  void Replace(std::size_t from, std::size_t to, std::string_view text, bool typing = false);
+
+  // Hands (text_box_input.cpp).
+  void MoveCaret(std::size_t position, bool extend);
+  bool MoveByKey(int key_code, int shift);
   std::size_t WordLeft(std::size_t position) const;
   std::size_t WordRight(std::size_t position) const;
+  void Remember(bool typing);
+  void Type(char32_t character);
+  void Erase(std::size_t from, std::size_t to);
+  void Backspace(std::size_t unselected_from);
   void Copy() const;
   void Cut();
   void Paste();
   void Undo();
 
   std::string text_;
+  std::size_t length_ = 0;  // characters of text_
   std::size_t selection_start_ = 0;
   std::size_t selection_length_ = 0;
   std::size_t anchor_ = 0;
   std::size_t caret_ = 0;
-  std::size_t press_position_ = 0;
+  Drag drag_;
   double scroll_ = 0;  // twips of the text that lie left of the box
   bool locked_ = false;
   HorizontalAlign alignment_ = HorizontalAlign::kLeft;
   std::size_t max_length_ = 0;
-  std::string undo_text_;
-  std::size_t undo_caret_ = 0;
+  std::optional<Snapshot> undo_;
+  bool typing_ = false;  // characters typed one after the other are undone together
 };
 
 }  // namespace orvendal

@@ -1,0 +1,46 @@
+#include "platform/forms/picture_box.h"
+
+#include "platform/forms/control_looks.h"
+
+namespace orvendal {
+
+PictureBox::PictureBox(Form& form, Control* container, std::string_view name, int index)
+    : Control(form, container, name, index) {
+  InitializeDefaults();
+}
+
+ControlProperties PictureBox::DefaultProperties() const {
+  ControlProperties properties;
+  properties.back_color = system_color::kButtonFace;
+  properties.fore_color = system_color::kButtonText;
+  properties.border_style = 1;
+  return properties;
+}
+
+void PictureBox::RestoreDefaults() {
+  Control::RestoreDefaults();
+  picture_.reset();
+}
+
+void PictureBox::Picture(std::shared_ptr<const Bitmap> picture) {
+  if (picture == picture_) return;
+  picture_ = std::move(picture);
+  Invalidate();
+}
+
+Point PictureBox::ClientOrigin() const {
+  const double inset = BorderInset(BorderStyle(), Appearance());
+  return {inset, inset};
+}
+
+void PictureBox::Paint(Canvas& canvas) {
+  const Rect bounds = LocalBounds();
+  canvas.FillRectangle(bounds, Resolve(BackColor()));
+  if (picture_) {
+    const Point inside = ClientOrigin();
+    canvas.DrawBitmap(inside, *picture_, bounds.Deflated(inside.x));
+  }
+  PaintBorder(canvas, Host(), bounds, BorderStyle(), Appearance());
+}
+
+}  // namespace orvendal
