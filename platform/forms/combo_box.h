@@ -23,6 +23,7 @@ class ComboBox final : public Control {
   /// Raises error 381 outside the list.
   const std::string& List(int index) const;
   int ListIndex() const { return list_index_; }
+  /// Choosing another entry, by user or code, raises OnClick. Raises error 380 outside -1..ListCount - 1.
   void ListIndex(int index);
   /// Appends at the end.
   void AddItem(const std::string& text);
@@ -32,6 +33,9 @@ class ComboBox final : public Control {
   void Paint(Canvas& canvas) override;
   bool KeyDownDefault(int key_code, int shift) override;
   bool MouseWheel(double lines) override;
+  /// Click is the choice of another entry.
+  bool RaisesClick(Point /*local*/) const override { return false; }
+  void FocusChanged(bool has_focus) override;
 
  protected:
   ControlProperties DefaultProperties() const override;

@@ -13,6 +13,7 @@ class HScrollBar final : public Control {
   ControlKind Kind() const override { return ControlKind::kHScrollBar; }
 
   int Min() const { return min_; }
+  /// Min and Max may stand in either order. A limit that cuts Value off moves it, raising nothing.
   void Min(int minimum);
   int Max() const { return max_; }
   void Max(int maximum);
@@ -35,10 +36,20 @@ class HScrollBar final : public Control {
   bool MouseWheel(double lines) override;
   bool RaisesClick(Point /*local*/) const override { return false; }
   void FocusChanged(bool has_focus) override;
+  void GestureCancelled() override { dragging_ = false; }
 
  private:
-  void Step(int change);
-  Rect Thumb() const;
+  struct Layout {
+    Rect left_arrow;
+    Rect right_arrow;
+    Rect track;
+    Rect thumb;
+  };
+  Layout Measure() const;
+  bool IsInert() const { return min_ == max_; }
+  int Clamped(double value) const;
+  void Step(double change);  // from Min towards Max
+  void HoldWithinLimits();
 
   int min_ = 0;
   int max_ = 32767;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
+#include <string_view>
 
 #include "platform/base/date.h"
 #include "platform/forms/control.h"
@@ -34,6 +36,8 @@ class MonthView final : public Control {
 
   /// First day of the month that shows.
   Date ViewMonth() const { return view_month_; }
+  /// The line at the bottom that names today.
+  Rect TodayLine() const;
   /// Place of a day of the view (neighbour months' days included), relative to the control; nothing if it
   /// does not show.
   std::optional<Rect> DayRectangle(Date day) const;
@@ -46,6 +50,8 @@ class MonthView final : public Control {
   bool KeyDownDefault(int key_code, int shift) override;
   bool MouseWheel(double lines) override;
   void FocusChanged(bool has_focus) override;
+  /// The month buttons are parts of their own.
+  bool RaisesClick(Point local) const override;
 
  protected:
   ControlProperties DefaultProperties() const override;
@@ -53,10 +59,19 @@ class MonthView final : public Control {
  private:
   struct Layout;
   Layout Measure() const;
-  Date FirstShownDay() const;
+  bool IsSelectable(std::int32_t day_number) const;
+  std::int32_t FirstShownDay() const;  // a day number: it may lie before all dates
   std::optional<Date> DayAt(Point local) const;
-  void SelectByUser(Date day);
-  void TurnView(int months);
+  bool SelectByUser(Date day);  // whether the selection stands, with the form as it was
+  void Show(Date day);
+  bool TurnView(int months);
+  Date MonthsAway(int months) const;
+  std::optional<std::int32_t> DayForKey(int key_code, bool with_control) const;
+
+  void PaintHeading(Canvas& canvas, const Layout& layout) const;
+  void PaintDays(Canvas& canvas, const Layout& layout) const;
+  void PaintTodayLine(Canvas& canvas, const Layout& layout) const;
+  FontSpec FittedFont(const Rect& cell, std::string_view widest, int weight) const;
 
   Date value_;
   Date view_month_;
