@@ -100,14 +100,20 @@ bool MonthView::SelectByUser(Date day) {
   const Date old_view = view_month_;
   const std::uint64_t dialogs = Host().ModalSerial();
   Show(day);
-  bool cancel = false;
-  if (OnSelChange) OnSelChange(day, day, cancel);
-  if (!Parent().IsLoaded()) return false;
-  if (cancel) {
+  const auto revert = [&] {
     value_ = old_value;
     view_month_ = old_view;
     Invalidate();
+  };
+  bool cancel = false;
+  try {
+    if (OnSelChange) OnSelChange(day, day, cancel);
+  } catch (...) {
+    if (Parent().IsLoaded()) revert();  // a change that failed half-way selects no new day
+    throw;
   }
+  if (!Parent().IsLoaded()) return false;
+  if (cancel) revert();
   return !cancel && Host().ModalSerial() == dialogs && IsOperable();
 }
 

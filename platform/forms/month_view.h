@@ -29,7 +29,7 @@ class MonthView final : public Control {
   ColorWord MonthBackColor() const { return month_back_color_; }
   void MonthBackColor(ColorWord color);
 
-  /// The user selected another day: Value is new already; `cancel` True puts the old one back.
+  /// The user selected another day: Value is new already; `cancel` True, or an error, puts the old one back.
   std::function<void(Date start, Date end, bool& cancel)> OnSelChange;
   /// The user clicked a day, after OnSelChange if that changed the selection.
   std::function<void(Date clicked)> OnDateClick;

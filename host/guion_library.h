@@ -1,0 +1,106 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/forms/window_host.h"
+#include "platform/library/library.h"
+
+namespace orvendal {
+
+/// A dialog or a question came up for which no answer is queued.
+class UnansweredQuestion : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The maker's library with its dialogs answered beforehand and every call written down. What is no dialog
+/// goes to the library inside.
+class ScriptedLibrary final : public Library {
+ public:
+  struct EmployeeAnswer {
+    bool accepted = false;
+    std::string code;
+    std::string name;
+  };
+  struct ShownMessage {
+    std::int32_t style = 0;
+    std::string title;
+    std::string text;
+    std::int32_t answer = 0;
+  };
+
+  /// `inner` and `host` outlive the object.
+  ScriptedLibrary(Library& inner, WindowHost& host) : inner_(inner), host_(host) {}
+
+  void QueueEmployee(const EmployeeAnswer& answer) { employees_.push_back(answer); }
+  /// "" for a search that is cancelled.
+  void QueueProduct(const std::string& code) { products_.push_back(code); }
+  /// Answer code of the next message with several buttons.
+  void QueueAnswer(std::int32_t code) { answers_.push_back(code); }
+  bool HasQueuedAnswers() const { return !employees_.empty() || !products_.empty() || !answers_.empty(); }
+
+  /// Runs while the next dialog is up, before its answer is given.
+  void DuringNextDialog(std::function<void()> action) { during_dialog_.push_back(std::move(action)); }
+  /// What an operation gives back in place of the connection that it was handed, once; "Elegir",
+  /// "AccionPuesto", "AbrirCambio", "RegistrarSentencia".
+  void ReplaceConnection(const std::string& operation, ConnectionRef connection);
+  /// The next call of the operation, such as "RecalcularProducto", fails so.
+  void FailNext(const std::string& operation, const RuntimeError& error) {
+    failures_.insert_or_assign(operation, error);
+  }
+  /// Whether LiberarForm leaves the reference as it is.
+  void KeepForm(bool keep) { keep_form_ = keep; }
+  /// What AccionPuesto and AbrirCambio do instead of opening their dialogs.
+  std::function<void(std::string& cod_puesto)> OnAccionPuesto;
+  std::function<void(std::string& cod_sucursal, std::string& cod_puesto, std::string& cod_turno)>
+      OnAbrirCambio;
+
+  /// Calls and messages since last asked.
+  std::vector<std::string> TakeCalls();
+  std::vector<ShownMessage> TakeMessages();
+  const std::vector<std::string>& Calls() const { return calls_; }
+
+  std::unique_ptr<Herramientas> NewHerramientas() override;
+  std::unique_ptr<Mensajes> NewMensajes() override;
+  std::unique_ptr<CambioSesion> NewCambioSesion() override;
+  std::unique_ptr<Recalculo> NewRecalculo() override;
+  std::unique_ptr<BuscadorProductos> NewBuscadorProductos() override;
+  std::unique_ptr<SelectorEmpleado> NewSelectorEmpleado() override;
+
+ private:
+  friend class ScriptedHerramientas;
+  friend class ScriptedMensajes;
+  friend class ScriptedCambioSesion;
+  friend class ScriptedRecalculo;
+  friend class ScriptedBuscador;
+  friend class ScriptedSelector;
+
+  void Record(const std::string& call) { calls_.push_back(call); }
+  void FailIfAsked(const std::string& operation);
+  void ReplaceIfAsked(const std::string& operation, ConnectionRef& connection);
+  void RunDuringDialog();
+
+  Library& inner_;
+  WindowHost& host_;
+  std::deque<EmployeeAnswer> employees_;
+  std::deque<std::string> products_;
+  std::deque<std::int32_t> answers_;
+  std::deque<std::function<void()>> during_dialog_;
+  std::map<std::string, RuntimeError> failures_;
+  std::map<std::string, ConnectionRef> replacements_;
+  bool keep_form_ = false;
+  std::vector<std::string> calls_;
+  std::vector<ShownMessage> messages_;
+};
+
+/// A text in double quotes, with quotes, backslashes, line breaks and tabs written as \" \\ \r \n \t.
+std::string QuotedText(const std::string& text);
+
+}  // namespace orvendal

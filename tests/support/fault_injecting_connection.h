@@ -1,0 +1,10 @@
+#pragma once
+
+#include "host/observed_store.h"
+
+namespace orvendal::testing_support {
+
+/// A store whose Update and Open fail when a test says so, and that remembers the statements it was given.
+using FaultInjectingStore = ObservedRecordsetFactory;
+
+}  // namespace orvendal::testing_support

@@ -1,0 +1,48 @@
+#include "tests/support/plain_library.h"
+
+namespace orvendal {
+namespace {
+
+class PlainHerramientas final : public Herramientas {
+ public:
+  explicit PlainHerramientas(WindowHost& host) : host_(host) {}
+
+  int FiltrarTecla(TextBox& caja, int key_ascii, bool) override {
+    const char mark = host_.UserRegion().DecimalMark();
+    if (key_ascii == '.') key_ascii = mark;
+    const bool has_mark = caja.Text().find(mark) != std::string::npos;
+    const bool is_control = key_ascii < ' ';
+    const bool is_digit = key_ascii >= '0' && key_ascii <= '9';
+    return is_control || is_digit || (key_ascii == mark && !has_mark) ? key_ascii : 0;
+  }
+
+  void AccionPuesto(ConnectionRef&, std::string&) override {}
+  void LiberarForm(ObjectRef& formulario) override { formulario.reset(); }
+
+  std::string FormatoFecha(std::string& fecha, std::uint8_t, std::string&, std::string&) override {
+    const std::optional<Date> date = host_.UserRegion().ParseDate(fecha);
+    return date ? host_.UserRegion().ToText(date->DayOnly()) : fecha;
+  }
+
+  void RegistrarSentencia(std::string&, ConnectionRef&, std::string&) override {}
+  std::string FechaHoraTexto(Date& momento) override { return host_.UserRegion().ToText(momento); }
+
+ private:
+  WindowHost& host_;
+};
+
+class PlainRecalculo final : public Recalculo {
+ public:
+  void RecalcularProducto(ConnectionRef&, std::string&, std::string&, std::string&) override {}
+};
+
+}  // namespace
+
+std::unique_ptr<Herramientas> PlainLibrary::NewHerramientas() {
+  return std::make_unique<PlainHerramientas>(host_);
+}
+std::unique_ptr<Recalculo> PlainLibrary::NewRecalculo() {
+  return std::make_unique<PlainRecalculo>();
+}
+
+}  // namespace orvendal
