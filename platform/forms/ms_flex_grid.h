@@ -1,7 +1,8 @@
 #pragma once
 
-#include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,17 +12,23 @@ namespace orvendal {
 
 /// A grid of text cells with fixed title rows and one current cell.
 ///
-/// Rows and columns count from 0, fixed ones included. Invariants: FixedRows <= Rows; 0 <= Row < Rows and
-/// 0 <= Col < Cols (Row is FixedRows in a grid of titles only); fixed cells take the current cell from code
-/// only.
+/// Rows and columns count from 0, fixed ones included. Invariants: FixedRows <= Rows and FixedCols <= Cols;
+/// 0 <= Row < Rows and 0 <= Col < Cols, but Row is FixedRows in a grid of titles only, until it gets a row
+/// there, and Col likewise; FixedRows <= TopRow and FixedCols <= LeftCol; the user never moves the current
+/// cell onto a fixed one. All rows are equally high.
 ///
 /// Cursor. Assigning Row or Col a different value raises OnLeaveCell with the cursor still at the old cell,
-/// moves, then raises OnEnterCell and OnRowColChange, all inside the assignment. The value that it has raises
-/// nothing. The view does not scroll by it; but reading CellTop or CellLeft brings the current cell into
-/// view, except inside OnScroll. A move by the user, who may change both at once, raises one pair.
+/// moves, then raises OnEnterCell and OnRowColChange, all inside the assignment. A handler may move the
+/// cursor in turn: that move runs to its end first. The value that it has raises nothing. The view does not
+/// scroll by it; but reading CellTop or CellLeft brings the current cell into view, except inside OnScroll. A
+/// move by the user, who may change both at once, raises one pair. As long as nobody has moved the cursor, it
+/// stands on the first cell that is not fixed.
 ///
-/// Cost: assignments and AddItem take constant time; RemoveItem is linear in the rows; painting is linear in
-/// the visible cells.
+/// Selection. The range from the cursor to RowSel and ColSel is shown selected; every assignment of Row or
+/// Col shrinks it to the current cell. Only the user makes it larger, and no event tells.
+///
+/// Cost: assignments and AddItem take constant time in the rows; RemoveItem is linear in the rows; painting
+/// is linear in the visible cells. Empty rows take no room for cells.
 class MSFlexGrid final : public Control {
  public:
   MSFlexGrid(Form& form, Control* container, std::string_view name, int index = -1);
@@ -32,10 +39,13 @@ class MSFlexGrid final : public Control {
   /// below FixedRows.
   void Rows(int rows);
   int Cols() const { return static_cast<int>(columns_.size()); }
+  /// Like Rows; raises 381 below FixedCols.
   void Cols(int columns);
   int FixedRows() const { return fixed_rows_; }
+  /// Raises 380 outside 0..Rows.
   void FixedRows(int rows);
   int FixedCols() const { return fixed_columns_; }
+  /// Raises 380 outside 0..Cols.
   void FixedCols(int columns);
 
   int Row() const { return row_; }
@@ -48,21 +58,24 @@ class MSFlexGrid final : public Control {
   int RowSel() const { return row_selection_; }
   int ColSel() const { return column_selection_; }
 
-  /// The current cell.
+  /// The current cell. Raises 381 in a grid of titles only, as all that reads or writes the current cell.
   const std::string& Text() const;
   void Text(const std::string& text);
   /// Any cell, with no event. Raises 381 outside the grid.
   const std::string& TextMatrix(int row, int column) const;
   void TextMatrix(int row, int column, const std::string& text);
 
-  /// Twips; 0 hides the column. Not rescaled when the grid changes size. Raises 381 outside the grid.
+  /// Twips; 0 hides the column, a negative width is that of a new column. Not rescaled when the grid changes
+  /// size. Raises 381 outside the grid.
   double ColWidth(int column) const;
   void ColWidth(int column, double twips);
   double RowHeightMin() const { return row_height_min_; }
   /// Raises every lower row to it, fixed ones too.
   void RowHeightMin(double twips);
+  /// Raises 381 outside the grid.
   double RowHeight(int row) const;
-  /// 1 left, 4 centre, 7 right; centred vertically.
+  /// 0, 1, 2 left, 3, 4, 5 centre, 6, 7, 8 right, each at the top, centred, at the bottom; 9 is 1 for texts
+  /// and 7 for numbers. Raises 380 for any other, 381 outside the grid.
   int ColAlignment(int column) const;
   void ColAlignment(int column, int alignment);
   int FixedAlignment(int column) const;
@@ -74,12 +87,15 @@ class MSFlexGrid final : public Control {
   void TopRow(int row);
   int LeftCol() const { return left_column_; }
   void LeftCol(int column);
-  /// Whether any part of the row shows.
+  /// Whether any part of the row shows; title rows always do. Raises 381 outside the grid.
   bool RowIsVisible(int row) const;
 
-  /// Place of the current cell, twips from the grid's corner. Width 0 for a hidden column.
-  double CellLeft() const;
-  double CellTop() const;
+  /// Place of the current cell, twips from the grid's corner. Both bring the cell into view first, wholly if
+  /// it fits, raising OnScroll if the view moves; inside OnScroll they only tell, and the place may be
+  /// negative or beyond the edge.
+  double CellLeft();
+  double CellTop();
+  /// Width 0 for a hidden column.
   double CellWidth() const;
   double CellHeight() const;
   /// Of the current cell; 0 is the grid's own colour.
@@ -93,7 +109,7 @@ class MSFlexGrid final : public Control {
 
   /// Appends a row; the text's columns are separated by tabs. No event.
   void AddItem(const std::string& text);
-  /// Inserts it before row `row`.
+  /// Inserts it before row `row`. Raises 381 outside FixedRows..Rows.
   void AddItem(const std::string& text, int row);
   /// The rows below move up with their colours; the cursor keeps its row number, or goes to the last row,
   /// with no event. Raises 30015 for the last row below the titles, 381 for any row that is none or is fixed.
@@ -115,7 +131,7 @@ class MSFlexGrid final : public Control {
   std::function<void()> OnRowColChange;
   std::function<void()> OnScroll;
 
-  /// Place of a cell relative to the grid, empty if it does not show.
+  /// What shows of a cell, relative to the grid; empty if nothing does.
   Rect CellRectangle(int row, int column) const;
   /// Row and column under a place; false on borders, bars and the empty area.
   bool CellAt(Point local, int& row, int& column) const;
@@ -138,35 +154,121 @@ class MSFlexGrid final : public Control {
  private:
   struct Cell {
     std::string text;
-    ColorWord back_color = 0;
+    ColorWord back_color = 0;  // 0: the grid's own
     ColorWord fore_color = 0;
   };
-  struct Row_ {
-    std::vector<Cell> cells;
+  using CellRow = std::vector<Cell>;  // cells at the end that were never written may be missing
+  struct Column {
+    double width = 0;
+    int alignment = 0;
+    int fixed_alignment = 0;
   };
-  struct Column_ {
-    double width = 960;
-    int alignment = 9;  // general: text left, numbers right
-    int fixed_alignment = 9;
+  /// How the inside of the border divides at this moment.
+  struct View {
+    Rect inside;  // titles and cells, without the bars
+    double titles_width = 0;
+    double titles_height = 0;
+    bool has_vertical_bar = false;
+    bool has_horizontal_bar = false;
+
+    Rect Body() const {
+      return {inside.left + titles_width, inside.top + titles_height,
+              std::max(0.0, inside.width - titles_width), std::max(0.0, inside.height - titles_height)};
+    }
+  };
+  /// One scroll bar; the thumb stands for `position` between `first` and `last`.
+  struct Bar {
+    bool is_vertical = false;
+    Rect whole;
+    Rect back_arrow;
+    Rect forward_arrow;
+    Rect track;
+    Rect thumb;
+    int first = 0;
+    int last = 0;
+    int position = 0;
+  };
+  enum class Drag { kNothing, kCells, kVerticalThumb, kHorizontalThumb };
+  /// Tells, after a handler ran, whether the grid is still the one that it was before.
+  struct Moment {
+    bool loaded = false;
+    std::uint64_t life = 0;
   };
 
-  std::vector<Row_> rows_;
-  std::vector<Column_> columns_;
+  // Cells and cursor (ms_flex_grid.cpp).
+  void CheckCell(int row, int column) const;
+  void CheckColumn(int column) const;
+  Cell& CellForWriting(int row, int column);
+  const Cell& CellForReading(int row, int column) const;
+  void StructureChanged();
+  Moment Now() const;
+  bool IsStill(const Moment& moment) const;
+  void ChangeCursor(std::optional<int> row, std::optional<int> column);
+  void SelectTo(int row, int column);
+  bool IsSelected(int row, int column) const;
+  Column NewColumn() const;
+
+  // View (ms_flex_grid_view.cpp).
+  View Measure() const;
+  double ColumnsWidth(int first, int end) const;
+  int PageRows(const View& view) const;
+  int LastTopRow(const View& view) const;
+  int LastLeftColumn(const View& view) const;
+  int EndOfVisibleRows(const View& view) const;
+  Rect CellPlace(const View& view, int row, int column) const;
+  int RowAt(const View& view, double y) const;
+  int ColumnAt(const View& view, double x) const;
+  void MeasureRows();
+  void HoldView();
+  void MoveView(int top_row, int left_column);
+  void BringIntoView(int row, int column);
+  std::optional<Bar> VerticalBar(const View& view) const;
+  std::optional<Bar> HorizontalBar(const View& view) const;
+  void InvalidateCell(int row, int column);
+  void InvalidateSelection();
+
+  // Input (ms_flex_grid_input.cpp).
+  void PressBar(const Bar& bar, Point local);
+  void MoveTo(const Bar& bar, int position);
+  void DragCells(Point local);
+  void DragThumb(Point local);
+  int VisibleColumnFrom(int column, int step) const;
+
+  // Painting (ms_flex_grid_paint.cpp).
+  void PaintCells(Canvas& canvas, const View& view) const;
+  void PaintBlock(Canvas& canvas, const View& view, const Rect& clip, int first_row, int end_row,
+                  int first_column, int end_column) const;
+  void PaintCell(Canvas& canvas, const Rect& place, int row, int column) const;
+  void PaintBar(Canvas& canvas, const Bar& bar) const;
+
+  std::vector<CellRow> rows_;
+  std::vector<Column> columns_;
   int fixed_rows_ = 1;
   int fixed_columns_ = 1;
   int row_ = 1;
   int column_ = 1;
   int row_selection_ = 1;
   int column_selection_ = 1;
+  bool cursor_was_moved_ = false;
   int top_row_ = 1;
   int left_column_ = 1;
   double row_height_min_ = 0;
-  ColorWord back_color_fixed_ = system_color::kButtonFace;
-  ColorWord fore_color_fixed_ = system_color::kButtonText;
-  ColorWord back_color_selected_ = system_color::kHighlight;
-  ColorWord fore_color_selected_ = system_color::kHighlightText;
-  ColorWord back_color_background_ = system_color::kApplicationWorkspace;
-  mutable bool in_scroll_ = false;
+  double row_height_ = 0;
+  ColorWord back_color_fixed_ = 0;
+  ColorWord fore_color_fixed_ = 0;
+  ColorWord back_color_selected_ = 0;
+  ColorWord fore_color_selected_ = 0;
+  ColorWord back_color_background_ = 0;
+  std::uint64_t life_ = 0;  // counts the designs, so that the end of a handler can tell another one
+  int scroll_depth_ = 0;    // handlers of OnScroll that are running
+  double wheel_rest_ = 0;   // rows that small turns of the wheel have not made up yet
+
+  Drag drag_ = Drag::kNothing;
+  Point drag_start_;
+  double thumb_offset_ = 0;
+  bool drag_has_left_cell_ = false;
+  int pressed_row_ = 0;
+  int pressed_column_ = 0;
 };
 
 }  // namespace orvendal

@@ -1,0 +1,351 @@
+#include "platform/forms/ms_flex_grid.h"
+
+#include "platform/base/runtime_error.h"
+#include "platform/forms/form.h"
+
+namespace orvendal {
+namespace {
+
+constexpr double kNewColumnWidth = 960;
+constexpr int kGeneralAlignment = 9;
+constexpr int kNewRows = 2;
+constexpr int kNewColumns = 2;
+
+void CheckAlignment(int alignment) {
+  if (alignment < 0 || alignment > kGeneralAlignment) throw RuntimeError(error_number::kInvalidPropertyValue);
+}
+
+}  // namespace
+
+MSFlexGrid::MSFlexGrid(Form& form, Control* container, std::string_view name, int index)
+    : Control(form, container, name, index) {
+  InitializeDefaults();
+}
+
+ControlProperties MSFlexGrid::DefaultProperties() const {
+  ControlProperties properties;
+  properties.back_color = system_color::kWindowBackground;
+  properties.fore_color = system_color::kWindowText;
+  properties.border_style = 1;
+  return properties;
+}
+
+void MSFlexGrid::RestoreDefaults() {
+  Control::RestoreDefaults();
+  ++life_;
+  rows_.assign(kNewRows, {});
+  columns_.assign(kNewColumns, NewColumn());
+  fixed_rows_ = fixed_columns_ = 1;
+  row_ = row_selection_ = 1;
+  column_ = column_selection_ = 1;
+  cursor_was_moved_ = false;
+  top_row_ = left_column_ = 1;
+  row_height_min_ = 0;
+  back_color_fixed_ = system_color::kButtonFace;
+  fore_color_fixed_ = system_color::kButtonText;
+  back_color_selected_ = system_color::kHighlight;
+  fore_color_selected_ = system_color::kHighlightText;
+  back_color_background_ = system_color::kApplicationWorkspace;
+  drag_ = Drag::kNothing;
+  wheel_rest_ = 0;
+  MeasureRows();
+}
+
+MSFlexGrid::Column MSFlexGrid::NewColumn() const {
+  return {kNewColumnWidth, kGeneralAlignment, kGeneralAlignment};
+}
+
+// Size and titles.
+
+void MSFlexGrid::Rows(int rows) {
+  if (rows < fixed_rows_) throw RuntimeError(error_number::kSubscriptOutOfRange);
+  if (rows == Rows()) return;
+  rows_.resize(static_cast<std::size_t>(rows));
+  StructureChanged();
+}
+
+void MSFlexGrid::Cols(int columns) {
+  if (columns < fixed_columns_) throw RuntimeError(error_number::kSubscriptOutOfRange);
+  if (columns == Cols()) return;
+  const auto count = static_cast<std::size_t>(columns);
+  columns_.resize(count, NewColumn());
+  for (CellRow& row : rows_) {
+    if (row.size() > count) row.resize(count);
+  }
+  StructureChanged();
+}
+
+void MSFlexGrid::FixedRows(int rows) {
+  if (rows < 0 || rows > Rows()) throw RuntimeError(error_number::kInvalidPropertyValue);
+  fixed_rows_ = rows;
+  StructureChanged();
+}
+
+void MSFlexGrid::FixedCols(int columns) {
+  if (columns < 0 || columns > Cols()) throw RuntimeError(error_number::kInvalidPropertyValue);
+  fixed_columns_ = columns;
+  StructureChanged();
+}
+
+// Puts cursor, selection and view back inside the grid, raising nothing.
+void MSFlexGrid::StructureChanged() {
+  if (!cursor_was_moved_) {
+    row_ = row_selection_ = fixed_rows_;
+    column_ = column_selection_ = fixed_columns_;
+  }
+  const auto held = [](int index, int fixed, int count) {
+    return index < count ? index : std::max(fixed, count - 1);
+  };
+  row_ = held(row_, fixed_rows_, Rows());
+  column_ = held(column_, fixed_columns_, Cols());
+  row_selection_ = held(row_selection_, fixed_rows_, Rows());
+  column_selection_ = held(column_selection_, fixed_columns_, Cols());
+  HoldView();
+  Invalidate();
+}
+
+// Cursor.
+
+void MSFlexGrid::Row(int row) {
+  if (row < 0 || row >= Rows()) throw RuntimeError(error_number::kInvalidRow);
+  ChangeCursor(row, std::nullopt);
+}
+
+void MSFlexGrid::Col(int column) {
+  if (column < 0 || column >= Cols()) throw RuntimeError(error_number::kInvalidColumn);
+  ChangeCursor(std::nullopt, column);
+}
+
+MSFlexGrid::Moment MSFlexGrid::Now() const {
+  return {Parent().IsLoaded(), life_};
+}
+
+bool MSFlexGrid::IsStill(const Moment& moment) const {
+  return life_ == moment.life && Parent().IsLoaded() == moment.loaded;
+}
+
+// One group of events for a move to another cell, none for the same one, even if row and column change both.
+// What is not given stays as it is at the moment of the move, which a handler of OnLeaveCell may have
+// changed.
+void MSFlexGrid::ChangeCursor(std::optional<int> row, std::optional<int> column) {
+  cursor_was_moved_ = true;
+  const bool changes = row.value_or(row_) != row_ || column.value_or(column_) != column_;
+  if (!changes) {
+    SelectTo(row_, column_);
+    return;
+  }
+  const Moment before = Now();
+  if (OnLeaveCell) OnLeaveCell();
+  if (!IsStill(before)) return;
+
+  InvalidateSelection();
+  // The handler may have taken the row or the column away.
+  if (row && *row < Rows()) row_ = *row;
+  if (column && *column < Cols()) column_ = *column;
+  row_selection_ = row_;
+  column_selection_ = column_;
+  InvalidateSelection();
+
+  if (OnEnterCell) OnEnterCell();
+  if (IsStill(before) && OnRowColChange) OnRowColChange();
+}
+
+void MSFlexGrid::SelectTo(int row, int column) {
+  if (row == row_selection_ && column == column_selection_) return;
+  InvalidateSelection();
+  row_selection_ = row;
+  column_selection_ = column;
+  InvalidateSelection();
+}
+
+bool MSFlexGrid::IsSelected(int row, int column) const {
+  const auto [top, bottom] = std::minmax(row_, row_selection_);
+  const auto [left, right] = std::minmax(column_, column_selection_);
+  return row >= top && row <= bottom && column >= left && column <= right;
+}
+
+// Cells.
+
+void MSFlexGrid::CheckColumn(int column) const {
+  if (column < 0 || column >= Cols()) throw RuntimeError(error_number::kSubscriptOutOfRange);
+}
+
+void MSFlexGrid::CheckCell(int row, int column) const {
+  if (row < 0 || row >= Rows()) throw RuntimeError(error_number::kSubscriptOutOfRange);
+  CheckColumn(column);
+}
+
+const MSFlexGrid::Cell& MSFlexGrid::CellForReading(int row, int column) const {
+  static const Cell kNeverWritten;
+  CheckCell(row, column);
+  const CellRow& cells = rows_[static_cast<std::size_t>(row)];
+  const auto index = static_cast<std::size_t>(column);
+  return index < cells.size() ? cells[index] : kNeverWritten;
+}
+
+MSFlexGrid::Cell& MSFlexGrid::CellForWriting(int row, int column) {
+  CheckCell(row, column);
+  CellRow& cells = rows_[static_cast<std::size_t>(row)];
+  const auto index = static_cast<std::size_t>(column);
+  if (index >= cells.size()) cells.resize(columns_.size());
+  return cells[index];
+}
+
+const std::string& MSFlexGrid::TextMatrix(int row, int column) const {
+  return CellForReading(row, column).text;
+}
+
+void MSFlexGrid::TextMatrix(int row, int column, const std::string& text) {
+  if (CellForReading(row, column).text == text) return;
+  std::string copy = text;  // `text` may be a cell of this row, which moves when the row gets its cells
+  CellForWriting(row, column).text = std::move(copy);
+  InvalidateCell(row, column);
+}
+
+const std::string& MSFlexGrid::Text() const {
+  return TextMatrix(row_, column_);
+}
+void MSFlexGrid::Text(const std::string& text) {
+  TextMatrix(row_, column_, text);
+}
+
+ColorWord MSFlexGrid::CellBackColorAt(int row, int column) const {
+  return CellForReading(row, column).back_color;
+}
+ColorWord MSFlexGrid::CellForeColorAt(int row, int column) const {
+  return CellForReading(row, column).fore_color;
+}
+ColorWord MSFlexGrid::CellBackColor() const {
+  return CellBackColorAt(row_, column_);
+}
+ColorWord MSFlexGrid::CellForeColor() const {
+  return CellForeColorAt(row_, column_);
+}
+
+void MSFlexGrid::CellBackColor(ColorWord color) {
+  if (color == CellBackColor()) return;
+  CellForWriting(row_, column_).back_color = color;
+  InvalidateCell(row_, column_);
+}
+
+void MSFlexGrid::CellForeColor(ColorWord color) {
+  if (color == CellForeColor()) return;
+  CellForWriting(row_, column_).fore_color = color;
+  InvalidateCell(row_, column_);
+}
+
+// Rows.
+
+void MSFlexGrid::AddItem(const std::string& text) {
+  AddItem(text, Rows());
+}
+
+void MSFlexGrid::AddItem(const std::string& text, int row) {
+  if (row < fixed_rows_ || row > Rows()) throw RuntimeError(error_number::kSubscriptOutOfRange);
+  CellRow cells;
+  if (!text.empty()) cells.resize(columns_.size());
+  std::size_t start = 0;
+  for (Cell& cell : cells) {
+    const std::size_t tab = text.find('\t', start);
+    cell.text = text.substr(start, tab - start);
+    if (tab == std::string::npos) break;
+    start = tab + 1;
+  }
+  const bool showed_bar = Measure().has_vertical_bar;
+  rows_.insert(rows_.begin() + row, std::move(cells));
+  const View view = Measure();
+  if (row + 1 < Rows() || Rows() == fixed_rows_ + 1 || showed_bar != view.has_vertical_bar) {
+    StructureChanged();
+    return;
+  }
+  // Nothing but the new row and the bar looks different.
+  for (int column = 0; column < Cols(); ++column) InvalidateCell(row, column);
+  if (const std::optional<Bar> bar = VerticalBar(view)) Invalidate(bar->whole);
+}
+
+void MSFlexGrid::RemoveItem(int row) {
+  if (row < fixed_rows_ || row >= Rows()) throw RuntimeError(error_number::kSubscriptOutOfRange);
+  if (Rows() - fixed_rows_ == 1) throw RuntimeError(error_number::kCannotRemoveLastRow);
+  rows_.erase(rows_.begin() + row);
+  StructureChanged();
+}
+
+// Columns and look.
+
+double MSFlexGrid::ColWidth(int column) const {
+  CheckColumn(column);
+  return columns_[static_cast<std::size_t>(column)].width;
+}
+
+void MSFlexGrid::ColWidth(int column, double twips) {
+  CheckColumn(column);
+  columns_[static_cast<std::size_t>(column)].width = twips < 0 ? kNewColumnWidth : twips;
+  HoldView();
+  Invalidate();
+}
+
+int MSFlexGrid::ColAlignment(int column) const {
+  CheckColumn(column);
+  return columns_[static_cast<std::size_t>(column)].alignment;
+}
+
+void MSFlexGrid::ColAlignment(int column, int alignment) {
+  CheckColumn(column);
+  CheckAlignment(alignment);
+  columns_[static_cast<std::size_t>(column)].alignment = alignment;
+  Invalidate();
+}
+
+int MSFlexGrid::FixedAlignment(int column) const {
+  CheckColumn(column);
+  return columns_[static_cast<std::size_t>(column)].fixed_alignment;
+}
+
+void MSFlexGrid::FixedAlignment(int column, int alignment) {
+  CheckColumn(column);
+  CheckAlignment(alignment);
+  columns_[static_cast<std::size_t>(column)].fixed_alignment = alignment;
+  Invalidate();
+}
+
+void MSFlexGrid::RowHeightMin(double twips) {
+  if (twips < 0) throw RuntimeError(error_number::kInvalidPropertyValue);
+  row_height_min_ = twips;
+  MeasureRows();
+}
+
+double MSFlexGrid::RowHeight(int row) const {
+  if (row < 0 || row >= Rows()) throw RuntimeError(error_number::kSubscriptOutOfRange);
+  return row_height_;
+}
+
+void MSFlexGrid::BackColorFixed(ColorWord color) {
+  back_color_fixed_ = color;
+  Invalidate();
+}
+void MSFlexGrid::ForeColorFixed(ColorWord color) {
+  fore_color_fixed_ = color;
+  Invalidate();
+}
+void MSFlexGrid::BackColorSel(ColorWord color) {
+  back_color_selected_ = color;
+  Invalidate();
+}
+void MSFlexGrid::ForeColorSel(ColorWord color) {
+  fore_color_selected_ = color;
+  Invalidate();
+}
+void MSFlexGrid::BackColorBkg(ColorWord color) {
+  back_color_background_ = color;
+  Invalidate();
+}
+
+void MSFlexGrid::FontChanged() {
+  MeasureRows();
+}
+
+void MSFlexGrid::SizeChanged() {
+  HoldView();
+}
+
+}  // namespace orvendal

@@ -1,0 +1,211 @@
+// What the mouse and the keys do to a grid.
+
+#include <cmath>
+
+#include "platform/forms/form.h"
+#include "platform/forms/ms_flex_grid.h"
+
+namespace orvendal {
+namespace {
+
+// A hand that clicks shakes a little; below this the mouse does not drag.
+constexpr double kDragDistance = 4 * kTwipsPerPixel;
+
+}  // namespace
+
+// Mouse.
+
+void MSFlexGrid::MousePressing(int button, int /*shift*/, Point local) {
+  if (button != mouse_button::kLeft) return;
+  drag_ = Drag::kNothing;
+  const View view = Measure();
+  for (const std::optional<Bar>& bar : {VerticalBar(view), HorizontalBar(view)}) {
+    if (bar && bar->whole.Contains(local)) {
+      PressBar(*bar, local);
+      return;
+    }
+  }
+  int row = 0;
+  int column = 0;
+  const bool has_cells = Rows() > fixed_rows_ && Cols() > fixed_columns_;
+  if (!has_cells || !CellAt(local, row, column)) return;
+
+  const bool is_column_title = row < fixed_rows_;
+  const bool is_row_title = column < fixed_columns_;
+  const int target_row = std::max(row, fixed_rows_);
+  const int target_column = std::max(column, fixed_columns_);
+  const Moment before = Now();
+  drag_start_ = local;
+  pressed_row_ = row;
+  pressed_column_ = column;
+  drag_has_left_cell_ = false;
+  if (!is_column_title && !is_row_title) drag_ = Drag::kCells;
+  ChangeCursor(target_row, target_column);
+  // A handler that put the cursor elsewhere selected what it wants.
+  if (!IsStill(before) || row_ != target_row || column_ != target_column) return;
+  SelectTo(is_column_title ? Rows() - 1 : row_, is_row_title ? Cols() - 1 : column_);
+}
+
+void MSFlexGrid::MouseMoved(int buttons, int /*shift*/, Point local) {
+  if ((buttons & mouse_button::kLeft) == 0) return;
+  if (drag_ == Drag::kCells) {
+    DragCells(local);
+  } else if (drag_ != Drag::kNothing) {
+    DragThumb(local);
+  }
+}
+
+void MSFlexGrid::MouseReleased(int /*button*/, int /*shift*/, Point /*local*/) {
+  drag_ = Drag::kNothing;
+}
+
+void MSFlexGrid::DragCells(Point local) {
+  if (Rows() <= fixed_rows_ || Cols() <= fixed_columns_) return;
+  const double distance = std::hypot(local.x - drag_start_.x, local.y - drag_start_.y);
+  if (!drag_has_left_cell_ && distance < kDragDistance) return;
+
+  // Beyond an edge the view moves on, one cell for each movement of the mouse.
+  const Rect body = Measure().Body();
+  const auto step = [](double position, double from, double to) {
+    return position < from ? -1 : position >= to ? 1 : 0;
+  };
+  const Moment before = Now();
+  MoveView(top_row_ + step(local.y, body.top, body.Bottom()),
+           left_column_ + step(local.x, body.left, body.Right()));
+  if (!IsStill(before) || drag_ != Drag::kCells) return;
+
+  const View view = Measure();
+  const Rect seen = view.Body();
+  if (seen.IsEmpty()) return;
+  const double x = std::clamp(local.x, seen.left, seen.Right() - 1);
+  const double y = std::clamp(local.y, seen.top, seen.Bottom() - 1);
+  const int row = RowAt(view, y);
+  const int column = ColumnAt(view, x);
+  if (row == pressed_row_ && column == pressed_column_ && !drag_has_left_cell_) return;
+  drag_has_left_cell_ = true;
+  SelectTo(row < 0 ? Rows() - 1 : row, column < 0 ? VisibleColumnFrom(Cols(), -1) : column);
+}
+
+bool MSFlexGrid::RaisesClick(Point local) const {
+  const View view = Measure();
+  Rect without_bars = LocalBounds();
+  if (view.has_vertical_bar) without_bars.width = view.inside.Right();
+  if (view.has_horizontal_bar) without_bars.height = view.inside.Bottom();
+  return without_bars.Contains(local);
+}
+
+bool MSFlexGrid::MouseWheel(double lines) {
+  wheel_rest_ += lines;
+  const int rows = static_cast<int>(wheel_rest_);
+  wheel_rest_ -= rows;
+  MoveView(top_row_ + rows, left_column_);
+  return true;
+}
+
+// Scroll bars.
+
+void MSFlexGrid::MoveTo(const Bar& bar, int position) {
+  if (bar.is_vertical) {
+    MoveView(position, left_column_);
+  } else {
+    MoveView(top_row_, position);
+  }
+}
+
+void MSFlexGrid::PressBar(const Bar& bar, Point local) {
+  if (bar.thumb.Contains(local)) {
+    drag_ = bar.is_vertical ? Drag::kVerticalThumb : Drag::kHorizontalThumb;
+    thumb_offset_ = bar.is_vertical ? local.y - bar.thumb.top : local.x - bar.thumb.left;
+    return;
+  }
+  const int page = bar.is_vertical ? PageRows(Measure()) : 1;
+  const bool is_before = bar.is_vertical ? local.y < bar.thumb.top : local.x < bar.thumb.left;
+  if (bar.back_arrow.Contains(local)) {
+    MoveTo(bar, bar.position - 1);
+  } else if (bar.forward_arrow.Contains(local)) {
+    MoveTo(bar, bar.position + 1);
+  } else {
+    MoveTo(bar, bar.position + (is_before ? -page : page));
+  }
+}
+
+void MSFlexGrid::DragThumb(Point local) {
+  const View view = Measure();
+  const std::optional<Bar> bar = drag_ == Drag::kVerticalThumb ? VerticalBar(view) : HorizontalBar(view);
+  if (!bar) return;
+  const double offset =
+      (bar->is_vertical ? local.y - bar->track.top : local.x - bar->track.left) - thumb_offset_;
+  const double way =
+      bar->is_vertical ? bar->track.height - bar->thumb.height : bar->track.width - bar->thumb.width;
+  if (way <= 0) return;
+  const double share = std::clamp(offset / way, 0.0, 1.0);
+  MoveTo(*bar, bar->first + static_cast<int>(std::lround(share * (bar->last - bar->first))));
+}
+
+// Keys.
+
+// The next column after `column` in that direction that can be seen; -1 if there is none.
+int MSFlexGrid::VisibleColumnFrom(int column, int step) const {
+  for (column += step; column >= fixed_columns_ && column < Cols(); column += step) {
+    if (ColWidth(column) > 0) return column;
+  }
+  return -1;
+}
+
+bool MSFlexGrid::KeyDownDefault(int key_code, int shift) {
+  const bool extends = (shift & shift_mask::kShift) != 0;
+  const bool to_corner = (shift & shift_mask::kControl) != 0;
+  const int first_row = fixed_rows_;
+  const int last_row = Rows() - 1;
+  if (last_row < first_row || (shift & shift_mask::kAlt) != 0) return false;
+
+  int row = extends ? row_selection_ : row_;
+  int column = extends ? column_selection_ : column_;
+  switch (key_code) {
+    case key::kUp:
+      --row;
+      break;
+    case key::kDown:
+      ++row;
+      break;
+    case key::kPageUp:
+      row -= PageRows(Measure());
+      break;
+    case key::kPageDown:
+      row += PageRows(Measure());
+      break;
+    case key::kLeft:
+    case key::kRight: {
+      const int next = VisibleColumnFrom(column, key_code == key::kLeft ? -1 : 1);
+      if (next >= 0) column = next;
+      break;
+    }
+    case key::kHome:
+    case key::kEnd: {
+      const bool is_home = key_code == key::kHome;
+      const int edge = is_home ? VisibleColumnFrom(fixed_columns_ - 1, 1) : VisibleColumnFrom(Cols(), -1);
+      if (edge >= 0) column = edge;
+      if (to_corner) row = is_home ? first_row : last_row;
+      break;
+    }
+    default:
+      return false;
+  }
+  row = std::clamp(row, first_row, last_row);
+  column = std::max(column, fixed_columns_);
+  if (extends) {
+    SelectTo(row, column);
+    BringIntoView(row, column);
+    return false;
+  }
+  const Moment before = Now();
+  ChangeCursor(row, column);
+  if (IsStill(before)) BringIntoView(row_, column_);
+  return false;
+}
+
+void MSFlexGrid::FocusChanged(bool /*has_focus*/) {
+  InvalidateCell(row_, column_);
+}
+
+}  // namespace orvendal
