@@ -1,0 +1,266 @@
+#include "adapters/qt/qt_canvas.h"
+
+#include <QImage>
+#include <QPainterPath>
+#include <QPolygonF>
+#include <algorithm>
+#include <cmath>
+
+namespace orvendal {
+namespace {
+
+QColor ColorOf(Rgb color) {
+  return QColor(color.red, color.green, color.blue);
+}
+
+int Round(double pixels) {
+  return static_cast<int>(std::floor(pixels + 0.5));
+}
+
+// Black and white squares of `size` pixels, seen on any background. They hang on the device's corner, so that
+// a frame painted in parts is one frame.
+QBrush DottedBrush(int size) {
+  QImage pattern(2 * size, 2 * size, QImage::Format_RGB32);
+  for (int y = 0; y < pattern.height(); ++y) {
+    for (int x = 0; x < pattern.width(); ++x) {
+      pattern.setPixel(x, y, (x / size + y / size) % 2 == 0 ? qRgb(0, 0, 0) : qRgb(255, 255, 255));
+    }
+  }
+  return QBrush(pattern);
+}
+
+// The pixels of `bitmap` inside `part`, which lies within it.
+QImage PartOf(const Bitmap& bitmap, const QRect& part) {
+  std::vector<QRgb> palette(256, qRgb(0, 0, 0));
+  for (std::size_t i = 0; i < std::min<std::size_t>(bitmap.palette.size(), palette.size()); ++i) {
+    palette[i] = qRgb(bitmap.palette[i].red, bitmap.palette[i].green, bitmap.palette[i].blue);
+  }
+  QImage image(part.size(), QImage::Format_RGB32);
+  for (int y = 0; y < part.height(); ++y) {
+    const std::uint8_t* source =
+        bitmap.pixels.data() +
+        static_cast<std::size_t>(part.y() + y) * static_cast<std::size_t>(bitmap.width) +
+        static_cast<std::size_t>(part.x());
+    QRgb* target = reinterpret_cast<QRgb*>(image.scanLine(y));
+    for (int x = 0; x < part.width(); ++x) target[x] = palette[source[x]];
+  }
+  return image;
+}
+
+}  // namespace
+
+QtCanvas::QtCanvas(QPainter& painter, QtFonts& fonts, double scale, Point origin)
+    : painter_(painter),
+      fonts_(fonts),
+      scale_(scale),
+      pixels_per_twip_(scale / kTwipsPerPixel),
+      dots_per_inch_(painter.device()->logicalDpiY()),
+      origin_(origin) {
+  const double ratio = painter.device()->devicePixelRatioF();
+  device_transform_ = QTransform::fromScale(1 / ratio, 1 / ratio);
+  text_transform_ = QTransform::fromScale(scale / ratio, scale / ratio);
+  clip_ = QRect(0, 0, static_cast<int>(std::ceil(painter.device()->width() * ratio)),
+                static_cast<int>(std::ceil(painter.device()->height() * ratio)));
+  painter_.save();
+  painter_.setTransform(device_transform_);
+  painter_.setPen(Qt::NoPen);
+}
+
+QtCanvas::~QtCanvas() {
+  painter_.restore();
+}
+
+int QtCanvas::X(double twips) const {
+  return Round(Pixels(origin_.x + twips));
+}
+int QtCanvas::Y(double twips) const {
+  return Round(Pixels(origin_.y + twips));
+}
+
+QRect QtCanvas::Device(const Rect& rect) const {
+  const QPoint corner(X(rect.left), Y(rect.top));
+  return QRect(corner, QSize(X(rect.Right()) - corner.x(), Y(rect.Bottom()) - corner.y()));
+}
+
+int QtCanvas::LineWidth(double twips) const {
+  return std::max(1, Round(Pixels(twips)));
+}
+
+bool QtCanvas::Limit(const QRect& clip) {
+  const QRect wanted = clip_ & clip;
+  if (wanted.isEmpty()) return false;
+  if (wanted != painter_clip_) {
+    painter_.setClipRect(wanted);
+    painter_clip_ = wanted;
+  }
+  return true;
+}
+
+void QtCanvas::Fill(const QRect& pixels, Rgb color) {
+  const QRect seen = pixels & clip_;
+  if (!seen.isEmpty() && Limit(clip_)) painter_.fillRect(seen, ColorOf(color));
+}
+
+void QtCanvas::Frame(const QRect& pixels, int width, const QBrush& brush) {
+  if (pixels.isEmpty() || !pixels.intersects(clip_) || !Limit(clip_)) return;
+  const int across = std::min(width, pixels.width());
+  const int down = std::min(width, pixels.height());
+  const int between = std::max(0, pixels.height() - 2 * down);
+  const auto fill = [&](int x, int y, int w, int h) {
+    const QRect seen = QRect(x, y, w, h) & clip_;
+    if (!seen.isEmpty()) painter_.fillRect(seen, brush);
+  };
+  fill(pixels.x(), pixels.y(), pixels.width(), down);
+  fill(pixels.x(), pixels.y() + pixels.height() - down, pixels.width(), down);
+  fill(pixels.x(), pixels.y() + down, across, between);
+  fill(pixels.x() + pixels.width() - across, pixels.y() + down, across, between);
+}
+
+void QtCanvas::FillRectangle(const Rect& rect, Rgb color) {
+  Fill(Device(rect), color);
+}
+
+void QtCanvas::FrameRectangle(const Rect& rect, Rgb color, double width) {
+  Frame(Device(rect), LineWidth(width), QBrush(ColorOf(color)));
+}
+
+void QtCanvas::FocusRectangle(const Rect& rect) {
+  const int dot = std::max(1, Round(scale_));
+  Frame(Device(rect), dot, DottedBrush(dot));
+}
+
+void QtCanvas::RoundedRectangle(const Rect& rect, double radius, std::optional<Rgb> fill, Rgb border,
+                                double width) {
+  const QRect edge = Device(rect);
+  const int line = LineWidth(width);
+  const QRect outer = edge.adjusted(-(line / 2), -(line / 2), line / 2, line / 2);
+  if (outer.isEmpty() || !outer.intersects(clip_) || !Limit(clip_)) return;
+  const QRect inner = outer.adjusted(line, line, -line, -line);
+
+  if (radius <= 0) {
+    if (fill && !inner.isEmpty()) Fill(inner, *fill);
+    Frame(outer, line, QBrush(ColorOf(border)));
+    return;
+  }
+  const double middle = std::min(Pixels(radius), std::min(edge.width(), edge.height()) / 2.0);
+  const double half = line / 2.0;
+  painter_.setRenderHint(QPainter::Antialiasing, true);
+  if (fill) {
+    // Up to the middle of the border, so that no background shines through between the two.
+    QPainterPath face;
+    face.addRoundedRect(QRectF(outer).adjusted(half, half, -half, -half), middle, middle);
+    painter_.fillPath(face, ColorOf(*fill));
+  }
+  QPainterPath ring;
+  ring.setFillRule(Qt::OddEvenFill);
+  ring.addRoundedRect(QRectF(outer), middle + half, middle + half);
+  if (!inner.isEmpty()) {
+    const double inside = std::max(0.0, middle - half);
+    ring.addRoundedRect(QRectF(inner), inside, inside);
+  }
+  painter_.fillPath(ring, ColorOf(border));
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void QtCanvas::DrawLine(Point from, Point to, Rgb color, double width) {
+  const int line = LineWidth(width);
+  const int x1 = X(from.x), y1 = Y(from.y), x2 = X(to.x), y2 = Y(to.y);
+  if (y1 == y2) {
+    Fill(QRect(std::min(x1, x2), y1 - line / 2, std::max(std::abs(x2 - x1), 1), line), color);
+  } else if (x1 == x2) {
+    Fill(QRect(x1 - line / 2, std::min(y1, y2), line, std::max(std::abs(y2 - y1), 1)), color);
+  } else if (Limit(clip_)) {
+    painter_.setRenderHint(QPainter::Antialiasing, true);
+    painter_.setPen(QPen(ColorOf(color), line, Qt::SolidLine, Qt::FlatCap));
+    painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
+    painter_.setPen(Qt::NoPen);
+    painter_.setRenderHint(QPainter::Antialiasing, false);
+  }
+}
+
+void QtCanvas::FillPolygon(const std::vector<Point>& points, Rgb color) {
+  if (points.size() < 3 || !Limit(clip_)) return;
+  QPolygonF polygon;
+  polygon.reserve(static_cast<qsizetype>(points.size()));
+  for (const Point& point : points) {
+    polygon << QPointF(Pixels(origin_.x + point.x), Pixels(origin_.y + point.y));
+  }
+  painter_.setRenderHint(QPainter::Antialiasing, true);
+  painter_.setBrush(ColorOf(color));
+  painter_.drawPolygon(polygon);
+  painter_.setBrush(Qt::NoBrush);
+  painter_.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void QtCanvas::DrawText(const Rect& box, std::string_view text, const FontSpec& font, Rgb color,
+                        HorizontalAlign horizontal, VerticalAlign vertical) {
+  if (text.empty() || !Limit(Device(box))) return;
+  const QString line = SingleLine(text);
+  const QtFonts::Measures measures = fonts_.LineMeasures(font);
+
+  double left = box.left;
+  if (horizontal != HorizontalAlign::kLeft) {
+    const double room = box.width - fonts_.TextWidth(font, line) * kTwipsPerPixel;
+    left += horizontal == HorizontalAlign::kRight ? room : room / 2;
+  }
+  double top = box.top;
+  if (vertical != VerticalAlign::kTop) {
+    const double room = box.height - measures.height * kTwipsPerPixel;
+    top += vertical == VerticalAlign::kBottom ? room : room / 2;
+  }
+  painter_.setTransform(text_transform_);
+  painter_.setFont(fonts_.Font(font, dots_per_inch_));
+  painter_.setPen(ColorOf(color));
+  painter_.drawText(QPointF(X(left) / scale_, Y(top) / scale_ + measures.ascent), line);
+  painter_.setPen(Qt::NoPen);
+  painter_.setTransform(device_transform_);
+}
+
+void QtCanvas::DrawBitmap(Point at, const Bitmap& bitmap, const Rect& clip) {
+  if (bitmap.width <= 0 || bitmap.height <= 0 ||
+      bitmap.pixels.size() <
+          static_cast<std::size_t>(bitmap.width) * static_cast<std::size_t>(bitmap.height)) {
+    return;
+  }
+  const int left = X(at.x);
+  const int top = Y(at.y);
+  const QRect target(left, top, Round(bitmap.width * scale_), Round(bitmap.height * scale_));
+  const QRect seen = clip_ & Device(clip) & target;
+  if (seen.isEmpty() || !Limit(seen)) return;
+  // Only the part that is seen is turned into an image: a caret that blinks over a large picture costs no
+  // more than the caret. One pixel more at each side lets the smoothing see its neighbours.
+  const int first_x = static_cast<int>(std::floor((seen.left() - left) / scale_)) - 1;
+  const int first_y = static_cast<int>(std::floor((seen.top() - top) / scale_)) - 1;
+  const int last_x = static_cast<int>(std::ceil((seen.right() + 1 - left) / scale_)) + 1;
+  const int last_y = static_cast<int>(std::ceil((seen.bottom() + 1 - top) / scale_)) + 1;
+  const QRect part =
+      QRect(first_x, first_y, last_x - first_x, last_y - first_y) & QRect(0, 0, bitmap.width, bitmap.height);
+  const QImage image = PartOf(bitmap, part);
+  painter_.setRenderHint(QPainter::SmoothPixmapTransform, scale_ != std::floor(scale_));
+  painter_.drawImage(QRectF(left + part.x() * scale_, top + part.y() * scale_, part.width() * scale_,
+                            part.height() * scale_),
+                     image, QRectF(image.rect()));
+}
+
+void QtCanvas::Push(Point origin, const Rect& clip) {
+  levels_.push_back({origin_, clip_});
+  clip_ &= Device(clip);
+  origin_ = {origin_.x + origin.x, origin_.y + origin.y};
+}
+
+void QtCanvas::Pop() {
+  origin_ = levels_.back().origin;
+  clip_ = levels_.back().clip;
+  levels_.pop_back();
+}
+
+void QtCanvas::Invert(const Rect& rect) {
+  QRect pixels = Device(rect);
+  pixels.setWidth(std::max(1, pixels.width()));
+  if (!Limit(pixels)) return;
+  painter_.setCompositionMode(QPainter::CompositionMode_Difference);
+  painter_.fillRect(pixels, Qt::white);
+  painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);
+}
+
+}  // namespace orvendal

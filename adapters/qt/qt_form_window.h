@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QPointer>
+#include <QRect>
+#include <QWidget>
+
+#include "platform/forms/form.h"
+#include "platform/forms/window_host.h"
+
+namespace orvendal {
+
+class QtFormWidget;
+class QtWindowHost;
+
+/// The window of one form.
+///
+/// A form without border is a bare window of the form's size; one that is as large as the display goes over
+/// panels and docks too. With a simulated display the form that is not modal stands in a plain framed window
+/// as large as that display, at its place on it. A form with a border has the system's frame around its size.
+/// Nobody but the form changes the size.
+class QtFormWindow final : public FormWindow {
+ public:
+  QtFormWindow(QtWindowHost& host, Form& form);
+  ~QtFormWindow() override;
+
+  Form& TheForm() const { return form_; }
+  QWidget& Widget() const;
+  /// The window in front of which a modal one was shown.
+  QWidget* Owner() const { return owner_; }
+
+  void Show() override;
+  void Hide() override;
+  void Raise() override;
+  void BoundsChanged() override;
+  void CaptionChanged() override;
+  void StateChanged(WindowState state) override;
+  void RequestPaint(const Rect& area) override;
+  void PaintNow() override;
+  void Cursor(CursorShape shape) override;
+  void Caret(const std::optional<Rect>& caret) override;
+
+ private:
+  bool IsFramed() const { return form_.BorderStyle() != 0; }
+  bool SimulatesDisplay() const;
+  /// The form's place on the display, in logical pixels.
+  QRect FormPixels() const;
+  void PrepareFlags();
+  void ApplyBounds();
+  void ApplyState();
+  QPoint FirstPlace(const QSize& size) const;
+
+  QtWindowHost& host_;
+  Form& form_;
+  QtFormWidget* widget_;  // deletes itself after Detach
+  QPointer<QWidget> owner_;
+  bool modal_ = false;
+  bool placed_ = false;  // a framed window is placed once, then it is the user's
+};
+
+}  // namespace orvendal
