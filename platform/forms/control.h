@@ -173,6 +173,8 @@ class Control {
   virtual bool MouseWheel(double /*lines*/) { return false; }
   /// A press that the control handled in parts of its own (scroll bars) raises no Click and no DblClick.
   virtual bool RaisesClick(Point /*local*/) const { return true; }
+  /// A press on the scroll bars of a grid leaves the focus where it is.
+  virtual bool TakesFocusOnPress(Point /*local*/) const { return true; }
   /// A button raises Click before MouseUp.
   virtual bool ClickPrecedesMouseUp() const { return false; }
   /// True if the character that belongs to the key is not to arrive.

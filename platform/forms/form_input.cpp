@@ -73,7 +73,7 @@ void Form::PressFirst(Control* target, Point position, int button, int shift) {
   if (GestureOver(life, serial)) return;
   if (target->IsOperable()) target->MousePressed(button, shift, local);
   if (GestureOver(life, serial)) return;
-  if (target->IsFocusable()) MoveFocus(target);
+  if (target->IsFocusable() && target->TakesFocusOnPress(local)) MoveFocus(target);
   GestureOver(life, serial);
 }
 

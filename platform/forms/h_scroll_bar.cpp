@@ -76,7 +76,7 @@ HScrollBar::Layout HScrollBar::Measure() const {
 }
 
 void HScrollBar::MousePressed(int button, int, Point local) {
-  if (button != mouse_button::kLeft || IsInert()) return;
+  if (button != mouse_button::kLeft) return;
   const Layout layout = Measure();
   if (layout.left_arrow.Contains(local)) {
     Step(-small_change_);
@@ -104,7 +104,6 @@ void HScrollBar::MouseReleased(int, int, Point) {
 }
 
 bool HScrollBar::KeyDownDefault(int key_code, int) {
-  if (IsInert()) return false;
   switch (key_code) {
     case key::kLeft:
     case key::kUp:

@@ -143,6 +143,7 @@ class MSFlexGrid final : public Control {
   void MouseReleased(int button, int shift, Point local) override;
   bool MouseWheel(double lines) override;
   bool RaisesClick(Point local) const override;
+  bool TakesFocusOnPress(Point local) const override { return RaisesClick(local); }
   bool KeyDownDefault(int key_code, int shift) override;
   void FocusChanged(bool has_focus) override;
 

@@ -163,6 +163,13 @@ TEST_F(GridTest, TheArrowsOfTheBarScrollByOneRowAndTouchNoCell) {
   EXPECT_EQ(clicks, 0);
 }
 
+TEST_F(GridTest, ThePressOnABarLeavesTheFocusWhereItIs) {
+  form->other.SetFocus();
+  const Rect bar = BarAtRight();
+  Click(OnForm(bar.left + 120, bar.Bottom() - 100));
+  EXPECT_TRUE(form->other.HasFocus());
+}
+
 TEST_F(GridTest, TheTrackOfTheBarScrollsByAPage) {
   const Rect bar = BarAtRight();
   Click(OnForm(bar.left + 120, bar.Bottom() - 300));
