@@ -1,0 +1,86 @@
+#include "adapters/sqlite/statement_cache.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <utility>
+
+namespace orvendal::sqlite {
+namespace {
+
+constexpr std::size_t kMostIdle = 16;
+
+}  // namespace
+
+StatementLease::StatementLease(std::shared_ptr<StatementCache> cache, std::string sql,
+                               sqlite3_stmt* statement)
+    : cache_(std::move(cache)), sql_(std::move(sql)), statement_(statement) {}
+
+StatementLease::StatementLease(StatementLease&& other) noexcept
+    : cache_(std::move(other.cache_)),
+      sql_(std::move(other.sql_)),
+      statement_(std::exchange(other.statement_, nullptr)) {}
+
+StatementLease& StatementLease::operator=(StatementLease&& other) noexcept {
+  if (this != &other) {
+    GiveBack();
+    cache_ = std::move(other.cache_);
+    sql_ = std::move(other.sql_);
+    statement_ = std::exchange(other.statement_, nullptr);
+  }
+  return *this;
+}
+
+void StatementLease::GiveBack() noexcept {
+  if (statement_ == nullptr) return;
+  sqlite3_stmt* statement = std::exchange(statement_, nullptr);
+  sqlite3_reset(statement);
+  sqlite3_clear_bindings(statement);
+  if (cache_->database_ == nullptr || sql_.empty()) {
+    sqlite3_finalize(statement);
+    return;
+  }
+  std::vector<StatementCache::Idle>& idle = cache_->idle_;
+  if (idle.size() == kMostIdle) {
+    sqlite3_finalize(idle.front().statement);
+    idle.erase(idle.begin());
+  }
+  idle.push_back({std::move(sql_), statement});
+}
+
+StatementLease StatementCache::Prepare(const std::shared_ptr<StatementCache>& cache, const std::string& sql,
+                                       std::string* rest) {
+  std::vector<Idle>& idle = cache->idle_;
+  const auto found =
+      std::find_if(idle.rbegin(), idle.rend(), [&sql](const Idle& entry) { return entry.sql == sql; });
+  if (found != idle.rend()) {
+    sqlite3_stmt* statement = found->statement;
+    idle.erase(std::next(found).base());
+    return {cache, sql, statement};
+  }
+  return PrepareAfresh(cache, sql, rest);
+}
+
+StatementLease StatementCache::PrepareAfresh(const std::shared_ptr<StatementCache>& cache,
+                                             const std::string& sql, std::string* rest) {
+  sqlite3_stmt* statement = nullptr;
+  const char* end = nullptr;
+  const int code =
+      sqlite3_prepare_v2(cache->database_, sql.c_str(), static_cast<int>(sql.size()) + 1, &statement, &end);
+  if (code != SQLITE_OK || statement == nullptr) return {};
+  const std::size_t used = static_cast<std::size_t>(end - sql.c_str());
+  if (rest != nullptr) *rest = sql.substr(used);
+  return {cache, used == sql.size() ? sql : std::string(), statement};
+}
+
+void StatementCache::Clear() noexcept {
+  for (const Idle& entry : idle_) sqlite3_finalize(entry.statement);
+  idle_.clear();
+}
+
+void StatementCache::Close() noexcept {
+  Clear();
+  database_ = nullptr;
+}
+
+}  // namespace orvendal::sqlite

@@ -1,0 +1,125 @@
+#include "adapters/sqlite/store_functions.h"
+
+#include <sqlite3.h>
+
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "adapters/sqlite/stored_date.h"
+#include "adapters/sqlite/text_folding.h"
+#include "adapters/sqlite/text_pattern.h"
+
+namespace orvendal::sqlite {
+namespace {
+
+bool IsNull(sqlite3_value* value) {
+  return sqlite3_value_type(value) == SQLITE_NULL;
+}
+
+std::string_view Text(sqlite3_value* value) {
+  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+  return text == nullptr ? std::string_view()
+                         : std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
+}
+
+void Answer(sqlite3_context* context, const std::string& text) {
+  sqlite3_result_text(context, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+}
+
+// Whether `text` matches the pattern in the second argument, which is parsed once for each run of a
+// statement.
+bool MatchesPattern(sqlite3_context* context, sqlite3_value** arguments, std::string_view text) {
+  if (const auto* kept = static_cast<const TextPattern*>(sqlite3_get_auxdata(context, 1))) {
+    return kept->Matches(text);
+  }
+  auto pattern = std::make_unique<TextPattern>(Text(arguments[1]));
+  const bool matches = pattern->Matches(text);
+  sqlite3_set_auxdata(context, 1, pattern.release(),
+                      [](void* old) { delete static_cast<TextPattern*>(old); });
+  return matches;
+}
+
+std::optional<Date> DateIn(sqlite3_value* value) {
+  const std::optional<Moment> moment = ParseStoredDate(Text(value));
+  return moment ? DateOf(*moment) : std::nullopt;
+}
+
+void TextEqualsFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0]) || IsNull(arguments[1])) return;
+  sqlite3_result_int(context, TextEquals(Text(arguments[0]), Text(arguments[1])) ? 1 : 0);
+}
+
+void TextLikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0]) || IsNull(arguments[1])) return;
+  sqlite3_result_int(context, MatchesPattern(context, arguments, Text(arguments[0])) ? 1 : 0);
+}
+
+void RangeLowFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (!IsNull(arguments[0])) Answer(context, RangeOfEqualTexts(Text(arguments[0])).low);
+}
+
+void RangeHighFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (!IsNull(arguments[0])) Answer(context, RangeOfEqualTexts(Text(arguments[0])).high);
+}
+
+void SortKeyFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (!IsNull(arguments[0])) Answer(context, SortKey(Text(arguments[0])));
+}
+
+void MomentFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0])) return;
+  if (const std::optional<Moment> moment = ParseStoredDate(Text(arguments[0]))) {
+    sqlite3_result_int64(context, *moment);
+  }
+}
+
+void RegionDateLikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0]) || IsNull(arguments[1])) return;
+  const auto* region = static_cast<const Region*>(sqlite3_user_data(context));
+  const std::optional<Date> date = DateIn(arguments[0]);
+  const std::string text = date ? region->ToText(*date) : std::string(Text(arguments[0]));
+  sqlite3_result_int(context, MatchesPattern(context, arguments, text) ? 1 : 0);
+}
+
+// How the server writes a date where it needs a text and is told no style: "Nov 16 2026 12:00AM".
+std::string ServerText(Date date) {
+  static constexpr const char* kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                            "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+  char text[40];
+  std::snprintf(text, sizeof text, "%s %2d %4d %2d:%02d%s", kMonths[date.Month() - 1], date.Day(),
+                date.Year(), date.Hour() % 12 == 0 ? 12 : date.Hour() % 12, date.Minute(),
+                date.Hour() < 12 ? "AM" : "PM");
+  return text;
+}
+
+void ServerDateLikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
+  if (IsNull(arguments[0]) || IsNull(arguments[1])) return;
+  const std::optional<Date> date = DateIn(arguments[0]);
+  const std::string text = date ? ServerText(*date) : std::string(Text(arguments[0]));
+  sqlite3_result_int(context, MatchesPattern(context, arguments, text) ? 1 : 0);
+}
+
+}  // namespace
+
+void RegisterFunctions(sqlite3* database, const Region& region) {
+  const auto give = [database, &region](const char* name, int arguments,
+                                        void (*call)(sqlite3_context*, int, sqlite3_value**)) {
+    // Only direct: no view, trigger or index of a file may come to depend on them.
+    constexpr int kFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;
+    sqlite3_create_function_v2(database, name, arguments, kFlags, const_cast<Region*>(&region), call, nullptr,
+                               nullptr, nullptr);
+  };
+  give(function::kTextEquals, 2, TextEqualsFunction);
+  give(function::kTextLike, 2, TextLikeFunction);
+  give(function::kRangeLow, 1, RangeLowFunction);
+  give(function::kRangeHigh, 1, RangeHighFunction);
+  give(function::kSortKey, 1, SortKeyFunction);
+  give(function::kMoment, 1, MomentFunction);
+  give(function::kRegionDateLike, 2, RegionDateLikeFunction);
+  give(function::kServerDateLike, 2, ServerDateLikeFunction);
+}
+
+}  // namespace orvendal::sqlite

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvendal::sqlite {
+
+/// The file's indexes fold the letters A to Z at most (NOCASE), the providers fold every letter and pay no
+/// regard to blanks at the end. These give the candidates to look for in an index, and the exact comparison.
+
+/// Equal to the providers: without regard to case and to blanks at the end. Accents count.
+bool TextEquals(std::string_view left, std::string_view right);
+
+std::string WithoutTrailingBlanks(std::string_view text);
+
+/// Above every text that begins with `text`, and for the blanks alone: above `text` with any number of blanks
+/// after it.
+std::string AboveTextsBeginningWith(std::string_view text);
+std::string AboveTrailingBlanks(std::string_view text);
+
+/// A stretch of a NOCASE index: from `low` on, below `high`.
+struct IndexRange {
+  std::string low;
+  std::string high;
+};
+/// Holds every text that equals `text` to the providers, and few others.
+IndexRange RangeOfEqualTexts(std::string_view text);
+/// Holds every text that begins with `prefix` to the providers, and few others.
+IndexRange RangeOfPrefix(std::string_view prefix);
+
+/// The spellings of `text` in both cases of its letters outside A to Z, itself first; none if they are more
+/// than four.
+std::vector<std::string> CaseVariants(std::string_view text);
+
+/// By which texts sort as in Spanish: case and accents ignored, the letter ñ after n.
+std::string SortKey(std::string_view text);
+
+}  // namespace orvendal::sqlite
