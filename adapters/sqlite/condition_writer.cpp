@@ -111,7 +111,6 @@ std::string ConditionWriter::DateBetween(const std::string& column, Moment first
 }
 
 std::string ConditionWriter::DateLike(const std::string& column, std::string_view pattern) {
-  if (pattern == "%") return column + " IS NOT NULL";
   if (dialect_ == Dialect::kSqlServer) {
     return Call(function::kServerDateLike, column, Next(std::string(pattern)));
   }

@@ -314,9 +314,7 @@ class Rewriter {
         return;
       case TokenKind::kWord:
         FollowClause(token);
-        // The engine keeps the tables of a CROSS JOIN in the order of the text, and the conditions that
-        // replace the join's own have an index to use in that order only.
-        Emit(token.IsWord("INNER") && WordAt(at_, "JOIN") ? "CROSS" : token.text);
+        Emit(token.text);
         return;
       default:
         break;

@@ -130,6 +130,9 @@ TEST_P(AddingRows, TextsAreReadByTheRegionOfTheConnection) {
   store->Execute("DELETE FROM Pruebas");
   EXPECT_EQ(ErrorOfUpdate("Entero", "7"), 0);
   EXPECT_EQ(Stored("Entero"), "integer 7");
+  store->Execute("DELETE FROM Pruebas");
+  EXPECT_EQ(ErrorOfUpdate("Entero", "2,5"), 0);
+  EXPECT_EQ(Stored("Entero"), "integer 2") << "halves go to the even number";
 
   store = SqliteConnection::Open(":memory:", GetParam(), Region::English(), OpenMode::kCreate);
   store->Execute("CREATE TABLE Pruebas (Codigo TEXT, Cantidad REAL, Dia DATETIME)");

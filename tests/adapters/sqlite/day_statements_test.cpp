@@ -36,6 +36,19 @@ TEST_P(DayStatements, ALoadFindsTheDayOfTheBranchInTheOrderOfEntry) {
   EXPECT_EQ(Load("01", "2026-11-16"), (Texts{"P2", "P1"}));
 }
 
+TEST_P(DayStatements, TheOrderStaysWhateverTheEngineKnowsOfTheTables) {
+  store->Execute(
+      "DELETE FROM Productos; INSERT INTO Productos VALUES ('P1','Champú'),('P2','Laca');"
+      "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2000) "
+      "INSERT INTO HistOrvendalcial (IdSucursal, Fecha, IdProducto) "
+      "SELECT '01', '2026-11-16 00:00:00', CASE i % 2 WHEN 1 THEN 'P2' ELSE 'P1' END FROM n; ANALYZE");
+  const Texts codes = Load("01", "2026-11-16");
+  ASSERT_EQ(codes.size(), 2000U);
+  EXPECT_EQ(codes[0], "P2");
+  EXPECT_EQ(codes[1], "P1");
+  EXPECT_EQ(codes[2], "P2");
+}
+
 TEST_P(DayStatements, ALoadBringsEveryFieldInItsKind) {
   Add("01", "2026-11-16 09:05:00", "P1");
   const RecordsetRef row = Read(DayStatement("01", LoadCondition(GetParam(), "2026-11-16")));
