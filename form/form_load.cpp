@@ -36,14 +36,14 @@ void FrmOrvendalciales::SetCaptions() {
     click_area->Caption("");
   }
   // Alone, a Null is an error; joined with blanks it gives the blanks.
-  const auto read = [this](const RecordsetRef& dictionary, const char* key) {
-    return TextOf(dictionary->Fields(key).Value());
+  const auto read = [this](RecordsetRef& dictionary, const char* key) {
+    return TextOf(Word(dictionary, key));
   };
-  const auto join = [this](const RecordsetRef& dictionary, const char* key) {
-    const Value value = dictionary->Fields(key).Value();
+  const auto join = [this](RecordsetRef& dictionary, const char* key) {
+    const Value value = Word(dictionary, key);
     return value.IsNull() ? std::string() : TextOf(value);
   };
-  const DatosComunes& session = Session();
+  DatosComunes& session = Session();
   LblNuevo_0.Caption(read(session.DiccAcciones, "Supervisor"));
   LblCancelar_0.Caption(read(session.DiccGeneral, "Cancelar"));
   LblBorrar_0.Caption(read(session.DiccAcciones, "Borrar Linea"));
@@ -65,7 +65,7 @@ void FrmOrvendalciales::NameBranch() {
     Mostrar("Error al cargar la sucursal", message::kStop, "Atención");
   } else {
     const double right = LblSucursal.Left() + LblSucursal.Width();
-    const Value word = Session().DiccGeneral->Fields("Sucursal").Value();
+    const Value word = Word(Session().DiccGeneral, "Sucursal");
     const Value name = branches->Fields("Nombre").Value();
     LblSucursal.Caption(kBlanks + (word.IsNull() ? std::string() : TextOf(word)) + " " + LblSucursal.Tag() +
                         " " + (name.IsNull() ? std::string() : TextOf(name)) + kBlanks);

@@ -187,7 +187,10 @@ class FrmOrvendalciales final : public Form {
   const Region& UserRegion() { return Host().UserRegion(); }
   std::string TextOf(const Value& value) { return UserRegion().ToText(value); }
   RecordsetRef NewRecordset() { return state_.environment.recordsets.NewRecordset(); }
-  Recordset& RsCodigosEnUso();
+  /// An object variable that comes into being on first use.
+  Recordset& InUse(RecordsetRef& variable);
+  Recordset& RsCodigosEnUso() { return InUse(variables.RsCodigos); }
+  Value Word(RecordsetRef& dictionary, const char* key) { return InUse(dictionary).Fields(key).Value(); }
   std::int32_t Mostrar(std::string texto, std::int32_t estilo, std::string titulo);
   std::string FormatoFecha(std::string fecha);
   std::shared_ptr<FrmOrvendalciales> GlobalForm();

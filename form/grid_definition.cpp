@@ -10,12 +10,12 @@ void FrmOrvendalciales::DefineLineGrid() {
   grid.Rows(13);
   grid.Height(6455);
 
-  const RecordsetRef& words = Session().DiccGeneral;
-  grid.TextMatrix(0, 0, TextOf(words->Fields("Codigo").Value()));
-  grid.TextMatrix(0, 1, TextOf(words->Fields("Descripcion").Value()));
+  RecordsetRef& words = Session().DiccGeneral;
+  grid.TextMatrix(0, 0, TextOf(Word(words, "Codigo")));
+  grid.TextMatrix(0, 1, TextOf(Word(words, "Descripcion")));
   grid.TextMatrix(0, 2, "Cant.Ant");
   grid.TextMatrix(0, 3, "Cant.Actual");
-  grid.TextMatrix(0, 5, TextOf(words->Fields("Estilista").Value()));
+  grid.TextMatrix(0, 5, TextOf(Word(words, "Estilista")));
   grid.TextMatrix(0, 6, "Fecha");
   grid.TextMatrix(0, 7, "CodigoAnterior");
   grid.TextMatrix(0, 8, "CantidadAnterior");
