@@ -1,7 +1,7 @@
 #include "platform/base/region.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 #include <vector>
 
@@ -138,10 +138,11 @@ std::string Region::ToText(const Value& value) const {
 std::string Region::ToText(double number) const {
   if (number == 0.0) return "0";
   // Fifteen significant digits decide; the E-form begins at 1E+15 and below 1E-4 where it is the shorter one.
-  char scientific[40];
-  std::snprintf(scientific, sizeof scientific, "%.14E", number);
-  std::string mantissa(scientific);
-  const std::size_t e = mantissa.find('E');
+  std::array<char, 40> scientific;
+  const std::to_chars_result written = std::to_chars(scientific.data(), scientific.data() + scientific.size(),
+                                                     number, std::chars_format::scientific, 14);
+  std::string mantissa(scientific.data(), written.ptr);
+  const std::size_t e = mantissa.find('e');
   const int exponent = std::stoi(mantissa.substr(e + 1));
   mantissa.resize(e);
   const bool negative = mantissa[0] == '-';
@@ -226,8 +227,9 @@ std::optional<double> Region::ParseNumber(std::string_view text) const {
     plain += exponent;
   }
   if (at != trimmed.size()) return std::nullopt;
-  const double number = std::strtod(plain.c_str(), nullptr);
-  if (!std::isfinite(number)) return std::nullopt;
+  double number = 0;
+  const std::from_chars_result read = std::from_chars(plain.data(), plain.data() + plain.size(), number);
+  if (read.ec != std::errc() || !std::isfinite(number)) return std::nullopt;
   return number;
 }
 

@@ -2,13 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+#include <functional>
+
 #include "platform/base/runtime_error.h"
 
 namespace orvendal {
 namespace {
 
-const Region& Spanish() { return Region::Spanish(); }
-const Region& English() { return Region::English(); }
+const Region& Spanish() {
+  return Region::Spanish();
+}
+const Region& English() {
+  return Region::English();
+}
 
 std::int32_t ErrorOf(const std::function<void()>& action) {
   try {
@@ -48,6 +55,17 @@ TEST(RegionTest, NumbersAreReadWithTheRegionsMark) {
   EXPECT_EQ(English().ParseNumber("-1e3"), -1000.0);
   EXPECT_EQ(Spanish().ParseNumber(""), std::nullopt);
   EXPECT_EQ(Spanish().ParseNumber("12a"), std::nullopt);
+}
+
+TEST(RegionTest, NumbersReadAlikeWhateverTheProgramsLocaleIs) {
+  const char* const previous = std::setlocale(LC_NUMERIC, nullptr);
+  const std::string kept = previous != nullptr ? previous : "C";
+  for (const char* name : {"es_ES.UTF-8", "de_DE.UTF-8", "C"}) {
+    std::setlocale(LC_NUMERIC, name);
+    EXPECT_EQ(Spanish().ParseNumber("2,5"), 2.5) << name;
+    EXPECT_EQ(Spanish().ToText(2.5), "2,5") << name;
+  }
+  std::setlocale(LC_NUMERIC, kept.c_str());
 }
 
 TEST(RegionTest, DatesAreReadInTheRegionsOrderAndElseInTheOneThatFits) {
