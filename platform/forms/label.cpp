@@ -68,6 +68,17 @@ void Label::Fit() {
        Host().LineHeight(font) + borders);
 }
 
+// A design was measured with the fonts of its own desktop, and its sizes stay. Where this desktop's letters are a
+// little wider, an AutoSize label is written a little smaller rather than cut.
+FontSpec Label::FittingFont(double width) const {
+  constexpr double kMostShrinking = 0.85;
+  FontSpec font = Font().Spec();
+  if (!auto_size_) return font;
+  const double needed = Host().TextWidth(font, ReadCaption(caption_).text);
+  if (needed > width && needed * kMostShrinking <= width) font.size *= width / needed;
+  return font;
+}
+
 void Label::Paint(Canvas& canvas) {
   Rect inside = LocalBounds();
   if (opaque_) canvas.FillRectangle(inside, Resolve(BackColor()));
@@ -78,7 +89,10 @@ void Label::Paint(Canvas& canvas) {
     inside = inside.Deflated(kTwipsPerPixel);
   }
   const Rgb color = Resolve(IsOperable() ? ForeColor() : system_color::kGrayText);
-  PaintCaption(canvas, Host(), inside, caption_, Font().Spec(), color, alignment_, VerticalAlign::kTop);
+  const FontSpec font = FittingFont(inside.width);
+  const bool is_tall = Host().LineHeight(font) > inside.height;
+  PaintCaption(canvas, Host(), inside, caption_, font, color, alignment_,
+               is_tall ? VerticalAlign::kCenter : VerticalAlign::kTop);
 }
 
 }  // namespace orvendal
