@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/data/recordset.h"
+
+namespace orvendal {
+
+struct BranchName {
+  std::string key;
+  std::string name;
+};
+
+/// The branches of the store by their keys. Raises the store's error.
+std::vector<BranchName> ReadBranches(const ConnectionRef& connection);
+
+}  // namespace orvendal

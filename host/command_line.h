@@ -1,0 +1,66 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "adapters/sqlite/dialect.h"
+#include "host/language.h"
+#include "host/words.h"
+#include "platform/base/region.h"
+
+namespace orvendal {
+
+struct PixelSize {
+  int width = 0;
+  int height = 0;
+};
+
+/// What the program was asked for on its command line.
+struct Options {
+  std::string sucursal = "01";
+  std::string puesto = "1";
+  std::string turno = "1";
+  Language language = Language::kSpanish;
+  const Region* region = &Region::Spanish();
+  int base_width = 15360;   // twips
+  int base_height = 11520;  // twips
+  std::optional<PixelSize> display;
+  std::optional<std::string> store;
+  Dialect dialect = Dialect::kSqlServer;
+  std::string picture;  // empty: open a window
+};
+
+/// A command that does something other than open the screen: a word followed by one argument. The options
+/// hold before and after it.
+struct Command {
+  std::string name;
+  std::string argument;  // what the help calls it
+  std::string_view Words::*help;
+  std::function<int(const Options& options, const std::string& argument)> run;
+};
+
+/// The outcome of reading a command line: either there is something to do, or the program ends at once with
+/// `exit_code`, having written the texts.
+struct CommandLine {
+  Options options;
+  const Command* command = nullptr;  // nullptr: open the screen
+  std::string argument;
+  std::optional<int> exit_code;
+  std::string output;
+  std::string errors;
+};
+
+inline constexpr int kExitFailure = 1;
+inline constexpr int kExitWrongUse = 2;
+
+/// Reads the words after the program's name. Help and errors are in the language asked for, else in
+/// `system_language`; wrong use gives one line and kExitWrongUse. `commands` outlives the result.
+CommandLine ReadCommandLine(const std::vector<std::string>& arguments, Language system_language,
+                            const std::vector<Command>& commands);
+
+/// The file of the store if none is named: orvendal/cadena.db where the user's data belong.
+std::string DefaultStore();
+
+}  // namespace orvendal

@@ -1,0 +1,109 @@
+#include "host/dialog_design.h"
+
+#include <algorithm>
+
+namespace orvendal {
+namespace dialog_design {
+namespace {
+
+constexpr double kScrollBar = 300;
+constexpr double kRowHeight = 330;
+constexpr int kSystemFrame = 3;
+constexpr int kPlacedByHand = 0;
+constexpr int kAlignLeft = 1;
+
+void DesignFont(Control& control) {
+  FontSpec font;
+  font.size = kFontSize;
+  control.Font().Spec(font);
+}
+
+}  // namespace
+
+void PlaceDialog(Form& form, std::string_view title, double width, double height) {
+  WindowHost& host = form.Host();
+  form.Caption(std::string(title));
+  form.BorderStyle(kSystemFrame);
+  form.StartUpPosition(kPlacedByHand);
+  form.Width(std::min(width, host.ScreenWidth()));
+  form.Height(std::min(height, host.ScreenHeight()));
+  form.Move((host.ScreenWidth() - form.Width()) / 2, (host.ScreenHeight() - form.Height()) / 2);
+}
+
+void DesignLabel(Label& label, std::string_view caption, const Rect& place) {
+  DesignFont(label);
+  label.Design(std::string(caption), false, false);
+  label.Move(place.left, place.top, place.width, place.height);
+}
+
+void DesignBox(TextBox& box, const Rect& place, int tab_index) {
+  DesignFont(box);
+  box.Move(place.left, place.top, place.width, place.height);
+  box.TabIndex(tab_index);
+}
+
+void DesignButton(CommandButton& button, std::string_view caption, const Rect& place, int tab_index) {
+  DesignFont(button);
+  button.Caption(std::string(caption));
+  button.Move(place.left, place.top, place.width, place.height);
+  button.TabIndex(tab_index);
+}
+
+void DesignGrid(MSFlexGrid& grid, const std::vector<GridColumn>& columns, const Rect& place, int tab_index) {
+  DesignFont(grid);
+  grid.Move(place.left, place.top, place.width, place.height);
+  grid.TabIndex(tab_index);
+  grid.BackColorBkg(system_color::kWindowBackground);
+  grid.FixedCols(0);
+  grid.FixedRows(1);
+  grid.Cols(static_cast<int>(columns.size()));
+  grid.Rows(1);
+  grid.RowHeightMin(kRowHeight);
+  double shares = 0;
+  for (const GridColumn& column : columns) shares += column.share;
+  for (int i = 0; i < grid.Cols(); ++i) {
+    const GridColumn& column = columns[static_cast<std::size_t>(i)];
+    grid.ColWidth(i, (place.width - kScrollBar) * column.share / shares);
+    grid.ColAlignment(i, kAlignLeft);
+    grid.FixedAlignment(i, kAlignLeft);
+    grid.TextMatrix(0, i, std::string(column.title));
+  }
+}
+
+}  // namespace dialog_design
+
+void RowHighlight::PaintRow(int row, ColorWord back, ColorWord fore) {
+  grid_.Row(row);
+  for (int column = 0; column < grid_.Cols(); ++column) {
+    grid_.Col(column);
+    grid_.CellBackColor(back);
+    grid_.CellForeColor(fore);
+  }
+  grid_.Col(0);
+}
+
+void RowHighlight::TakeOff() {
+  if (row_ > 0 && row_ < grid_.Rows() && !painting_) {
+    painting_ = true;
+    const int cursor = grid_.Row();
+    PaintRow(row_, 0, 0);
+    grid_.Row(cursor);
+    painting_ = false;
+  }
+  row_ = 0;
+}
+
+void RowHighlight::FollowCursor() {
+  if (painting_ || grid_.Rows() <= grid_.FixedRows()) return;
+  const int cursor = grid_.Row();
+  if (cursor != row_) {
+    TakeOff();
+    painting_ = true;
+    PaintRow(cursor, system_color::kHighlight, system_color::kHighlightText);
+    painting_ = false;
+    row_ = cursor;
+  }
+  grid_.CellTop();  // brings the cell into view
+}
+
+}  // namespace orvendal

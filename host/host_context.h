@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+#include "host/dictionaries.h"
+#include "host/message_presenter.h"
+#include "host/words.h"
+#include "platform/base/value.h"
+#include "platform/data/recordset.h"
+#include "platform/forms/window_host.h"
+
+namespace orvendal {
+
+/// What the sample host has in common with its session object and its stand-in library. Outlives both.
+struct HostContext {
+  WindowHost& window_host;
+  MessagePresenter& messages;
+  const Words& words;
+
+  /// The open connection of the application.
+  ConnectionRef connection;
+  /// Opens the store anew; raises StoreUnavailable.
+  std::function<ConnectionRef()> reopen_store;
+  /// The store as it is named to the user.
+  std::string store_name;
+
+  std::string sucursal;
+  std::string puesto;
+  std::string turno;
+  std::int32_t ancho_base = 15360;  // twips
+  std::int32_t alto_base = 11520;   // twips
+  Value dato_pantalla = 0.0;
+  Dictionaries dictionaries;
+
+  /// Called when the library has let go of the screen.
+  std::function<void()> screen_released;
+};
+
+/// What was told about a statement: who works where.
+std::string SessionText(const HostContext& context);
+
+}  // namespace orvendal

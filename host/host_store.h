@@ -1,0 +1,39 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "adapters/sqlite/sqlite_store.h"
+#include "host/words.h"
+#include "platform/base/date.h"
+#include "platform/base/region.h"
+#include "platform/base/runtime_error.h"
+
+namespace orvendal {
+
+/// A store that cannot be used. The description says why in the words of the user's language.
+class StoreUnavailable : public RuntimeError {
+ public:
+  explicit StoreUnavailable(const std::string& description);
+};
+
+/// Where the host's store is and how it is to answer. `region` and `words` outlive it.
+struct StoreSettings {
+  std::string path;  // ":memory:" for one that is gone with its connection
+  Dialect dialect = Dialect::kSqlServer;
+  const Region& region;
+  const Words& words;
+};
+
+/// Opens the store. One that does not exist yet, or has no table at all, is made with the sample chain, whose
+/// counts end at `today`. Raises StoreUnavailable: the folder is missing, another program has it locked, it
+/// is no database, it is a database of something else.
+std::shared_ptr<SqliteConnection> OpenOrMakeStore(const StoreSettings& settings, Date today);
+
+/// Opens a store that has to be there. Raises StoreUnavailable.
+std::shared_ptr<SqliteConnection> OpenExistingStore(const StoreSettings& settings);
+
+/// The connection as one to the embedded store, for the host's own statements. Raises 3709 for any other.
+SqliteConnection& EmbeddedStore(const ConnectionRef& connection);
+
+}  // namespace orvendal

@@ -1,0 +1,70 @@
+#include "host/quantity_filter.h"
+
+#include "platform/base/text.h"
+#include "platform/forms/keys.h"
+
+namespace orvendal {
+namespace {
+
+constexpr std::size_t kMostWholeDigits = 7;
+constexpr std::size_t kMostDecimals = 3;
+
+bool IsControlKey(int key_ascii) {
+  constexpr int kFirstPrintable = 32;
+  constexpr int kDeleteWord = 127;
+  return key_ascii < kFirstPrintable || key_ascii == kDeleteWord;
+}
+
+std::size_t CountDigits(std::string_view text, std::size_t from) {
+  std::size_t at = from;
+  while (at < text.size() && text[at] >= '0' && text[at] <= '9') ++at;
+  return at - from;
+}
+
+std::string WithoutWhiteSpaceAround(const std::string& text) {
+  constexpr std::string_view kWhite = " \t\r\n";
+  const std::size_t first = text.find_first_not_of(kWhite);
+  if (first == std::string::npos) return {};
+  return text.substr(first, text.find_last_not_of(kWhite) - first + 1);
+}
+
+// The box pastes by itself what it can take as it is; what has to be trimmed is put in here.
+int FilterPaste(TextBox& box, WindowHost& host, bool decimals) {
+  const std::string clipboard = host.ClipboardText();
+  const std::string trimmed = WithoutWhiteSpaceAround(clipboard);
+  if (trimmed.empty() || !IsQuantity(TextWith(box, trimmed), host.UserRegion(), decimals)) return 0;
+  if (trimmed == clipboard) return character::kPaste;
+  box.SelText(trimmed);
+  return 0;
+}
+
+}  // namespace
+
+bool IsQuantity(std::string_view text, const Region& region, bool decimals) {
+  const std::size_t whole = CountDigits(text, 0);
+  if (whole > kMostWholeDigits) return false;
+  if (whole == text.size()) return true;
+  if (!decimals || whole == 0 || text[whole] != region.DecimalMark()) return false;
+  const std::size_t fraction = CountDigits(text, whole + 1);
+  return fraction <= kMostDecimals && whole + 1 + fraction == text.size();
+}
+
+std::string TextWith(const TextBox& box, std::string_view typed) {
+  const auto start = static_cast<std::size_t>(box.SelStart());
+  const auto length = static_cast<std::size_t>(box.SelLength());
+  const std::string& text = box.Text();
+  return Mid(text, 1, start) + std::string(typed) + Mid(text, start + length + 1);
+}
+
+int FilterQuantityKey(TextBox& box, int key_ascii, WindowHost& host, bool decimals) {
+  if (key_ascii == character::kPaste) return FilterPaste(box, host, decimals);
+  if (IsControlKey(key_ascii)) return key_ascii;
+  const char mark = host.UserRegion().DecimalMark();
+  const int key = key_ascii == '.' ? mark : key_ascii;
+  const bool is_digit = key >= '0' && key <= '9';
+  if (!is_digit && key != mark) return 0;
+  const std::string result = TextWith(box, std::string(1, static_cast<char>(key)));
+  return IsQuantity(result, host.UserRegion(), decimals) ? key : 0;
+}
+
+}  // namespace orvendal

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/host_context.h"
+#include "platform/library/library.h"
+
+namespace orvendal {
+
+/// The sample host's session object: it fills the session from the context. It leaves the branch code as the
+/// caller gave it.
+class SampleSession final : public DatosClase {
+ public:
+  explicit SampleSession(HostContext& context) : context_(context) {}
+
+  void RellenarSesion(const SessionArguments& session) override;
+
+  /// The connection of the application, for the library's dialogs, which are given nothing else.
+  const ConnectionRef& Store() const { return context_.connection; }
+
+ private:
+  HostContext& context_;
+};
+
+}  // namespace orvendal

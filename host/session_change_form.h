@@ -1,0 +1,49 @@
+#pragma once
+
+#include <vector>
+
+#include "host/branch_names.h"
+#include "host/dialog_design.h"
+#include "host/host_context.h"
+
+namespace orvendal {
+
+/// The dialog that changes branch, workstation and shift. Enter accepts, Esc cancels.
+class SessionChangeForm final : public Form {
+ public:
+  struct Session {
+    std::string sucursal;
+    std::string puesto;
+    std::string turno;
+  };
+
+  SessionChangeForm(HostContext& context, std::vector<BranchName> branches, Session session);
+
+  bool Accepted() const { return accepted_; }
+  /// What was chosen. The branch code stays whole, also what follows its key, unless another branch was taken.
+  const Session& Chosen() const { return session_; }
+
+ protected:
+  void ApplyDesign() override;
+
+ private:
+  void FillBranches();
+  void Accept();
+
+  HostContext& context_;
+  std::vector<BranchName> branches_;
+  Session session_;
+  bool accepted_ = false;
+  bool pressed_on_row_ = false;
+
+  MSFlexGrid MSFSucursales{*this, nullptr, "MSFSucursales"};
+  TextBox TxtPuesto{*this, nullptr, "TxtPuesto"};
+  TextBox TxtTurno{*this, nullptr, "TxtTurno"};
+  CommandButton CmdAceptar{*this, nullptr, "CmdAceptar"};
+  CommandButton CmdCancelar{*this, nullptr, "CmdCancelar"};
+  Label LblPuesto{*this, nullptr, "LblPuesto"};
+  Label LblTurno{*this, nullptr, "LblTurno"};
+  RowHighlight highlight_{MSFSucursales};
+};
+
+}  // namespace orvendal

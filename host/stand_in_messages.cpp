@@ -1,0 +1,11 @@
+#include "host/stand_in_messages.h"
+
+namespace orvendal {
+
+void StandInMessages::Mostrar(std::string& texto, std::int32_t& estilo, std::string& titulo,
+                              std::int32_t& respuesta) {
+  const ModalScope scope(context_.window_host);
+  respuesta = context_.messages.Present(texto, estilo, titulo);
+}
+
+}  // namespace orvendal

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "host/host_context.h"
+#include "platform/library/library.h"
+
+namespace orvendal {
+
+/// The search for a product.
+class StandInProductSearch final : public BuscadorProductos {
+ public:
+  explicit StandInProductSearch(HostContext& context) : context_(context) {}
+
+  /// A modal list of all products, searched by `campo` ("Codigo", else by description) from `texto` on. The
+  /// store is reached through `datos_sesion`, which must be the sample host's own: error 91 for none, 13 for
+  /// another one.
+  std::string Buscar(DatosClaseRef& datos_sesion, ObjectRef& formulario, const std::string& llamador,
+                     const std::string& campo, const std::string& texto, const std::string& modo,
+                     bool& indicador) override;
+
+ private:
+  HostContext& context_;
+};
+
+}  // namespace orvendal

@@ -1,0 +1,42 @@
+#include "host/stand_in_tools.h"
+
+#include "host/host_store.h"
+#include "host/journal.h"
+#include "host/quantity_filter.h"
+#include "host/workstation_form.h"
+
+namespace orvendal {
+
+int StandInTools::FiltrarTecla(TextBox& caja, int key_ascii, bool opcion) {
+  return FilterQuantityKey(caja, key_ascii, context_.window_host, opcion);
+}
+
+void StandInTools::AccionPuesto(ConnectionRef& conexion, std::string& cod_puesto) {
+  const auto panel = std::make_shared<WorkstationForm>(context_, conexion, cod_puesto);
+  panel->Show(ShowMode::kModal);
+  panel->Unload();
+  conexion = panel->Store();
+}
+
+void StandInTools::LiberarForm(ObjectRef& formulario) {
+  formulario.reset();
+  if (context_.screen_released) context_.screen_released();
+}
+
+std::string StandInTools::FormatoFecha(std::string& fecha, std::uint8_t, std::string&, std::string&) {
+  const Region& region = context_.window_host.UserRegion();
+  const std::optional<Date> date = region.ParseDate(fecha);
+  return date ? region.ToText(date->DayOnly()) : fecha;
+}
+
+void StandInTools::RegistrarSentencia(std::string& cadena_sesion, ConnectionRef& conexion,
+                                      std::string& sentencia) {
+  WriteJournal(EmbeddedStore(conexion), context_.window_host.SystemClock().Now(), cadena_sesion, sentencia);
+}
+
+std::string StandInTools::FechaHoraTexto(Date& momento) {
+  const Region& region = context_.window_host.UserRegion();
+  return region.ToText(momento.DayOnly()) + region.Format(momento, " hh:nn:ss");
+}
+
+}  // namespace orvendal

@@ -1,0 +1,99 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+#include "host/language.h"
+
+namespace orvendal {
+
+/// What the sample host and its stand-in library say, in one language. %1, %2 stand for what Fill puts there.
+struct Words {
+  // Buttons.
+  std::string_view accept;
+  std::string_view cancel;
+  std::string_view close;
+  std::string_view yes;
+  std::string_view no;
+
+  // Columns and fields.
+  std::string_view code;
+  std::string_view description;
+  std::string_view name;
+  std::string_view branch;
+  std::string_view workstation;
+  std::string_view shift;
+  std::string_view store;
+  std::string_view provider;
+
+  // The search for a product and the picker of an employee.
+  std::string_view product_search;
+  std::string_view employee_picker;
+  std::string_view supervisor_picker;
+  std::string_view by_code;
+  std::string_view by_description;
+  std::string_view search_for;
+  std::string_view found;        // %1 of them
+  std::string_view found_first;  // %1 shown of %2
+
+  // The workstation's panel and the change of session.
+  std::string_view workstation_panel;
+  std::string_view reconnect;
+  std::string_view store_open;
+  std::string_view store_opened_anew;
+  std::string_view session_change;
+
+  // Why a store cannot be used; %1 is its file, or the folder that is missing.
+  std::string_view folder_missing;
+  std::string_view store_missing;
+  std::string_view store_locked;
+  std::string_view store_is_folder;
+  std::string_view store_no_database;
+  std::string_view store_damaged;
+  std::string_view store_read_only;
+  std::string_view store_refused;
+  std::string_view store_foreign;  // %2 is the table that it lacks
+  std::string_view store_other;    // %2 is what the engine says
+
+  // Errors of the program.
+  std::string_view error;  // %1 number, %2 description
+  std::string_view no_display;
+  std::string_view picture_not_written;  // %1 is the file
+  std::string_view unknown_option;       // %1
+  std::string_view unexpected_word;      // %1
+  std::string_view value_missing;        // %1 is the option
+  std::string_view bad_value;            // %1 is the option, %2 the value, %3 what it takes
+  std::string_view see_help;
+
+  // The help of the command line.
+  std::string_view help_purpose;
+  std::string_view help_usage;
+  std::string_view help_options;
+  std::string_view help_commands;
+  std::string_view help_branch;
+  std::string_view help_workstation;
+  std::string_view help_shift;
+  std::string_view help_language;
+  std::string_view help_region;
+  std::string_view help_base;
+  std::string_view help_display;
+  std::string_view help_store;
+  std::string_view help_dialect;
+  std::string_view help_picture;
+  std::string_view help_help;
+  std::string_view help_first_run;
+};
+
+/// They live for ever.
+const Words& WordsOf(Language language);
+
+/// `pattern` with %1 to %9 replaced by the values; a mark without a value stays.
+std::string Fill(std::string_view pattern, std::initializer_list<std::string_view> values);
+
+// One for each language, each in a file of its own.
+const Words& SpanishWords();
+const Words& CatalanWords();
+const Words& EnglishWords();
+
+}  // namespace orvendal

@@ -1,0 +1,97 @@
+#include "host/workstation_form.h"
+
+#include "host/branch_names.h"
+#include "host/host_store.h"
+#include "platform/base/text.h"
+#include "platform/library/library.h"
+
+namespace orvendal {
+namespace {
+
+using namespace dialog_design;
+
+constexpr double kWidth = 8100;
+constexpr double kCaptionWidth = 1800;
+constexpr int kRows = 5;
+constexpr double kRowStep = kLine + kGap;
+constexpr double kHeight = 2 * kMargin + kRows * kRowStep + kLine + kGap + kButtonHeight;
+
+// The code, and the name that the store has for it.
+std::string BranchText(const HostContext& context, const ConnectionRef& store) {
+  const std::string key = Mid(context.sucursal, 1, 2);
+  for (const BranchName& branch : ReadBranches(store)) {
+    if (EqualsIgnoringCase(branch.key, key)) return context.sucursal + " " + branch.name;
+  }
+  return context.sucursal;
+}
+
+}  // namespace
+
+WorkstationForm::WorkstationForm(HostContext& context, ConnectionRef store, std::string puesto)
+    : Form(context.window_host, "FrmPuesto"),
+      context_(context),
+      store_(std::move(store)),
+      puesto_(std::move(puesto)) {
+  OnKeyPress = [this](int& key_ascii) {
+    if (key_ascii != character::kEscape) return;
+    key_ascii = 0;
+    Hide();
+  };
+  CmdReconectar.OnClick = [this] { Reconnect(); };
+  CmdCerrar.OnClick = [this] { Hide(); };
+}
+
+void WorkstationForm::ApplyDesign() {
+  const Words& words = context_.words;
+  PlaceDialog(*this, words.workstation_panel, kWidth, kHeight);
+  KeyPreview(true);
+  DesignRow(0, LblSucursal, words.branch, TxtSucursal);
+  DesignRow(1, LblPuesto, words.workstation, TxtPuesto);
+  DesignRow(2, LblTurno, words.shift, TxtTurno);
+  DesignRow(3, LblBase, words.store, TxtBase);
+  DesignRow(4, LblProveedor, words.provider, TxtProveedor);
+  const double right = Width() - kMargin;
+  const double buttons_top = Height() - kMargin - kButtonHeight;
+  DesignLabel(LblEstado, "", {kMargin, kMargin + kRows * kRowStep, right - kMargin, kLine});
+  DesignButton(CmdReconectar, words.reconnect,
+               {right - 2 * kButtonWidth - kGap, buttons_top, kButtonWidth, kButtonHeight}, 0);
+  DesignButton(CmdCerrar, words.close, {right - kButtonWidth, buttons_top, kButtonWidth, kButtonHeight}, 1);
+  ShowValues(words.store_open);
+}
+
+void WorkstationForm::DesignRow(int row, Label& label, std::string_view caption, TextBox& box) {
+  const double top = kMargin + row * kRowStep;
+  const double left = kMargin + kCaptionWidth;
+  DesignLabel(label, caption, {kMargin, top + 60, kCaptionWidth, kLine});
+  DesignBox(box, {left, top, Width() - kMargin - left, kLine}, 2 + row);
+  box.Locked(true);
+  box.BackColor(system_color::kButtonFace);
+}
+
+void WorkstationForm::ShowValues(std::string_view state) {
+  TxtPuesto.Text(puesto_);
+  TxtTurno.Text(context_.turno);
+  TxtBase.Text(context_.store_name);
+  try {
+    TxtSucursal.Text(context_.sucursal);
+    TxtProveedor.Text(store_ ? store_->Provider() : std::string());
+    TxtSucursal.Text(BranchText(context_, store_));
+    LblEstado.Caption(std::string(state));
+  } catch (const RuntimeError& error) {
+    LblEstado.Caption(error.Description());
+  }
+}
+
+void WorkstationForm::Reconnect() {
+  try {
+    store_ = context_.reopen_store();
+  } catch (const StoreUnavailable& error) {
+    const ModalScope scope(Host());
+    context_.messages.Present(error.Description(), message::kStop, Caption());
+    return;
+  }
+  context_.connection = store_;
+  ShowValues(context_.words.store_opened_anew);
+}
+
+}  // namespace orvendal

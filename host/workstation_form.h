@@ -1,0 +1,45 @@
+#pragma once
+
+#include "host/dialog_design.h"
+#include "host/host_context.h"
+
+namespace orvendal {
+
+/// The panel of the workstation: branch, workstation, shift, store, provider, and whether the store answers.
+/// A button opens the store anew; if that fails, the reason is shown and the connection stays. It comes up
+/// even if the store does not answer, since that is when it is needed.
+class WorkstationForm final : public Form {
+ public:
+  WorkstationForm(HostContext& context, ConnectionRef store, std::string puesto);
+
+  /// The connection to go on with.
+  const ConnectionRef& Store() const { return store_; }
+
+ protected:
+  void ApplyDesign() override;
+
+ private:
+  void DesignRow(int row, Label& label, std::string_view caption, TextBox& box);
+  void ShowValues(std::string_view state);
+  void Reconnect();
+
+  HostContext& context_;
+  ConnectionRef store_;
+  std::string puesto_;
+
+  TextBox TxtSucursal{*this, nullptr, "TxtSucursal"};
+  TextBox TxtPuesto{*this, nullptr, "TxtPuesto"};
+  TextBox TxtTurno{*this, nullptr, "TxtTurno"};
+  TextBox TxtBase{*this, nullptr, "TxtBase"};
+  TextBox TxtProveedor{*this, nullptr, "TxtProveedor"};
+  CommandButton CmdReconectar{*this, nullptr, "CmdReconectar"};
+  CommandButton CmdCerrar{*this, nullptr, "CmdCerrar"};
+  Label LblSucursal{*this, nullptr, "LblSucursal"};
+  Label LblPuesto{*this, nullptr, "LblPuesto"};
+  Label LblTurno{*this, nullptr, "LblTurno"};
+  Label LblBase{*this, nullptr, "LblBase"};
+  Label LblProveedor{*this, nullptr, "LblProveedor"};
+  Label LblEstado{*this, nullptr, "LblEstado"};
+};
+
+}  // namespace orvendal

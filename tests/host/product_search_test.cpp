@@ -1,0 +1,248 @@
+#include "host/dialog_design.h"
+#include "platform/forms/option_button.h"
+#include "tests/host/host_fixture.h"
+
+namespace orvendal {
+namespace {
+
+using Codes = std::vector<std::string>;
+
+class ProductSearch : public HostTest {
+ protected:
+  // Opens the search and has `hands` use it.
+  std::string Search(const std::string& field, const std::string& text, std::function<void(Form&)> hands) {
+    host.QueueDialog([this, hands = std::move(hands)](Form& form) {
+      grid = &GridOf(form, "MSFResultados");
+      box = &BoxOf(form, "TxtBusqueda");
+      hands(form);
+    });
+    ObjectRef screen;
+    bool flag = false;
+    return library.NewBuscadorProductos()->Buscar(session, screen, "Orvendalcial", field, text, "Modal",
+                                                  flag);
+  }
+  Codes Shown() const { return Column(*grid, 0); }
+
+  static void Cancel(Form& form) { Robot(form).Key(key::kEscape); }
+  static void Accept(Form& form) { Robot(form).Key(key::kReturn); }
+
+  DatosClaseRef session = std::make_shared<SampleSession>(context);
+  MSFlexGrid* grid = nullptr;
+  TextBox* box = nullptr;
+};
+
+TEST_F(ProductSearch, StartsFromTheTextGivenOnTheFieldNamed) {
+  Search("Descripcion", "champu", [this](Form& form) {
+    EXPECT_EQ(box->Text(), "champu");
+    EXPECT_TRUE(box->HasFocus());
+    EXPECT_EQ(Shown(), (Codes{"CHA02", "CHA01", "PEI01"}));
+    Cancel(form);
+  });
+  Search("Codigo", "cha", [this](Form& form) {
+    EXPECT_EQ(Shown(), (Codes{"CHA01", "CHA02"}));
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, NarrowsAsOneTypesOnAfterTheText) {
+  const std::string code = Search("Descripcion", "cham", [this](Form& form) {
+    Robot(form).Type("pu k");
+    EXPECT_EQ(Shown(), Codes{"CHA01"});
+    Accept(form);
+  });
+  EXPECT_EQ(code, "CHA01");
+}
+
+TEST_F(ProductSearch, GivesNothingWhenItIsCancelled) {
+  EXPECT_EQ(Search("Codigo", "CHA01", Cancel), "");
+  EXPECT_EQ(Search("Codigo", "CHA01",
+                   [](Form& form) {
+                     Robot robot(form);
+                     robot.Click(robot.Find("CmdCancelar"));
+                   }),
+            "");
+  EXPECT_EQ(Search("Codigo", "CHA01", [](Form& form) { form.CloseRequest(); }), "");
+}
+
+TEST_F(ProductSearch, MovesInTheListWhileTheBoxKeepsTheFocus) {
+  const std::string code = Search("Codigo", "", [this](Form& form) {
+    Robot robot(form);
+    robot.Key(key::kDown);
+    robot.Key(key::kDown);
+    robot.Key(key::kUp);
+    EXPECT_TRUE(box->HasFocus());
+    EXPECT_EQ(grid->Row(), 2);
+    robot.Key(key::kPageDown);
+    EXPECT_EQ(grid->Row(), 5);
+    robot.Key(key::kPageUp);
+    EXPECT_EQ(grid->Row(), 1);
+    robot.Key(key::kDown);
+    Accept(form);
+  });
+  EXPECT_EQ(code, "CHA02");
+}
+
+TEST_F(ProductSearch, ShowsTheWholeRowThatWouldBeAccepted) {
+  Search("Codigo", "", [this](Form& form) {
+    Robot(form).Key(key::kDown);
+    for (int row = 1; row < grid->Rows(); ++row) {
+      for (int column = 0; column < grid->Cols(); ++column) {
+        EXPECT_EQ(grid->CellBackColorAt(row, column), row == 2 ? system_color::kHighlight : 0U);
+      }
+    }
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, AcceptsADoubleClickOnARow) {
+  const std::string code = Search("Codigo", "", [this](Form& form) {
+    Robot robot(form);
+    robot.DoubleClickCell(*grid, 3, 1);
+  });
+  EXPECT_EQ(code, "CRE01");
+}
+
+TEST_F(ProductSearch, AClickOnARowChoosesItAndTheButtonAccepts) {
+  const std::string code = Search("Codigo", "", [this](Form& form) {
+    Robot robot(form);
+    robot.ClickCell(*grid, 4, 0);
+    robot.Click(robot.Find("CmdAceptar"));
+  });
+  EXPECT_EQ(code, "LAC01");
+}
+
+TEST_F(ProductSearch, ADoubleClickOnTheTitlesOrTheEmptyAreaAcceptsNothing) {
+  Search("Codigo", "", [this](Form& form) {
+    Robot robot(form);
+    robot.DoubleClickCell(*grid, 0, 0);
+    const Rect bounds = grid->Bounds();
+    robot.DoubleClickAt({bounds.left + 200, bounds.Bottom() - 200});
+    EXPECT_TRUE(form.Visible());
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, WithNothingFoundEnterKeepsItOpen) {
+  const std::string code = Search("Descripcion", "no existe", [this](Form& form) {
+    Robot robot(form);
+    EXPECT_EQ(grid->Rows(), 1);
+    EXPECT_FALSE(robot.Find("CmdAceptar").Enabled());
+    Accept(form);
+    EXPECT_TRUE(form.Visible());
+    robot.Key('A', shift_mask::kControl);
+    robot.Type("laca");
+    Accept(form);
+  });
+  EXPECT_EQ(code, "LAC01");
+}
+
+TEST_F(ProductSearch, CanSearchTheOtherFieldWithTheSameText) {
+  const std::string code = Search("Codigo", "peine", [this](Form& form) {
+    Robot robot(form);
+    EXPECT_TRUE(Shown().empty());
+    robot.Click(robot.Find("OptCampo(1)"));
+    EXPECT_EQ(Shown(), Codes{"PEI01"});
+    Accept(form);
+  });
+  EXPECT_EQ(code, "PEI01");
+}
+
+TEST_F(ProductSearch, TypingInTheListGoesOnInTheBox) {
+  Search("Codigo", "C", [this](Form& form) {
+    Robot robot(form);
+    robot.ClickCell(*grid, 1, 0);
+    EXPECT_TRUE(grid->HasFocus());
+    robot.Type("RE");
+    EXPECT_EQ(box->Text(), "CRE");
+    EXPECT_TRUE(box->HasFocus());
+    EXPECT_EQ(Shown(), Codes{"CRE01"});
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, EnterOnTheCancelButtonCancels) {
+  EXPECT_EQ(Search("Codigo", "CHA01",
+                   [](Form& form) {
+                     Robot robot(form);
+                     robot.Find("CmdCancelar").SetFocus();
+                     robot.Key(key::kReturn);
+                   }),
+            "");
+}
+
+TEST_F(ProductSearch, UnderstandsTheWildcardsThatTheCellEditorTook) {
+  Search("Codigo", "CHA0%", [this](Form& form) {
+    EXPECT_EQ(Shown(), (Codes{"CHA01", "CHA02"}));
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, ShowsThousandsOfProductsAtOnceAndSaysHowMany) {
+  store->Execute(
+      "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 2500) "
+      "INSERT INTO Productos SELECT 'X' || i, 'Artículo ' || i FROM n");
+  Search("Descripcion", "articulo", [this](Form& form) {
+    EXPECT_EQ(grid->Rows(), 501);
+    EXPECT_EQ(dynamic_cast<Label&>(*form.FindControl("LblEncontrados")).Caption(),
+              "Se muestran los primeros 500 de 2500");
+    Robot(form).Type(" 2500");
+    EXPECT_EQ(Shown(), Codes{"X2500"});
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, FitsAndStandsInTheMiddleOfAnyScreen) {
+  for (const auto& [width, height] : {std::pair{640, 480}, std::pair{1280, 800}}) {
+    host.SetScreen(width, height);
+    Search("Codigo", "", [this](Form& form) {
+      EXPECT_LE(form.Width(), host.ScreenWidth());
+      EXPECT_LE(form.Height(), host.ScreenHeight());
+      EXPECT_DOUBLE_EQ(form.Left(), (host.ScreenWidth() - form.Width()) / 2);
+      EXPECT_DOUBLE_EQ(form.Top(), (host.ScreenHeight() - form.Height()) / 2);
+      for (Control* control : form.Controls()) {
+        const Rect bounds = control->Bounds();
+        EXPECT_GE(bounds.left, 0) << control->FullName();
+        EXPECT_LE(bounds.Right(), form.Width()) << control->FullName();
+        EXPECT_LE(bounds.Bottom(), form.Height()) << control->FullName();
+      }
+      Cancel(form);
+    });
+  }
+}
+
+TEST_F(ProductSearch, SpeaksTheLanguageChosen) {
+  HostContext english{host, messages, EnglishWords(), store, nullptr, "", "01", "1", "1", 0, 0,
+                      0.0,  {},       nullptr};
+  StandInLibrary speaking(english);
+  std::string title;
+  host.QueueDialog([&title](Form& form) {
+    title = form.Caption();
+    EXPECT_EQ(dynamic_cast<CommandButton&>(*form.FindControl("CmdCancelar")).Caption(), "Cancel");
+    Cancel(form);
+  });
+  ObjectRef screen;
+  bool flag = false;
+  speaking.NewBuscadorProductos()->Buscar(session, screen, "", "Codigo", "", "Modal", flag);
+  EXPECT_EQ(title, "Product Search");
+}
+
+TEST_F(ProductSearch, RefusesASessionThatIsNotTheHosts) {
+  class OtherSession final : public DatosClase {
+    void RellenarSesion(const SessionArguments&) override {}
+  };
+  ObjectRef screen;
+  bool flag = false;
+  const auto number = [&](DatosClaseRef of) {
+    try {
+      library.NewBuscadorProductos()->Buscar(of, screen, "", "Codigo", "", "Modal", flag);
+    } catch (const RuntimeError& error) {
+      return error.Number();
+    }
+    return 0;
+  };
+  EXPECT_EQ(number(nullptr), error_number::kObjectNotSet);
+  EXPECT_EQ(number(std::make_shared<OtherSession>()), error_number::kTypeMismatch);
+}
+
+}  // namespace
+}  // namespace orvendal
