@@ -54,7 +54,6 @@ QtCanvas::QtCanvas(QPainter& painter, QtFonts& fonts, double scale, Point origin
       fonts_(fonts),
       scale_(scale),
       pixels_per_twip_(scale / kTwipsPerPixel),
-      dots_per_inch_(painter.device()->logicalDpiY()),
       origin_(origin) {
   const double ratio = painter.device()->devicePixelRatioF();
   device_transform_ = QTransform::fromScale(1 / ratio, 1 / ratio);
@@ -209,7 +208,7 @@ void QtCanvas::DrawText(const Rect& box, std::string_view text, const FontSpec& 
     top += vertical == VerticalAlign::kBottom ? room : room / 2;
   }
   painter_.setTransform(text_transform_);
-  painter_.setFont(fonts_.Font(font, dots_per_inch_));
+  painter_.setFont(fonts_.Font(font));
   painter_.setPen(ColorOf(color));
   painter_.drawText(QPointF(X(left) / scale_, Y(top) / scale_ + measures.ascent), line);
   painter_.setPen(Qt::NoPen);

@@ -62,7 +62,6 @@ class QtCanvas final : public Canvas {
   QtFonts& fonts_;
   double scale_;
   double pixels_per_twip_;
-  int dots_per_inch_;
   QTransform device_transform_;  // painter units are pixels of the device
   QTransform text_transform_;    // painter units are pixels of scale 1
   Point origin_;

@@ -1,33 +1,20 @@
 #include "adapters/qt/qt_fonts.h"
 
 #include <QFontDatabase>
-#include <QImage>
 #include <QStringList>
+#include <algorithm>
 #include <cmath>
 #include <tuple>
 
 namespace orvendal {
 namespace {
 
-constexpr int kReferenceDotsPerInch = 96;
-constexpr double kPointsPerInch = 72.0;
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
 constexpr int kLightestBold = 600;
 
-// A device of 96 dots per inch to measure on, whatever the display has.
-const QImage& ReferenceDevice() {
-  static const QImage device = [] {
-    QImage image(1, 1, QImage::Format_RGB32);
-    const int dots_per_meter = static_cast<int>(std::ceil(kReferenceDotsPerInch / 0.0254));
-    image.setDotsPerMeterX(dots_per_meter);
-    image.setDotsPerMeterY(dots_per_meter);
-    return image;
-  }();
-  return device;
-}
-
-QFont MakeFont(const FontSpec& spec, int dots_per_inch) {
+QFont MakeFont(const FontSpec& spec) {
   QFont font(QtFonts::FamilyFor(QString::fromStdString(spec.name)));
-  font.setPointSizeF(spec.size * kReferenceDotsPerInch / dots_per_inch);
+  font.setPixelSize(std::max(1, qRound(spec.size * kPixelsPerPoint)));
   // Half-bold is the heaviest cut of some families; asking for more would make an artificial one.
   font.setWeight(spec.weight >= kLightestBold ? QFont::DemiBold : QFont::Normal);
   font.setItalic(spec.italic);
@@ -70,28 +57,21 @@ QString QtFonts::FamilyFor(const QString& name) {
                          "Arial", "DejaVu Sans"});
 }
 
-const QFont& QtFonts::Font(const FontSpec& spec, int dots_per_inch) {
-  auto& fonts = fonts_[dots_per_inch];
-  const auto found = fonts.find(spec);
-  if (found != fonts.end()) return found->second;
-  return fonts.emplace(spec, MakeFont(spec, dots_per_inch)).first->second;
-}
-
-const QFontMetricsF& QtFonts::Metrics(const FontSpec& spec) {
-  const auto found = metrics_.find(spec);
-  if (found != metrics_.end()) return found->second;
-  const QFont& font = Font(spec, kReferenceDotsPerInch);
-  return metrics_.emplace(spec, QFontMetricsF(font, &ReferenceDevice())).first->second;
+const QtFonts::Kept& QtFonts::Entry(const FontSpec& spec) {
+  const auto found = kept_.find(spec);
+  if (found != kept_.end()) return found->second;
+  const QFont font = MakeFont(spec);
+  return kept_.emplace(spec, Kept{font, QFontMetricsF(font)}).first->second;
 }
 
 QtFonts::Measures QtFonts::LineMeasures(const FontSpec& spec) {
-  const QFontMetricsF& metrics = Metrics(spec);
+  const QFontMetricsF& metrics = Entry(spec).metrics;
   const double ascent = std::round(metrics.ascent());
   return {ascent, ascent + std::round(metrics.descent())};
 }
 
 double QtFonts::TextWidth(const FontSpec& spec, const QString& text) {
-  return Metrics(spec).horizontalAdvance(text);
+  return Entry(spec).metrics.horizontalAdvance(text);
 }
 
 }  // namespace orvendal

@@ -5,7 +5,6 @@
 #include <QString>
 #include <map>
 #include <string_view>
-#include <utility>
 
 #include "platform/forms/font.h"
 
@@ -16,9 +15,10 @@ QString SingleLine(std::string_view text);
 
 /// The fonts of the system for the fonts that forms name.
 ///
-/// A form's point is 96/72 of a logical pixel on every display, fractions kept. A family that is missing is
-/// replaced by one of like look. Characters are neither kerned nor joined, so that widths add up and a caret
-/// stands where its character is drawn. Measures are in logical pixels and the same at any scale.
+/// A form's point is 96/72 of a logical pixel on every display, and a font a whole number of logical pixels
+/// high, as on the platform that forms come from. A family that is missing is replaced by one of like look.
+/// Characters are neither kerned nor joined, so that widths add up and a caret stands where its character is
+/// drawn. Measures are in logical pixels and the same at any scale.
 class QtFonts {
  public:
   struct Measures {
@@ -26,8 +26,7 @@ class QtFonts {
     double height = 0;
   };
 
-  /// The font to give to a painter whose device has `dots_per_inch` logical dots.
-  const QFont& Font(const FontSpec& spec, int dots_per_inch);
+  const QFont& Font(const FontSpec& spec) { return Entry(spec).font; }
   /// Whole pixels.
   Measures LineMeasures(const FontSpec& spec);
   double TextWidth(const FontSpec& spec, const QString& text);
@@ -38,10 +37,13 @@ class QtFonts {
   struct Less {
     bool operator()(const FontSpec& left, const FontSpec& right) const;
   };
-  const QFontMetricsF& Metrics(const FontSpec& spec);
+  struct Kept {
+    QFont font;
+    QFontMetricsF metrics;
+  };
+  const Kept& Entry(const FontSpec& spec);
 
-  std::map<int, std::map<FontSpec, QFont, Less>> fonts_;  // by dots per inch
-  std::map<FontSpec, QFontMetricsF, Less> metrics_;
+  std::map<FontSpec, Kept, Less> kept_;
 };
 
 }  // namespace orvendal

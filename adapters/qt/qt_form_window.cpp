@@ -89,22 +89,30 @@ void QtFormWindow::ApplyBounds() {
 }
 
 // A bare window that covers the display has to say so, or docks and panels stay in front of it.
+bool QtFormWindow::CoversScreen() const {
+  return !IsFramed() && !SimulatesDisplay() &&
+         FormPixels().size() == QGuiApplication::primaryScreen()->geometry().size();
+}
+
 void QtFormWindow::ApplyState() {
   const WindowState state = form_.WindowState();
   Qt::WindowStates states = Qt::WindowNoState;
-  if (!IsFramed() && !SimulatesDisplay() &&
-      widget_->size() == QGuiApplication::primaryScreen()->geometry().size()) {
-    states |= Qt::WindowFullScreen;
-  }
+  if (CoversScreen()) states |= Qt::WindowFullScreen;
   if (state == WindowState::kMinimized) states |= Qt::WindowMinimized;
   widget_->ApplyState(state, states);
+}
+
+void QtFormWindow::Apply() {
+  // A window that is to cover the screen must be allowed its size first; one that does, keeps it until told.
+  if (widget_->isFullScreen() && !CoversScreen()) ApplyState();
+  ApplyBounds();
+  ApplyState();
 }
 
 void QtFormWindow::Show() {
   owner_ = host_.FrontWindow();
   PrepareFlags();
-  ApplyBounds();
-  ApplyState();
+  Apply();
   if (modal_ && owner_ != nullptr) {
     widget_->winId();  // makes the window that the owner is told to
     widget_->windowHandle()->setTransientParent(owner_->windowHandle());
@@ -127,9 +135,7 @@ void QtFormWindow::Raise() {
 }
 
 void QtFormWindow::BoundsChanged() {
-  if (!widget_->isVisible()) return;
-  ApplyBounds();
-  ApplyState();
+  if (widget_->isVisible()) Apply();
 }
 
 void QtFormWindow::CaptionChanged() {
@@ -139,9 +145,12 @@ void QtFormWindow::CaptionChanged() {
 
 void QtFormWindow::StateChanged(WindowState /*state*/) {
   if (!widget_->isVisible()) return;
-  if (form_.WindowState() != WindowState::kMinimized) ApplyBounds();
-  ApplyState();
-  Raise();
+  if (form_.WindowState() == WindowState::kMinimized) {
+    ApplyState();
+  } else {
+    Apply();
+    Raise();
+  }
 }
 
 void QtFormWindow::RequestPaint(const Rect& area) {

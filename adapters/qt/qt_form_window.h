@@ -44,7 +44,10 @@ class QtFormWindow final : public FormWindow {
   bool SimulatesDisplay() const;
   /// The form's place on the display, in logical pixels.
   QRect FormPixels() const;
+  bool CoversScreen() const;
   void PrepareFlags();
+  /// Tells the window system place, size and state.
+  void Apply();
   void ApplyBounds();
   void ApplyState();
   QPoint FirstPlace(const QSize& size) const;

@@ -110,7 +110,8 @@ int KeyCodeOf(int qt_key, Qt::KeyboardModifiers modifiers) {
   for (const auto& [named, code] : kNamedKeys) {
     if (named == qt_key) return code;
   }
-  return kUnknownKey;
+  const int letter = qt_key <= 0xFFFF ? KeyCodeOfCharacter(static_cast<char32_t>(qt_key)) : kInputMethodKey;
+  return letter == kInputMethodKey ? kUnknownKey : letter;
 }
 
 int ShiftOf(Qt::KeyboardModifiers modifiers) {

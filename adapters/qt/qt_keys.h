@@ -8,8 +8,8 @@ class QKeyEvent;
 
 namespace orvendal {
 
-/// The platform's code of a key: letters and digits are their upper-case ASCII, others as in keys.h. A key
-/// that has none gives 255, which means nothing to anybody.
+/// The platform's code of a key: letters, accents aside, and digits are their upper-case ASCII, others as in
+/// keys.h. A key that has none gives 255, which means nothing to anybody.
 int KeyCodeOf(int qt_key, Qt::KeyboardModifiers modifiers);
 
 /// Bits of shift_mask. The key that chooses the third level of a keyboard is neither Ctrl nor Alt.

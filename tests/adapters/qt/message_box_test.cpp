@@ -1,0 +1,175 @@
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "tests/adapters/qt/qt_fixture.h"
+
+namespace orvendal {
+namespace {
+
+class MessageBoxes : public QtFormTest {
+ protected:
+  // Shows a box, has `act` do something to it, and gives the answer.
+  int Answer(int style, const std::function<void(QMessageBox&)>& act, const std::string& text = "¿Guardar?",
+             const std::string& title = "Atención") {
+    InNextDialog([&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      ASSERT_TRUE(QTest::qWaitForWindowActive(box));
+      act(*box);
+      // A button that the keyboard presses is seen going down before it answers.
+      if (!QTest::qWaitFor([&] { return !box->isVisible(); }, 2000)) {
+        ADD_FAILURE() << "the box is still up";
+        box->reject();
+      }
+    });
+    return host.ShowMessage(text, style, title);
+  }
+  static std::function<void(QMessageBox&)> Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    return [=](QMessageBox& box) {
+      QWidget* focused = box.focusWidget() != nullptr ? box.focusWidget() : &box;
+      QTest::keyClick(focused, key, modifiers);
+    };
+  }
+  static std::function<void(QMessageBox&)> Press(const QString& caption) {
+    return [=](QMessageBox& box) {
+      for (QAbstractButton* button : box.buttons()) {
+        if (button->text().remove('&') == caption) QTest::mouseClick(button, Qt::LeftButton);
+      }
+    };
+  }
+};
+
+TEST_F(MessageBoxes, EachButtonAnswersWithItsCode) {
+  EXPECT_EQ(Answer(16, Press("Aceptar")), 1);
+  EXPECT_EQ(Answer(35, Press(QString::fromUtf8("Sí"))), 6);
+  EXPECT_EQ(Answer(35, Press("No")), 7);
+  EXPECT_EQ(Answer(35, Press("Cancelar")), 2);
+  EXPECT_EQ(Answer(33, Press("Aceptar")), 1);
+  EXPECT_EQ(Answer(33, Press("Cancelar")), 2);
+  EXPECT_EQ(Answer(36, Press(QString::fromUtf8("Sí"))), 6);
+  EXPECT_EQ(Answer(36, Press("No")), 7);
+}
+
+TEST_F(MessageBoxes, EnterTakesTheDefaultAndEscCancels) {
+  EXPECT_EQ(Answer(64, Key(Qt::Key_Return)), 1);
+  EXPECT_EQ(Answer(64, Key(Qt::Key_Escape)), 1);
+  EXPECT_EQ(Answer(35, Key(Qt::Key_Return)), 6);
+  EXPECT_EQ(Answer(35, Key(Qt::Key_Enter)), 6);
+  EXPECT_EQ(Answer(35, Key(Qt::Key_Escape)), 2);
+  EXPECT_EQ(Answer(33, Key(Qt::Key_Escape)), 2);
+  EXPECT_EQ(Answer(35 + 256, Key(Qt::Key_Return)), 7);
+  EXPECT_EQ(Answer(35 + 512, Key(Qt::Key_Return)), 2);
+}
+
+TEST_F(MessageBoxes, TheLetterOfAButtonPressesIt) {
+  EXPECT_EQ(Answer(35, Key(Qt::Key_S, Qt::AltModifier)), 6);
+  EXPECT_EQ(Answer(35, Key(Qt::Key_N, Qt::AltModifier)), 7);
+  EXPECT_EQ(Answer(35, Key(Qt::Key_C, Qt::AltModifier)), 2);
+  EXPECT_EQ(Answer(35, Key(Qt::Key_N)), 7);
+}
+
+TEST_F(MessageBoxes, ClosingTheBoxCancels) {
+  EXPECT_EQ(Answer(35, [](QMessageBox& box) { box.close(); }), 2);
+}
+
+TEST_F(MessageBoxes, TheTextIsShownAsItIsAndCanBeSelected) {
+  Answer(
+      16,
+      [](QMessageBox& box) {
+        EXPECT_EQ(box.text(), "Sin guardar,\n<b>texto</b>");
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_TRUE(box.textInteractionFlags() & Qt::TextSelectableByMouse);
+        EXPECT_EQ(box.windowTitle(), QString::fromUtf8("Atención"));
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+        box.accept();
+      },
+      "Sin guardar,\r\n<b>texto</b>");
+}
+
+TEST_F(MessageBoxes, TheStyleChoosesTheIcon) {
+  const std::pair<int, QMessageBox::Icon> expected[] = {{0, QMessageBox::NoIcon},
+                                                        {16, QMessageBox::Critical},
+                                                        {35, QMessageBox::Question},
+                                                        {48, QMessageBox::Warning},
+                                                        {64, QMessageBox::Information}};
+  for (const auto& [style, icon] : expected) {
+    const QMessageBox::Icon wanted = icon;
+    Answer(style, [=](QMessageBox& box) {
+      EXPECT_EQ(box.icon(), wanted);
+      box.reject();
+    });
+  }
+}
+
+TEST_F(MessageBoxes, ABoxWithoutTitleBearsTheApplications) {
+  Answer(
+      64,
+      [](QMessageBox& box) {
+        EXPECT_EQ(box.windowTitle(), "Recuento");
+        box.accept();
+      },
+      "Hecho", "");
+}
+
+TEST_F(MessageBoxes, ButtonsSpeakTheUsersLanguageInTheOrderOfTheAnswers) {
+  QtCaptions captions;
+  captions.yes = "&Yes";
+  captions.no = "&No";
+  captions.cancel = "&Cancel";
+  host.Captions(captions);
+  Answer(35, [](QMessageBox& box) {
+    std::map<int, QString> by_place;
+    for (QAbstractButton* button : box.buttons()) by_place[button->x()] = button->text();
+    std::vector<QString> order;
+    for (const auto& [place, caption] : by_place) order.push_back(caption);
+    EXPECT_EQ(order, (std::vector<QString>{"&Yes", "&No", "&Cancel"}));
+    box.reject();
+  });
+}
+
+TEST_F(MessageBoxes, TheFormTakesNoInputWhileABoxIsUpAndTheKeyboardAfterIt) {
+  ShowForm();
+  Answer(35, [this](QMessageBox& box) {
+    EXPECT_FALSE(host.TakesInput(*form));
+    form->KeyPress('A', 0);
+    form->Character('a');
+    box.reject();
+  });
+  EXPECT_EQ(form->box.Text(), "");
+  EXPECT_TRUE(host.TakesInput(*form));
+  EXPECT_TRUE(QTest::qWaitForWindowActive(Window()));
+}
+
+TEST_F(MessageBoxes, AnErrorIsToldWithNumberAndDescription) {
+  QtWindowHost plain(Region::Spanish(), clock);
+  InNextDialog([] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->text(), "Error -2147217887: Too %1 long");
+    EXPECT_EQ(box->icon(), QMessageBox::Critical);
+    box->accept();
+  });
+  plain.ReportError(RuntimeError(-2147217887, "Too %1 long"));
+}
+
+TEST_F(MessageBoxes, AnErrorThatComesWhileOneIsToldWaitsForItsTurn) {
+  QtWindowHost plain(Region::Spanish(), clock);
+  std::vector<QString> told;
+  const std::function<void()> read = [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    told.push_back(box->text());
+    if (told.size() == 1) {
+      plain.ReportError(RuntimeError(6, "Overflow"));
+      InNextDialog(read);
+    }
+    box->accept();
+  };
+  InNextDialog(read);
+  plain.ReportError(RuntimeError(5, "Invalid"));
+  EXPECT_EQ(told, (std::vector<QString>{"Error 5: Invalid", "Error 6: Overflow"}));
+}
+
+}  // namespace
+}  // namespace orvendal
