@@ -30,6 +30,13 @@ void PlaceDialog(Form& form, std::string_view title, double width, double height
   form.Move((host.ScreenWidth() - form.Width()) / 2, (host.ScreenHeight() - form.Height()) / 2);
 }
 
+void DesignOption(OptionButton& option, std::string_view caption, const Rect& place, int tab_index) {
+  DesignFont(option);
+  option.Caption(std::string(caption));
+  option.Move(place.left, place.top, place.width, place.height);
+  option.TabIndex(tab_index);
+}
+
 void DesignLabel(Label& label, std::string_view caption, const Rect& place) {
   DesignFont(label);
   label.Design(std::string(caption), false, false);

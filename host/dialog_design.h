@@ -4,6 +4,7 @@
 #include "platform/forms/form.h"
 #include "platform/forms/label.h"
 #include "platform/forms/ms_flex_grid.h"
+#include "platform/forms/option_button.h"
 #include "platform/forms/text_box.h"
 
 namespace orvendal {
@@ -21,6 +22,7 @@ inline constexpr double kFontSize = 9.75;
 /// A dialog with the system's frame and that title, in the middle of the screen, no larger than it.
 void PlaceDialog(Form& form, std::string_view title, double width, double height);
 
+void DesignOption(OptionButton& option, std::string_view caption, const Rect& place, int tab_index);
 void DesignLabel(Label& label, std::string_view caption, const Rect& place);
 void DesignBox(TextBox& box, const Rect& place, int tab_index);
 void DesignButton(CommandButton& button, std::string_view caption, const Rect& place, int tab_index);

@@ -21,6 +21,7 @@ namespace {
 
 constexpr int kTwipsToPixel = 15;
 constexpr int kButtonsMask = 0xF;
+constexpr const char* kInMemory = ":memory:";
 
 // A real box, in front of the screen.
 class BoxMessages final : public MessagePresenter {
@@ -104,11 +105,12 @@ class Program {
 
   void OpenStore() {
     const StoreSettings settings{StorePath(options_), options_.dialect, *options_.region, words_};
-    context_.store_name = settings.path;
+    context_.store_name =
+        settings.path == kInMemory ? settings.path : std::filesystem::absolute(settings.path).string();
     context_.connection = OpenOrMakeStore(settings, clock_.Today());
     // A store in memory is gone with its connection, so that there is nothing to open anew.
     context_.reopen_store = [this, settings]() -> ConnectionRef {
-      return settings.path == ":memory:" ? context_.connection : OpenExistingStore(settings);
+      return settings.path == kInMemory ? context_.connection : OpenExistingStore(settings);
     };
   }
 

@@ -54,11 +54,7 @@ void SearchListForm::ApplyDesign() {
   const std::size_t ways = question_.ways.size();
   OptCampo0.Visible(ways > 1);
   OptCampo1.Visible(ways > 1);
-  if (ways > 1) {
-    OptCampo0.Caption(std::string(question_.ways[0].caption));
-    OptCampo1.Caption(std::string(question_.ways[1].caption));
-    (question_.way == 0 ? OptCampo0 : OptCampo1).Value(true);
-  }
+  if (ways > 1) (question_.way == 0 ? OptCampo0 : OptCampo1).Value(true);
   TxtBusqueda.Text(question_.text);
   TxtBusqueda.SelStart(static_cast<int>(Len(question_.text)));
   Narrow();
@@ -74,10 +70,9 @@ void SearchListForm::LayOut() {
 
   DesignLabel(LblBusqueda, words_.search_for, {kMargin, kMargin + 60, kPromptWidth, kLine});
   DesignBox(TxtBusqueda, {box_left, kMargin, box_width, kLine}, 0);
-  OptCampo0.Move(right - 2 * kWayWidth - kGap, kMargin, kWayWidth, kLine);
-  OptCampo1.Move(right - kWayWidth, kMargin, kWayWidth, kLine);
-  OptCampo0.TabIndex(1);
-  OptCampo1.TabIndex(2);
+  DesignOption(OptCampo0, question_.ways.front().caption,
+               {right - 2 * kWayWidth - kGap, kMargin, kWayWidth, kLine}, 1);
+  DesignOption(OptCampo1, question_.ways.back().caption, {right - kWayWidth, kMargin, kWayWidth, kLine}, 2);
   DesignGrid(MSFResultados, question_.columns,
              {kMargin, list_top, right - kMargin, buttons_top - kGap - list_top}, 3);
   DesignButton(CmdAceptar, words_.accept,

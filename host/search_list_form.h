@@ -7,7 +7,6 @@
 #include "host/dialog_design.h"
 #include "host/search_list.h"
 #include "host/words.h"
-#include "platform/forms/option_button.h"
 
 namespace orvendal {
 

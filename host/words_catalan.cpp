@@ -23,7 +23,7 @@ const Words& CatalanWords() {
       .by_code = "Per codi",
       .by_description = "Per descripció",
       .search_for = "Cercar:",
-      .found = "%1 trobats",
+      .found = "Trobats: %1",
       .found_first = "Es mostren els primers %1 de %2",
       .workstation_panel = "Dades del Lloc",
       .reconnect = "Reconnectar",
@@ -62,6 +62,7 @@ const Words& CatalanWords() {
       .help_store = "fitxer SQLite amb la base de dades (%1)",
       .help_dialect = "proveïdor que s’imita: sqlserver o jet (sqlserver)",
       .help_picture = "sense finestra: desa una imatge de la pantalla i escriu les línies del dia",
+      .help_script = "executa un guió sobre la pantalla, sense finestra, i escriu el que mostra",
       .help_help = "mostra aquesta ajuda",
       .help_first_run = "Si el fitxer no existeix, es crea amb una cadena de sucursals de mostra.",
   };

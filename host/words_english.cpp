@@ -23,7 +23,7 @@ const Words& EnglishWords() {
       .by_code = "By code",
       .by_description = "By description",
       .search_for = "Search:",
-      .found = "%1 found",
+      .found = "Found: %1",
       .found_first = "The first %1 of %2 are shown",
       .workstation_panel = "Workstation",
       .reconnect = "Reconnect",
@@ -62,6 +62,7 @@ const Words& EnglishWords() {
       .help_store = "SQLite file with the database (%1)",
       .help_dialect = "provider to act as: sqlserver or jet (sqlserver)",
       .help_picture = "no window: saves a picture of the screen and writes the day's lines",
+      .help_script = "runs a script on the screen, without a window, and writes what it shows",
       .help_help = "shows this help",
       .help_first_run = "A file that does not exist is made, with a sample chain of branches in it.",
   };

@@ -23,7 +23,7 @@ const Words& SpanishWords() {
       .by_code = "Por código",
       .by_description = "Por descripción",
       .search_for = "Buscar:",
-      .found = "%1 encontrados",
+      .found = "Encontrados: %1",
       .found_first = "Se muestran los primeros %1 de %2",
       .workstation_panel = "Datos del Puesto",
       .reconnect = "Reconectar",
@@ -62,6 +62,7 @@ const Words& SpanishWords() {
       .help_store = "fichero SQLite con la base de datos (%1)",
       .help_dialect = "proveedor que se imita: sqlserver o jet (sqlserver)",
       .help_picture = "sin ventana: guarda una imagen de la pantalla y escribe las líneas del día",
+      .help_script = "ejecuta un guion sobre la pantalla, sin ventana, y escribe lo que muestra",
       .help_help = "muestra esta ayuda",
       .help_first_run = "Si el fichero no existe, se crea con una cadena de sucursales de muestra.",
   };
