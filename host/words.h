@@ -81,6 +81,7 @@ struct Words {
   std::string_view help_store;
   std::string_view help_dialect;
   std::string_view help_picture;
+  std::string_view help_script;
   std::string_view help_help;
   std::string_view help_first_run;
 };
