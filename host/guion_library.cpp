@@ -1,5 +1,7 @@
 #include "host/guion_library.h"
 
+#include <algorithm>
+
 #include "platform/base/region.h"
 #include "platform/forms/form.h"
 
@@ -11,6 +13,28 @@ std::string FlagText(bool flag) {
 }
 std::string MomentText(Date moment) {
   return Region::Spanish().Format(moment, "yyyy-mm-dd hh:nn:ss");
+}
+
+// The codes of the buttons that a message of this style has.
+std::vector<std::int32_t> ButtonsOf(std::int32_t style) {
+  constexpr std::int32_t kButtonsMask = 0xF;
+  constexpr std::int32_t kAbort = 3;
+  constexpr std::int32_t kRetry = 4;
+  constexpr std::int32_t kIgnore = 5;
+  switch (style & kButtonsMask) {
+    case 0:
+      return {message::kOk};
+    case 1:
+      return {message::kOk, message::kCancel};
+    case 2:
+      return {kAbort, kRetry, kIgnore};
+    case 3:
+      return {message::kYes, message::kNo, message::kCancel};
+    case 4:
+      return {message::kYes, message::kNo};
+    default:
+      return {kRetry, message::kCancel};
+  }
 }
 
 std::string ObjectText(const ObjectRef& object) {
@@ -72,6 +96,28 @@ void ScriptedLibrary::RunDuringDialog() {
   action();
 }
 
+std::int32_t ScriptedLibrary::AnswerTo(const std::string& text, std::int32_t style) {
+  const std::vector<std::int32_t> buttons = ButtonsOf(style);
+  const bool asks = buttons.size() > 1;
+  const bool fits =
+      !answers_.empty() && std::find(buttons.begin(), buttons.end(), answers_.front()) != buttons.end();
+  if (!fits) {
+    if (!asks) return buttons.front();
+    throw UnansweredQuestion((answers_.empty() ? "no hay respuesta preparada para el mensaje "
+                                               : "la respuesta preparada no es un botón del mensaje ") +
+                             QuotedText(text));
+  }
+  const std::int32_t answer = answers_.front();
+  answers_.pop_front();
+  return answer;
+}
+
+std::int32_t ScriptedLibrary::Present(const std::string& text, std::int32_t style, const std::string& title) {
+  const std::int32_t answer = AnswerTo(text, style);
+  messages_.push_back({style, title, text, answer});
+  return answer;
+}
+
 std::vector<std::string> ScriptedLibrary::TakeCalls() {
   std::vector<std::string> taken;
   taken.swap(calls_);
@@ -103,6 +149,10 @@ class ScriptedHerramientas final : public Herramientas {
     const ModalScope dialog(script_.host_);
     script_.RunDuringDialog();
     if (script_.OnAccionPuesto) script_.OnAccionPuesto(cod_puesto);
+    if (script_.prepare_dialog_) {
+      script_.prepare_dialog_("AccionPuesto");
+      inner_->AccionPuesto(conexion, cod_puesto);
+    }
     script_.ReplaceIfAsked("AccionPuesto", conexion);
   }
 
@@ -152,17 +202,8 @@ class ScriptedMensajes final : public Mensajes {
                std::int32_t& respuesta) override {
     script_.FailIfAsked("Mostrar");
     const ModalScope dialog(script_.host_);
-    const bool asks = (estilo & 0xF) != 0;
     script_.RunDuringDialog();
-    if (!asks) {
-      respuesta = message::kOk;
-    } else if (script_.answers_.empty()) {
-      throw UnansweredQuestion("no answer is queued for the message " + QuotedText(texto));
-    } else {
-      respuesta = script_.answers_.front();
-      script_.answers_.pop_front();
-    }
-    script_.messages_.push_back({estilo, titulo, texto, respuesta});
+    respuesta = script_.Present(texto, estilo, titulo);
     script_.Record("MensajesGlobal.Mostrar(" + QuotedText(texto) + ", " + std::to_string(estilo) + ", " +
                    QuotedText(titulo) + ") = " + std::to_string(respuesta));
   }
@@ -173,7 +214,8 @@ class ScriptedMensajes final : public Mensajes {
 
 class ScriptedCambioSesion final : public CambioSesion {
  public:
-  explicit ScriptedCambioSesion(ScriptedLibrary& script) : script_(script) {}
+  ScriptedCambioSesion(ScriptedLibrary& script, std::unique_ptr<CambioSesion> inner)
+      : script_(script), inner_(std::move(inner)) {}
 
   void AbrirCambio(ConnectionRef& conexion, Value& dato_pantalla, std::string& cod_sucursal,
                    std::string& cod_puesto, std::string& cod_turno, std::int32_t& ancho_base,
@@ -187,11 +229,17 @@ class ScriptedCambioSesion final : public CambioSesion {
     const ModalScope dialog(script_.host_);
     script_.RunDuringDialog();
     if (script_.OnAbrirCambio) script_.OnAbrirCambio(cod_sucursal, cod_puesto, cod_turno);
+    if (script_.prepare_dialog_) {
+      script_.prepare_dialog_("AbrirCambio");
+      inner_->AbrirCambio(conexion, dato_pantalla, cod_sucursal, cod_puesto, cod_turno, ancho_base, alto_base,
+                          resultado);
+    }
     script_.ReplaceIfAsked("AbrirCambio", conexion);
   }
 
  private:
   ScriptedLibrary& script_;
+  std::unique_ptr<CambioSesion> inner_;
 };
 
 class ScriptedRecalculo final : public Recalculo {
@@ -226,7 +274,8 @@ class ScriptedBuscador final : public BuscadorProductos {
     script_.FailIfAsked("Buscar");
     const ModalScope dialog(script_.host_);
     script_.RunDuringDialog();
-    if (script_.products_.empty()) throw UnansweredQuestion("no answer is queued for the product search");
+    if (script_.products_.empty())
+      throw UnansweredQuestion("no hay respuesta preparada para el buscador de productos");
     const std::string code = script_.products_.front();
     script_.products_.pop_front();
     script_.Record(call + " = " + QuotedText(code));
@@ -268,7 +317,8 @@ class ScriptedSelector final : public SelectorEmpleado {
     script_.FailIfAsked("Elegir");
     const ModalScope dialog(script_.host_);
     script_.RunDuringDialog();
-    if (script_.employees_.empty()) throw UnansweredQuestion("no answer is queued for the employee picker");
+    if (script_.employees_.empty())
+      throw UnansweredQuestion("no hay respuesta preparada para el selector de empleado");
     answer_ = script_.employees_.front();
     script_.employees_.pop_front();
     script_.ReplaceIfAsked("Elegir", conexion);
@@ -290,7 +340,7 @@ std::unique_ptr<Mensajes> ScriptedLibrary::NewMensajes() {
   return std::make_unique<ScriptedMensajes>(*this);
 }
 std::unique_ptr<CambioSesion> ScriptedLibrary::NewCambioSesion() {
-  return std::make_unique<ScriptedCambioSesion>(*this);
+  return std::make_unique<ScriptedCambioSesion>(*this, inner_.NewCambioSesion());
 }
 std::unique_ptr<Recalculo> ScriptedLibrary::NewRecalculo() {
   return std::make_unique<ScriptedRecalculo>(*this, inner_.NewRecalculo());

@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -14,7 +15,8 @@
 
 namespace orvendal {
 
-/// A dialog or a question came up for which no answer is queued.
+/// A dialog or a question came up for which no answer is queued, or one that it does not offer. The text is a
+/// sentence for the writer of the script.
 class UnansweredQuestion : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -42,7 +44,8 @@ class ScriptedLibrary final : public Library {
   void QueueEmployee(const EmployeeAnswer& answer) { employees_.push_back(answer); }
   /// "" for a search that is cancelled.
   void QueueProduct(const std::string& code) { products_.push_back(code); }
-  /// Answer code of the next message with several buttons.
+  /// Answer code of the next message with several buttons. One with a single button takes it only if it is
+  /// that button's.
   void QueueAnswer(std::int32_t code) { answers_.push_back(code); }
   bool HasQueuedAnswers() const { return !employees_.empty() || !products_.empty() || !answers_.empty(); }
 
@@ -61,6 +64,15 @@ class ScriptedLibrary final : public Library {
   std::function<void(std::string& cod_puesto)> OnAccionPuesto;
   std::function<void(std::string& cod_sucursal, std::string& cod_puesto, std::string& cod_turno)>
       OnAbrirCambio;
+
+  /// Makes AccionPuesto and AbrirCambio open the inner library's own dialogs, each time after `prepare`,
+  /// which is told the operation.
+  void OpenOwnDialogs(std::function<void(const std::string& operation)> prepare) {
+    prepare_dialog_ = std::move(prepare);
+  }
+
+  /// A message that does not come from the screen: answered and kept like the others, but no library call.
+  std::int32_t Present(const std::string& text, std::int32_t style, const std::string& title);
 
   /// Calls and messages since last asked.
   std::vector<std::string> TakeCalls();
@@ -86,6 +98,7 @@ class ScriptedLibrary final : public Library {
   void FailIfAsked(const std::string& operation);
   void ReplaceIfAsked(const std::string& operation, ConnectionRef& connection);
   void RunDuringDialog();
+  std::int32_t AnswerTo(const std::string& text, std::int32_t style);
 
   Library& inner_;
   WindowHost& host_;
@@ -95,6 +108,7 @@ class ScriptedLibrary final : public Library {
   std::deque<std::function<void()>> during_dialog_;
   std::map<std::string, RuntimeError> failures_;
   std::map<std::string, ConnectionRef> replacements_;
+  std::function<void(const std::string& operation)> prepare_dialog_;
   bool keep_form_ = false;
   std::vector<std::string> calls_;
   std::vector<ShownMessage> messages_;

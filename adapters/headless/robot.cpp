@@ -32,13 +32,6 @@ int KeyCodeOf(char32_t character) {
   return kOther;
 }
 
-bool IsInside(const Control* inner, const Control* outer) {
-  for (; inner != nullptr; inner = inner->Container()) {
-    if (inner == outer) return true;
-  }
-  return false;
-}
-
 }  // namespace
 
 Control& Robot::Find(std::string_view name) const {
@@ -47,18 +40,32 @@ Control& Robot::Find(std::string_view name) const {
   throw std::invalid_argument("there is no control " + std::string(name));
 }
 
-std::string Robot::WhyUnreachable(const Control& control, Point position) const {
-  if (!control.IsShown()) return control.FullName() + " is hidden";
-  if (!control.IsOperable()) return control.FullName() + " is disabled";
+Robot::Reach Robot::ReachOf(const Control& control, Point position) const {
+  if (!control.IsShown()) return {Obstacle::kHidden, nullptr};
+  if (!control.IsOperable()) return {Obstacle::kDisabled, nullptr};
   const Control* hit = form_.ControlAt(position);
-  if (hit == &control ||
-      (hit != nullptr && !ActionOf(control).empty() && ActionOf(*hit) == ActionOf(control)))
-    return {};
-  const bool off_form = !Rect{0, 0, form_.Width(), form_.Height()}.Contains(position);
-  if (off_form) return control.FullName() + " lies outside the form";
-  if (hit != nullptr && IsInside(hit, &control))
-    return control.FullName() + " is covered by " + hit->FullName();
-  return control.FullName() + " is covered" + (hit != nullptr ? " by " + hit->FullName() : "");
+  const bool same_button =
+      hit != nullptr && !ActionOf(control).empty() && ActionOf(*hit) == ActionOf(control);
+  if (hit == &control || same_button) return {};
+  const bool inside = Rect{0, 0, form_.Width(), form_.Height()}.Contains(position);
+  return {inside ? Obstacle::kCovered : Obstacle::kOutside, hit};
+}
+
+std::string Robot::WhyUnreachable(const Control& control, Point position) const {
+  const Reach reach = ReachOf(control, position);
+  switch (reach.obstacle) {
+    case Obstacle::kNone:
+      return {};
+    case Obstacle::kHidden:
+      return control.FullName() + " is hidden";
+    case Obstacle::kDisabled:
+      return control.FullName() + " is disabled";
+    case Obstacle::kOutside:
+      return control.FullName() + " lies outside the form";
+    case Obstacle::kCovered:
+      break;
+  }
+  return control.FullName() + " is covered" + (reach.by != nullptr ? " by " + reach.by->FullName() : "");
 }
 
 Point Robot::MiddleOf(const Control& control) const {
@@ -106,12 +113,8 @@ Point Robot::CellPosition(MSFlexGrid& grid, int row, int column) const {
   if (grid.ColWidth(column) == 0) {
     throw std::invalid_argument("column " + std::to_string(column) + " of " + grid.FullName() + " is hidden");
   }
-  // A row out of view is scrolled to, as a hand does with the wheel.
-  const auto is_whole = [&] {
-    const Rect cell = grid.CellRectangle(row, column);
-    return !cell.IsEmpty() && cell.height >= grid.RowHeight(row);
-  };
-  for (int turn = 0; turn <= grid.Rows() && !is_whole(); ++turn) {
+  // A row out of view is scrolled to, as a hand does with the wheel; one that shows in part is not.
+  for (int turn = 0; turn <= grid.Rows() && grid.CellRectangle(row, column).IsEmpty(); ++turn) {
     const int top = grid.TopRow();
     grid.MouseWheel(row < top ? -1 : 1);
     if (grid.TopRow() == top) break;

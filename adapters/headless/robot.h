@@ -15,6 +15,13 @@ class MonthView;
 /// do.
 class Robot {
  public:
+  /// What a click meets on its way to a control.
+  enum class Obstacle { kNone, kHidden, kDisabled, kOutside, kCovered };
+  struct Reach {
+    Obstacle obstacle = Obstacle::kNone;
+    const Control* by = nullptr;  // what covers it; nullptr for the form itself
+  };
+
   explicit Robot(Form& form) : form_(form) {}
 
   /// The control by its full name, or by the plain name of a group of two, whose click area (1) is meant.
@@ -22,6 +29,8 @@ class Robot {
   /// Why a click on the control would not reach it; empty if it would. What belongs to the same action button
   /// never covers.
   std::string WhyUnreachable(const Control& control, Point position) const;
+  /// The same for those who put it into words of their own.
+  Reach ReachOf(const Control& control, Point position) const;
 
   void Click(const Control& control);
   void DoubleClick(const Control& control);
@@ -40,10 +49,10 @@ class Robot {
   void Type(std::string_view text);
 
   Point MiddleOf(const Control& control) const;
-
- private:
+  /// The middle of what shows of a cell, scrolled to if it is out of view.
   Point CellPosition(MSFlexGrid& grid, int row, int column) const;
 
+ private:
   Form& form_;
 };
 

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+#include "adapters/headless/robot.h"
+#include "form/frm_orvendalciales.h"
+
+namespace orvendal {
+
+/// Mouse and keyboard of a script on the screen, through the same input as a person's. Each operation raises
+/// ScriptStop for what no hand could do: nothing was touched then. Errors of the screen's own handlers are
+/// reported by the screen.
+class ScriptHands {
+ public:
+  /// `form` is loaded and outlives the object.
+  explicit ScriptHands(FrmOrvendalciales& form) : form_(form), robot_(form) {}
+
+  enum class Clicks { kOne, kTwo };
+  /// At the middle of the control.
+  void Click(const std::string& name, Clicks clicks);
+  /// At the middle of a cell, which is scrolled to; rows and columns count from 0, titles included.
+  void ClickCell(const std::string& name, int row, int column, Clicks clicks);
+  /// "minimizar" or "cerrar" of a title bar.
+  void ClickButtonOf(const std::string& name, const std::string& button);
+  /// That day in the open calendar, turning months as needed.
+  void ClickDay(Date day);
+  void Type(const std::string& text);
+  /// One key by its name in the script, such as "Ctrl+Inicio".
+  void Key(const std::string& name);
+  /// The focus goes there as by the Tab key, whether or not Tab stops there.
+  void Focus(const std::string& name);
+
+ private:
+  Control& Usable(const std::string& name) const;
+  MSFlexGrid& UsableGrid(const std::string& name) const;
+  void CheckReach(const Control& control, Point position) const;
+  void CheckWindow() const;
+  void CheckFocus() const;
+
+  FrmOrvendalciales& form_;
+  Robot robot_;
+};
+
+}  // namespace orvendal

@@ -1,0 +1,39 @@
+#include "host/guion_picture.h"
+
+#include <QGuiApplication>
+#include <cstdlib>
+#include <memory>
+
+#include "adapters/qt/qt_picture.h"
+
+namespace orvendal {
+namespace {
+
+// Qt is started by the first picture only: most scripts take none.
+class OffscreenQt {
+ public:
+  explicit OffscreenQt(std::string program_name) : name_(std::move(program_name)) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    // What Qt has to say of the machine is no part of what a script shows.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    application_ = std::make_unique<QGuiApplication>(argument_count_, arguments_);
+  }
+
+ private:
+  std::string name_;
+  int argument_count_ = 1;
+  char* arguments_[2] = {name_.data(), nullptr};
+  std::unique_ptr<QGuiApplication> application_;
+};
+
+}  // namespace
+
+SavePicture QtPictures(const char* program_name) {
+  return [name = std::string(program_name), qt = std::shared_ptr<OffscreenQt>()](
+             Form& form, const std::string& path) mutable {
+    if (!qt) qt = std::make_shared<OffscreenQt>(name);
+    return SavePng(form, path);
+  };
+}
+
+}  // namespace orvendal
