@@ -13,14 +13,15 @@ std::uint8_t Between(int from, int to, double share) {
   return static_cast<std::uint8_t>(std::lround(from + (to - from) * share));
 }
 
-// Soft waves like combed hair, from sand to lavender.
+// Soft waves like combed hair, from sand to lavender. The red goes down by one at each step, so that no two
+// of the colours are the same.
 std::shared_ptr<const Bitmap> Make() {
   auto bitmap = std::make_shared<Bitmap>();
   bitmap->width = kWidth;
   bitmap->height = kHeight;
   for (int i = 0; i < kColors; ++i) {
     const double share = static_cast<double>(i) / (kColors - 1);
-    bitmap->palette.push_back({Between(240, 196, share), Between(239, 205, share), Between(224, 236, share)});
+    bitmap->palette.push_back({Between(248, 164, share), Between(246, 182, share), Between(232, 222, share)});
   }
   bitmap->pixels.reserve(static_cast<std::size_t>(kWidth) * kHeight);
   for (int y = 0; y < kHeight; ++y) {
