@@ -53,19 +53,12 @@ bool QtFormWidget::event(QEvent* event) {
 
 // Painting.
 
-bool QtFormWidget::HasFractionalScale() const {
-  const double ratio = devicePixelRatioF();
-  return ratio != std::floor(ratio);
-}
-
 QRect QtFormWidget::PixelsOf(const Rect& area) const {
   const int left = static_cast<int>(std::floor((origin_.x + area.left) / kTwipsPerPixel));
   const int top = static_cast<int>(std::floor((origin_.y + area.top) / kTwipsPerPixel));
   const int right = static_cast<int>(std::ceil((origin_.x + area.Right()) / kTwipsPerPixel));
   const int bottom = static_cast<int>(std::ceil((origin_.y + area.Bottom()) / kTwipsPerPixel));
-  // With one and a half pixels of the device to a pixel, the edges of the two do not meet.
-  const int margin = HasFractionalScale() ? 1 : 0;
-  return QRect(left, top, right - left, bottom - top).adjusted(-margin, -margin, margin, margin);
+  return QRect(left, top, right - left, bottom - top);
 }
 
 void QtFormWidget::Origin(Point twips) {
@@ -116,12 +109,10 @@ void QtFormWidget::PaintForm(QPainter& painter, const QRegion& region) {
   for (const QRect& outside : region - form_pixels) painter.fillRect(outside, QColor::fromRgb(kDesktop));
 
   const QRegion parts = region.rectCount() > kMostPaintRectangles ? QRegion(region.boundingRect()) : region;
-  const int margin = HasFractionalScale() ? 1 : 0;
   QtCanvas canvas(painter, host_.Fonts(), devicePixelRatioF(), origin_);
   for (const QRect& part : parts) {
-    const QRect whole = part.adjusted(-margin, -margin, margin, margin);
-    const Rect area = Rect{whole.x() * kTwipsPerPixel - origin_.x, whole.y() * kTwipsPerPixel - origin_.y,
-                           whole.width() * kTwipsPerPixel, whole.height() * kTwipsPerPixel}
+    const Rect area = Rect{part.x() * kTwipsPerPixel - origin_.x, part.y() * kTwipsPerPixel - origin_.y,
+                           part.width() * kTwipsPerPixel, part.height() * kTwipsPerPixel}
                           .Intersection(form_area);
     if (!area.IsEmpty()) form_->Paint(canvas, area);
   }
@@ -278,16 +269,14 @@ void QtFormWidget::ApplyState(WindowState state, Qt::WindowStates states) {
   if (state == WindowState::kMinimized && state_ != WindowState::kMinimized)
     state_before_minimizing_ = state_;
   state_ = state;
-  applying_state_ = true;
   setWindowState(states);
-  applying_state_ = false;
 }
 
 void QtFormWidget::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (form_ == nullptr) return;
   if (event->type() == QEvent::ActivationChange) Blink();
-  if (event->type() == QEvent::WindowStateChange && !applying_state_) TakeStateFromSystem();
+  if (event->type() == QEvent::WindowStateChange) TakeStateFromSystem();
 }
 
 void QtFormWidget::TakeStateFromSystem() {

@@ -34,7 +34,7 @@ class QtFormWidget final : public QWidget {
   void PaintNow();
   void Caret(const std::optional<Rect>& caret);
   void ShowCursor(CursorShape shape);
-  /// Tells the form's state to the window system, whose answers to it are no news for the form.
+  /// Tells the window system the state that the form has taken already.
   void ApplyState(WindowState state, Qt::WindowStates states);
 
   const std::optional<Rect>& CaretArea() const { return caret_; }
@@ -60,7 +60,6 @@ class QtFormWidget final : public QWidget {
   Point PlaceOnForm(QPointF position) const;
   /// Logical pixels that hold all of `area`.
   QRect PixelsOf(const Rect& area) const;
-  bool HasFractionalScale() const;
   void PaintForm(QPainter& painter, const QRegion& region);
   void RequestLeftOvers(const QRegion& painted);
   void Press(QMouseEvent& event, bool second_of_double);
@@ -80,7 +79,6 @@ class QtFormWidget final : public QWidget {
   bool caret_lit_ = false;
   QBasicTimer blink_timer_;
   CursorShape cursor_ = CursorShape::kArrow;
-  bool applying_state_ = false;
   WindowState state_ = WindowState::kNormal;  // what the window system was told last
   WindowState state_before_minimizing_ = WindowState::kNormal;
 };

@@ -46,7 +46,8 @@ TEST(CanvasPixels, AreasThatShareAnEdgeMeetWithoutGapAtAnyScale) {
   for (const double scale : {1.0, 1.25, 1.5, 2.0}) {
     for (double edge = 200; edge < 260; edge += 7) {
       const QImage image = Painted(scale, [&](QtCanvas& canvas) {
-        canvas.FillRectangle({0, 0, edge, 900}, kRed);
+        canvas.FillRectangle({0, 0, 101, 900}, kBlue);
+        canvas.FillRectangle({101, 0, edge - 101, 900}, kRed);
         canvas.FillRectangle({edge, 0, 1500 - edge, 900}, kBlue);
       });
       EXPECT_EQ(ColorsOf(image), (std::set<QRgb>{qRgb(255, 0, 0), qRgb(0, 0, 255)})) << scale << " " << edge;

@@ -62,6 +62,15 @@ TEST_F(MessageBoxes, EnterTakesTheDefaultAndEscCancels) {
   EXPECT_EQ(Answer(35 + 512, Key(Qt::Key_Return)), 2);
 }
 
+TEST_F(MessageBoxes, TheDefaultHasTheKeyboardAlthoughTheTextCanBeSelected) {
+  Answer(35 + 256, [](QMessageBox& box) {
+    const auto* focused = qobject_cast<QPushButton*>(box.focusWidget());
+    ASSERT_NE(focused, nullptr);
+    EXPECT_EQ(focused->text(), "&No");
+    QTest::keyClick(box.focusWidget(), Qt::Key_Escape);
+  });
+}
+
 TEST_F(MessageBoxes, TheLetterOfAButtonPressesIt) {
   EXPECT_EQ(Answer(35, Key(Qt::Key_S, Qt::AltModifier)), 6);
   EXPECT_EQ(Answer(35, Key(Qt::Key_N, Qt::AltModifier)), 7);

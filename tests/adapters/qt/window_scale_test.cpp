@@ -56,8 +56,8 @@ TEST_F(WindowScale, PaintingAPartLeavesTheSamePictureAsPaintingAll) {
   ShowForm();
   EXPECT_EQ(PixelsThatDiffer(), 0);
   for (int step = 0; step < 12; ++step) {
-    form->right.Move((101 + 3 * step) * kTwipsPerPixel, (7 + step) * kTwipsPerPixel,
-                     (51 + step) * kTwipsPerPixel, 33 * kTwipsPerPixel);
+    form->right.Move((101 + 3 * step) * kTwipsPerPixel + step, (7 + step) * kTwipsPerPixel,
+                     (51 + step) * kTwipsPerPixel + 4, 33 * kTwipsPerPixel);
     form->right.Color({0, static_cast<std::uint8_t>(20 * step), 255});
     form->box.Text("Champú " + std::to_string(step));
     QApplication::processEvents();
