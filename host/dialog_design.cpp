@@ -9,7 +9,7 @@ namespace {
 constexpr double kScrollBar = 300;
 constexpr double kRowHeight = 330;
 constexpr int kSystemFrame = 3;
-constexpr int kPlacedByHand = 0;
+constexpr int kCenteredOnOwner = 1;
 constexpr int kAlignLeft = 1;
 
 void DesignFont(Control& control) {
@@ -24,7 +24,7 @@ void PlaceDialog(Form& form, std::string_view title, double width, double height
   WindowHost& host = form.Host();
   form.Caption(std::string(title));
   form.BorderStyle(kSystemFrame);
-  form.StartUpPosition(kPlacedByHand);
+  form.StartUpPosition(kCenteredOnOwner);
   form.Width(std::min(width, host.ScreenWidth()));
   form.Height(std::min(height, host.ScreenHeight()));
   form.Move((host.ScreenWidth() - form.Width()) / 2, (host.ScreenHeight() - form.Height()) / 2);

@@ -64,8 +64,7 @@ ScriptWorld::ScriptWorld(const Options& options)
                options.base_width,
                options.base_height,
                0.0,
-               MakeDictionaries(options.language),
-               nullptr} {
+               MakeDictionaries(options.language)} {
   if (options.display) host.SetScreen(options.display->width, options.display->height);
   library_.OpenOwnDialogs([this](const std::string& operation) { AnswerDialog(operation); });
 }

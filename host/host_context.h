@@ -33,9 +33,6 @@ struct HostContext {
   std::int32_t alto_base = 11520;   // twips
   Value dato_pantalla = 0.0;
   Dictionaries dictionaries;
-
-  /// Called when the library has let go of the screen.
-  std::function<void()> screen_released;
 };
 
 /// What was told about a statement: who works where.

@@ -98,8 +98,7 @@ class Program {
                  options.base_width,
                  options.base_height,
                  0.0,
-                 MakeDictionaries(options.language),
-                 nullptr},
+                 MakeDictionaries(options.language)},
         library_(context_),
         state_({host_, recordsets_, library_}) {}
 

@@ -20,7 +20,6 @@ void StandInTools::AccionPuesto(ConnectionRef& conexion, std::string& cod_puesto
 
 void StandInTools::LiberarForm(ObjectRef& formulario) {
   formulario.reset();
-  if (context_.screen_released) context_.screen_released();
 }
 
 std::string StandInTools::FormatoFecha(std::string& fecha, std::uint8_t, std::string&, std::string&) {

@@ -23,8 +23,13 @@ install_missing() {
     if command -v sudo >/dev/null && sudo --non-interactive true 2>/dev/null; then
       as_root=(sudo --non-interactive)
     else
+      local command="apt-get update && apt-get install --no-install-recommends ${missing[*]}"
       echo "Some packages are missing. Type this, then try again:" >&2
-      echo "  sudo apt-get update && sudo apt-get install --no-install-recommends ${missing[*]}" >&2
+      if command -v sudo >/dev/null; then
+        echo "  sudo sh -c '$command'" >&2
+      else
+        echo "  su -c '$command'" >&2
+      fi
       return 1
     fi
   fi

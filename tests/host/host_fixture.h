@@ -58,8 +58,7 @@ class HostTest : public testing::Test {
                 15360,
                 11520,
                 0.0,
-                MakeDictionaries(Language::kSpanish),
-                nullptr} {
+                MakeDictionaries(Language::kSpanish)} {
     CreateSchema(*store);
     store->Execute(R"(
       INSERT INTO Sucursales VALUES ('01', 'Centro'), ('02', 'Mercado'), ('03', 'Estación');

@@ -211,8 +211,7 @@ TEST_F(ProductSearch, FitsAndStandsInTheMiddleOfAnyScreen) {
 }
 
 TEST_F(ProductSearch, SpeaksTheLanguageChosen) {
-  HostContext english{host, messages, EnglishWords(), store, nullptr, "", "01", "1", "1", 0, 0,
-                      0.0,  {},       nullptr};
+  HostContext english{host, messages, EnglishWords(), store, nullptr, "", "01", "1", "1", 0, 0, 0.0, {}};
   StandInLibrary speaking(english);
   std::string title;
   host.QueueDialog([&title](Form& form) {
