@@ -34,11 +34,15 @@ class PlainForm final : public Form {
 
 class GridDefinitionTest : public testing::Test {
  protected:
-  GridDefinitionTest() { screen.Open(); }
+  FrmOrvendalciales& OpenedForm() {
+    screen.Open();
+    return screen.form();
+  }
 
   FormDriver screen;
-  MSFlexGrid& lines = screen.form().MSFProductos;
-  MSFlexGrid& snapshot = screen.form().MSFProductos1;
+  FrmOrvendalciales& form = OpenedForm();
+  MSFlexGrid& lines = form.MSFProductos;
+  MSFlexGrid& snapshot = form.MSFProductos1;
 };
 
 TEST_F(GridDefinitionTest, TheNineColumns) {
@@ -72,7 +76,7 @@ TEST_F(GridDefinitionTest, TheOtherProperties) {
   EXPECT_EQ(snapshot.RowHeightMin(), 300);
   EXPECT_EQ(snapshot.Rows(), 1);
   EXPECT_FALSE(snapshot.Visible());
-  EXPECT_EQ(screen.form().variables.UltimaColumna, 3);
+  EXPECT_EQ(form.variables.UltimaColumna, 3);
 }
 
 TEST_F(GridDefinitionTest, TheEmployeesColumnHasNoTitleAndFourColumnsTakeNoRoom) {
