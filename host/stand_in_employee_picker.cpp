@@ -9,7 +9,6 @@ namespace {
 
 constexpr std::size_t kCode = 0;
 constexpr std::size_t kName = 1;
-constexpr std::string_view kBranchField = "IdSucursal";
 
 int ColumnNamed(const SqliteStatement& rows, std::string_view name) {
   for (int column = 0; column < rows.ColumnCount(); ++column) {
