@@ -82,7 +82,10 @@ void HeadlessHost::PassTime(int milliseconds) {
         due.push_back(timer);
       }
     }
-    for (Timer* timer : due) timer->Parent().TimerElapsed(*timer);
+    for (Timer* timer : due) {
+      // One that fired before may have closed the form.
+      if (timers_.count(timer) != 0) timer->Parent().TimerElapsed(*timer);
+    }
   }
 }
 
