@@ -12,7 +12,7 @@ class MonthView;
 
 /// Hands that use a form as a person would: positions and keys go through the form's own input, so that hit
 /// test, focus and disabled controls decide what happens. Raises std::invalid_argument for what no hand could
-/// do.
+/// do. Keeps the form alive: a key that closes it still comes up.
 class Robot {
  public:
   /// What a click meets on its way to a control.
@@ -22,7 +22,7 @@ class Robot {
     const Control* by = nullptr;  // what covers it; nullptr for the form itself
   };
 
-  explicit Robot(Form& form) : form_(form) {}
+  explicit Robot(Form& form) : form_(form), alive_(form.shared_from_this()) {}
 
   /// The control by its full name, or by the plain name of a group of two, whose click area (1) is meant.
   Control& Find(std::string_view name) const;
@@ -54,6 +54,7 @@ class Robot {
 
  private:
   Form& form_;
+  ObjectRef alive_;
 };
 
 }  // namespace orvendal

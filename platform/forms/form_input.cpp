@@ -149,6 +149,7 @@ void Form::KeyPress(int key_code, int shift) {
     CloseRequest();
     return;
   }
+  const ObjectRef self = shared_from_this();  // a handler may let the form go, and more follows
   Dispatch([&] {
     character_swallowed_ = false;
     key_target_ = active_control_;

@@ -316,6 +316,16 @@ TEST(FormClosedWhileItOpensTest, ReloadedInsideAHandlerItIsAnotherLife) {
   EXPECT_TRUE(cast.stage.form->IsLoaded());
 }
 
+TEST(FormClosedInsideAKeyTest, ThatStandsForACharacterToo) {
+  Cast cast;
+  cast.Show();
+  const std::weak_ptr<Form> form = cast.stage.form;
+  cast.box.OnKeyDown = [&cast](int&, int) { cast.Close(); };
+  // Nobody but the engine holds the form here.
+  cast.stage.form->KeyPress(key::kInsert, shift_mask::kShift);
+  EXPECT_TRUE(form.expired());
+}
+
 TEST(FormClosedWhileItOpensTest, TwoTimersDueAtOnceOfWhichTheFirstCloses) {
   Cast cast;
   Timer& second = cast.stage.Add<Timer>("Second", {0, 0, 0, 0});
