@@ -1,0 +1,64 @@
+# What every DLL and EXE for Windows has in common: the runtime inside, its symbols in a file of their own.
+
+# Splits the symbols of `target` off to <file>.debug beside it, where gdb finds them.
+function(orvendal_split_symbols target)
+  add_custom_command(TARGET ${target} POST_BUILD
+    COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:${target}> $<TARGET_FILE:${target}>.debug
+    COMMAND ${CMAKE_STRIP} --strip-all $<TARGET_FILE:${target}>
+    COMMAND ${CMAKE_OBJCOPY} --add-gnu-debuglink=$<TARGET_FILE:${target}>.debug $<TARGET_FILE:${target}>
+    COMMENT "Splitting the symbols of ${target} off")
+endfunction()
+
+# A COM DLL <target>.dll: exports by `definitions` (.def) and no other.
+function(orvendal_add_com_dll target definitions)
+  add_library(${target} MODULE ${definitions} ${ARGN})
+  set_target_properties(${target} PROPERTIES PREFIX "" SUFFIX ".dll" LINK_DEPENDS
+    ${CMAKE_CURRENT_SOURCE_DIR}/${definitions})
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    target_link_options(${target} PRIVATE -Wl,--enable-stdcall-fixup)
+  endif()
+  orvendal_split_symbols(${target})
+endfunction()
+
+# Type libraries are compiled with widl; stdole2 and the idl files of the system come from Wine's packages.
+find_program(WIDL_PROGRAM ${ORVENDAL_MINGW_PREFIX}-widl REQUIRED)
+find_path(WINE_IDL_FOLDER oaidl.idl
+  PATHS /usr/include/wine/wine/windows /usr/include/wine/windows
+  NO_CMAKE_FIND_ROOT_PATH NO_DEFAULT_PATH REQUIRED)
+find_path(WINE_STDOLE_FOLDER stdole2.tlb
+  PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-windows /usr/lib/wine/x86_64-windows /usr/lib64/wine/x86_64-windows
+  NO_CMAKE_FIND_ROOT_PATH NO_DEFAULT_PATH REQUIRED)
+
+# Compiles <idl> to <name>.tlb and <name>.h in the target's build folder; target <name>_idl carries the folder of
+# both as include directory. Further arguments are type libraries' targets that it imports.
+function(orvendal_add_type_library idl)
+  cmake_path(GET idl STEM name)
+  set(out ${CMAKE_CURRENT_BINARY_DIR}/idl)
+  file(MAKE_DIRECTORY ${out})
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(bits --win64)
+  else()
+    set(bits --win32)
+  endif()
+  set(flags ${bits} -I${WINE_IDL_FOLDER} -L${WINE_STDOLE_FOLDER})
+  set(needs)
+  foreach(imported IN LISTS ARGN)
+    get_target_property(folder ${imported} ORVENDAL_TYPE_LIBRARY_FOLDER)
+    get_target_property(file ${imported} ORVENDAL_TYPE_LIBRARY_FILE)
+    list(APPEND flags -L${folder} -I${folder})
+    list(APPEND needs ${file})
+  endforeach()
+  add_custom_command(
+    OUTPUT ${out}/${name}.tlb ${out}/${name}.h
+    COMMAND ${WIDL_PROGRAM} ${flags} -t -o ${out}/${name}.tlb ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
+    COMMAND ${WIDL_PROGRAM} ${flags} -h -o ${out}/${name}.h ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
+    DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${idl} ${needs}
+    VERBATIM)
+  add_custom_target(${name}_idl_files DEPENDS ${out}/${name}.tlb ${out}/${name}.h)
+  add_library(${name}_idl INTERFACE)
+  add_dependencies(${name}_idl ${name}_idl_files)
+  target_include_directories(${name}_idl SYSTEM INTERFACE ${out})
+  set_target_properties(${name}_idl PROPERTIES
+    ORVENDAL_TYPE_LIBRARY_FOLDER ${out}
+    ORVENDAL_TYPE_LIBRARY_FILE ${out}/${name}.tlb)
+endfunction()

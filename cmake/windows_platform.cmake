@@ -1,0 +1,15 @@
+# Everything that the build for Windows needs beyond the sources.
+enable_language(C RC)
+if(CCACHE_PROGRAM AND NOT CMAKE_C_COMPILER_LAUNCHER)
+  set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+# Each test has one prefix of Wine, made by the first one, in the build folder.
+set(ORVENDAL_WINEPREFIX ${PROJECT_BINARY_DIR}/wine_prefix)
+
+target_compile_definitions(orvendal_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN
+  WINVER=0x0601 _WIN32_WINNT=0x0601)
+target_compile_options(orvendal_options INTERFACE -g1 -ffunction-sections -fdata-sections)
+target_link_options(orvendal_options INTERFACE -Wl,--gc-sections)
+
+include(cmake/windows_module.cmake)
+include(cmake/windows_sqlite.cmake)
