@@ -1,0 +1,117 @@
+#!/usr/bin/env bash
+# Puts one line at a time into an otherwise empty house and looks whether scripts/check_rooms lets it stand.
+set -euo pipefail
+check_rooms="$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.." && pwd)/scripts/check_rooms"
+house="$(mktemp -d)"
+trap 'rm -rf "$house"' EXIT
+mkdir -p "$house/scripts"
+cp "$check_rooms" "$house/scripts/"
+for room in adapters/{ado,com,headless,qt,sqlite,win32} bench component count form host lines \
+  platform/{base,data,forms,library} screen store tests/support; do
+  mkdir -p "$house/$room"
+done
+
+failed=0
+holds() {  # holds FILE LINE: whether the check lets the line stand in that file
+  printf '%s\n' "$2" >"$house/$1"
+  local verdict=0
+  output="$("$house/scripts/check_rooms" 2>&1)" || verdict=$?
+  rm "$house/$1"
+  return "$verdict"
+}
+allowed() {
+  holds "$1" "$2" && return
+  echo "refused, but is allowed: $1: $2 ($output)"
+  failed=1
+}
+refused() {
+  if holds "$1" "$2"; then
+    echo "let stand, but is refused: $1: $2"
+    failed=1
+  elif [[ $output != *"$1"* ]]; then
+    echo "refused without naming $1: $output"
+    failed=1
+  fi
+}
+includes() { echo "#include \"$1\""; }
+
+# Down the floors.
+allowed platform/forms/a.h "$(includes platform/base/value.h)"
+allowed platform/data/a.h "$(includes platform/base/value.h)"
+allowed platform/library/a.h "$(includes platform/forms/form.h)"
+allowed platform/library/a.h "$(includes platform/data/recordset.h)"
+allowed component/datos_comunes.h "$(includes platform/library/library.h)"
+allowed store/a.cpp "$(includes platform/data/recordset.h)"
+allowed screen/a.cpp "$(includes platform/forms/form.h)"
+allowed form/a.cpp "$(includes screen/action_bar.h)"
+allowed form/a.cpp "$(includes component/component_state.h)"
+allowed lines/a.cpp "$(includes form/frm_orvendalciales.h)"
+allowed count/a.cpp "$(includes store/statements.h)"
+allowed component/class_orvendal.cpp "$(includes form/frm_orvendalciales.h)"
+allowed adapters/headless/a.cpp "$(includes platform/forms/form.h)"
+allowed adapters/sqlite/a.cpp "$(includes platform/data/recordset.h)"
+allowed adapters/com/a.cpp "$(includes component/class_orvendal.h)"
+allowed host/a.cpp "$(includes adapters/qt/qt_window_host.h)"
+allowed tests/a.cpp "$(includes host/guion_library.h)"
+allowed platform/base/a.cpp '#include <vector>'
+
+# Up the floors, or across.
+refused platform/base/a.h "$(includes platform/forms/form.h)"
+refused platform/base/a.h "$(includes platform/data/recordset.h)"
+refused platform/forms/a.h "$(includes platform/data/recordset.h)"
+refused platform/forms/a.h "$(includes platform/library/library.h)"
+refused platform/data/a.h "$(includes platform/forms/form.h)"
+refused platform/library/a.h "$(includes component/datos_comunes.h)"
+refused component/datos_comunes.cpp "$(includes form/frm_orvendalciales.h)"
+refused component/component_state.h "$(includes store/statements.h)"
+refused store/a.cpp "$(includes platform/forms/form.h)"
+refused store/a.cpp "$(includes screen/palette.h)"
+refused screen/a.cpp "$(includes store/statements.h)"
+refused screen/a.cpp "$(includes form/frm_orvendalciales.h)"
+refused form/a.cpp "$(includes lines/a.h)"
+refused form/a.cpp "$(includes component/class_orvendal.h)"
+refused lines/a.cpp "$(includes count/a.h)"
+refused count/a.cpp "$(includes lines/a.h)"
+refused adapters/headless/a.cpp "$(includes component/class_orvendal.h)"
+refused adapters/qt/a.cpp "$(includes adapters/headless/robot.h)"
+refused adapters/sqlite/a.cpp "$(includes platform/forms/form.h)"
+for room in platform/base platform/forms store screen form lines count component; do
+  refused "$room/a.cpp" "$(includes host/language.h)"
+  refused "$room/a.cpp" "$(includes adapters/qt/qt_canvas.h)"
+  refused "$room/a.cpp" "$(includes tests/support/form_driver.h)"
+done
+refused host/a.cpp "$(includes tests/support/form_driver.h)"
+refused adapters/headless/a.cpp "$(includes bench/a.h)"
+
+# Conditionals of a system.
+for room in platform/base platform/forms store screen form lines count component; do
+  refused "$room/a.cpp" '#ifdef _WIN32'
+  refused "$room/a.cpp" '#if defined(__linux__)'
+done
+allowed host/a.cpp '#ifdef _WIN32'
+allowed adapters/win32/a.cpp '#ifdef _WIN64'
+allowed form/a.h '#ifdef NDEBUG'
+
+# Types of COM.
+for type in HRESULT VARIANT BSTR; do
+  refused form/a.cpp "$type value;"
+  refused host/a.cpp "$type value;"
+  refused adapters/qt/a.cpp "$type value;"
+  allowed adapters/com/a.cpp "$type value;"
+  allowed adapters/ado/a.cpp "$type value;"
+done
+
+# Texts for the store.
+for text in 'SELECT * FROM Productos' 'INSERT INTO Productos' 'DELETE FROM Productos' 'UPDATE Productos SET' \
+  'CREATE TABLE Productos'; do
+  for room in platform/base screen form lines count component adapters/headless adapters/qt; do
+    refused "$room/a.cpp" "const char* text = \"$text\";"
+    refused "$room/a.cpp" "  $text"  # a line of a raw text
+  done
+  allowed store/a.cpp "const char* text = \"$text\";"
+  allowed host/a.cpp "const char* text = \"$text\";"
+  allowed tests/a.cpp "const char* text = \"$text\";"
+  allowed adapters/sqlite/a.cpp "const char* text = \"$text\";"
+done
+
+exit "$failed"
