@@ -1,5 +1,7 @@
 #include "host/sample_chain.h"
 
+#include <sqlite3.h>
+
 #include <algorithm>
 #include <cmath>
 #include <set>
@@ -170,7 +172,8 @@ void MakeSampleStore(SqliteConnection& store, Date today, std::uint64_t seed) {
     FillSampleChain(store, today, seed);
     store.Execute("COMMIT");
   } catch (const RuntimeError&) {
-    store.Execute("ROLLBACK");
+    // A full disk, for one, has ended the transaction already.
+    if (sqlite3_get_autocommit(store.Handle()) == 0) store.Execute("ROLLBACK");
     throw;
   }
 }

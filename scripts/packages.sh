@@ -4,6 +4,9 @@
 build_packages=(g++ cmake ninja-build qt6-base-dev libsqlite3-dev libcli11-dev libgtest-dev libbenchmark-dev
   fonts-urw-base35 fonts-dejavu-core)
 
+# With ccache, a clone in another place finds what an earlier one compiled.
+export CCACHE_BASEDIR="${root:?}" CCACHE_NOHASHDIR=1
+
 is_installed() {
   [[ "$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null)" == installed ]]
 }

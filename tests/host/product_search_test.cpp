@@ -65,12 +65,13 @@ TEST_F(ProductSearch, GivesNothingWhenItIsCancelled) {
 }
 
 TEST_F(ProductSearch, MovesInTheListWhileTheBoxKeepsTheFocus) {
-  const std::string code = Search("Codigo", "", [this](Form& form) {
+  const std::string code = Search("Codigo", "0", [this](Form& form) {
     Robot robot(form);
     robot.Key(key::kDown);
     robot.Key(key::kDown);
     robot.Key(key::kUp);
     EXPECT_TRUE(box->HasFocus());
+    EXPECT_EQ(box->CaretPosition(), 1);
     EXPECT_EQ(grid->Row(), 2);
     robot.Key(key::kPageDown);
     EXPECT_EQ(grid->Row(), 5);

@@ -181,6 +181,19 @@ TEST_F(SampleChain, APlainInsertOfTheFieldsOfTheScreenWorks) {
   EXPECT_EQ(Read("SELECT COUNT(*) FROM Empleados", *own), "1");
 }
 
+TEST_F(SampleChain, AFullDiskInTheMiddleIsToldAndLeavesNothingBehind) {
+  const auto own =
+      SqliteConnection::Open(":memory:", Dialect::kSqlServer, Region::Spanish(), OpenMode::kCreate);
+  own->Execute("PRAGMA max_page_count = 200");
+  try {
+    MakeSampleStore(*own, kToday);
+    FAIL();
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Description(), "The disk of the store is full.");
+  }
+  EXPECT_EQ(Read("SELECT COUNT(*) FROM sqlite_master", *own), "0");
+}
+
 TEST_F(SampleChain, AFailureLeavesNothingBehind) {
   const auto own =
       SqliteConnection::Open(":memory:", Dialect::kSqlServer, Region::Spanish(), OpenMode::kCreate);

@@ -167,6 +167,7 @@ TEST_F(SessionChange, ChoosesABranchWithTheArrows) {
 }
 
 TEST_F(SessionChange, CancelledItChangesNothing) {
+  context.puesto = "99";
   const std::int32_t result = Open([](Form& form) {
     Robot robot(form);
     robot.Key(key::kDown);
@@ -174,6 +175,7 @@ TEST_F(SessionChange, CancelledItChangesNothing) {
   });
   EXPECT_EQ(result, 0);
   EXPECT_EQ(branch, "0123");
+  EXPECT_EQ(context.puesto, "99");
   EXPECT_EQ(context.sucursal, "0123");
 }
 
