@@ -17,8 +17,8 @@ bool IsQuantity(std::string_view text, const Region& region, bool decimals);
 std::string TextWith(const TextBox& box, std::string_view typed);
 
 /// The key to use for `key_ascii` in a box that takes quantities; 0 refuses it. The point of the number pad
-/// becomes the mark of the host's region. Control keys stay as they are, but for a paste, which passes only if
-/// a quantity comes of it; blanks around what the clipboard holds do not count.
+/// becomes the mark of the host's region. Control keys stay as they are, but for a paste, which passes only
+/// if a quantity comes of it; blanks around what the clipboard holds do not count.
 int FilterQuantityKey(TextBox& box, int key_ascii, WindowHost& host, bool decimals);
 
 }  // namespace orvendal

@@ -20,7 +20,8 @@ class SessionChangeForm final : public Form {
   SessionChangeForm(HostContext& context, std::vector<BranchName> branches, Session session);
 
   bool Accepted() const { return accepted_; }
-  /// What was chosen. The branch code stays whole, also what follows its key, unless another branch was taken.
+  /// What was chosen. The branch code stays whole, also what follows its key, unless another branch was
+  /// taken.
   const Session& Chosen() const { return session_; }
 
  protected:
