@@ -25,11 +25,11 @@ class NoForm final : public Object {};
 
 class SessionFillingTest : public testing::Test {
  protected:
+  FormDriver screen;
   /// The routine alone, with a session object that does nothing but `meddle`.
   DatosComunes session;
   KeepingFactory factory;
   std::shared_ptr<TestSession> object = std::make_shared<TestSession>();
-  FormDriver screen;
 
   SessionFillingTest() {
     object->fills_dictionaries = false;
