@@ -69,6 +69,20 @@ TEST_F(OrvendalCallTest, ASecondCallFillsTheSessionAgainAndLeavesTheScreenAsItIs
   EXPECT_EQ(screen.form().LblSucursal.Tag(), "01");
 }
 
+TEST_F(OrvendalCallTest, ASecondCallForAnotherBranchKeepsTheUnsavedLinesAndTheSaveGoesToTheNewBranch) {
+  screen.OpenWithStylist("01");
+  screen.EnterLine("P1", "12");
+  screen.AddCount("P5", 4, 5, "E1", "2026-11-16", "02");
+  screen.AddCount("P2", 4, 5, "E1", "2026-11-16", "01");
+  screen.Open("02");
+  EXPECT_EQ(screen.Codes(), std::vector<std::string>{"P1"});
+  screen.Click("LblGuardar");
+  EXPECT_TRUE(screen.host.ReportedErrors().empty());
+  EXPECT_EQ(screen.Sql("SELECT group_concat(line, ' ') FROM (SELECT IdSucursal || '=' || IdProducto AS line "
+                       "FROM HistOrvendalcial ORDER BY 1)"),
+            "01=P2 02=P1");
+}
+
 TEST_F(OrvendalCallTest, AMinimisedFormComesBackMaximised) {
   screen.Open();
   ClickMinimize(screen);

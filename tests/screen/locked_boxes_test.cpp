@@ -67,6 +67,47 @@ TEST(LockedBoxesOnTheScreenTest, TheDayOfSupervisorModeIsChosenNotTyped) {
   EXPECT_EQ(screen.form().MkFecha.Text(), "16/11/2026");
 }
 
+TEST(LockedBoxesOnTheScreenTest, NothingMovesTheStripAlongTheTop) {
+  FormDriver screen;
+  screen.Open();
+  HScrollBar& strip = screen.form().ScrollProductos;
+  int changes = 0;
+  strip.OnChange = [&] { ++changes; };
+  const Rect bounds = strip.Bounds();
+  for (const double x : {60.0, bounds.width / 3, bounds.width / 2, bounds.width - 60}) {
+    screen.robot().ClickAt({bounds.left + x, bounds.top + bounds.height / 2});
+  }
+  ASSERT_EQ(screen.Focused(), "ScrollProductos");
+  for (const int code : {key::kLeft, key::kRight, key::kPageUp, key::kPageDown, key::kHome, key::kEnd}) {
+    screen.Key(code);
+  }
+  screen.form().MouseWheel({bounds.left + 100, bounds.top + 100}, 3);
+  EXPECT_EQ(strip.Value(), 1);
+  EXPECT_EQ(changes, 0);
+  EXPECT_TRUE(screen.host.ReportedErrors().empty());
+}
+
+TEST(LockedBoxesOnTheScreenTest, WhatIsNeverVisibleStaysSoThroughAWholeCount) {
+  FormDriver screen;
+  const auto expect_hidden = [&screen] {
+    EXPECT_FALSE(screen.form().TxtCodigo.Visible());
+    EXPECT_FALSE(screen.form().CodigosaRecalcular.Visible());
+    EXPECT_FALSE(screen.form().MSFProductos1.Visible());
+    EXPECT_FALSE(screen.form().TimerCBarra.Enabled());
+  };
+  screen.OpenWithStylist();
+  expect_hidden();
+  screen.EnterLine("P1", "3");
+  expect_hidden();
+  screen.Click("LblGuardar");
+  expect_hidden();
+  screen.library.QueueEmployee({true, "E2", "Berta"});
+  screen.Click("LblNuevo");
+  expect_hidden();
+  screen.Click("BtnAnuloSuper");
+  expect_hidden();
+}
+
 TEST(LockedBoxesOnTheScreenTest, TheStylistIsPickedNotTyped) {
   FormDriver screen;
   screen.Open();
