@@ -167,7 +167,7 @@ class Reader {
     sub->final_callback([this, sub, &command] {
       line_.command = &command;
       if (sub->count("argument") == 0) {
-        throw WrongUse{Fill(words_.value_missing, {command.name})};
+        throw WrongUse{Fill(words_.argument_missing, {command.name, command.argument})};
       }
     });
   }

@@ -63,6 +63,7 @@ struct Words {
   std::string_view unknown_option;       // %1
   std::string_view unexpected_word;      // %1
   std::string_view value_missing;        // %1 is the option
+  std::string_view argument_missing;     // %1 is the command, %2 what it lacks
   std::string_view bad_value;            // %1 is the option, %2 the value, %3 what it takes
   std::string_view see_help;
 

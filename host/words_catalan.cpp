@@ -46,6 +46,7 @@ const Words& CatalanWords() {
       .unknown_option = "No existeix l’opció %1.",
       .unexpected_word = "Sobra la paraula %1.",
       .value_missing = "A l’opció %1 li falta el valor.",
+      .argument_missing = "A l’ordre %1 li falta el %2.",
       .bad_value = "L’opció %1 no admet «%2»; val %3.",
       .see_help = "L’ajuda és a orvendal --help.",
       .help_purpose = "Obre la pantalla d’existències inicials d’una sucursal.",

@@ -46,6 +46,7 @@ const Words& EnglishWords() {
       .unknown_option = "There is no option %1.",
       .unexpected_word = "The word %1 is one too many.",
       .value_missing = "The option %1 lacks its value.",
+      .argument_missing = "The command %1 lacks its %2.",
       .bad_value = "The option %1 does not take \"%2\"; it takes %3.",
       .see_help = "orvendal --help tells more.",
       .help_purpose = "Opens the screen for the opening stock of a branch.",

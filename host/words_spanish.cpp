@@ -46,6 +46,7 @@ const Words& SpanishWords() {
       .unknown_option = "No existe la opción %1.",
       .unexpected_word = "Sobra la palabra %1.",
       .value_missing = "A la opción %1 le falta su valor.",
+      .argument_missing = "A la orden %1 le falta su %2.",
       .bad_value = "La opción %1 no admite «%2»; vale %3.",
       .see_help = "La ayuda está en orvendal --help.",
       .help_purpose = "Abre la pantalla de existencias iniciales de una sucursal.",

@@ -136,7 +136,7 @@ TEST_F(CommandLineWithCommand, TakesItsArgumentAndTheOptionsAroundIt) {
 }
 
 TEST_F(CommandLineWithCommand, RefusesItWithoutItsArgumentOrWithMore) {
-  EXPECT_NE(Read({"guion"}).errors.find("guion le falta su valor"), std::string::npos);
+  EXPECT_NE(Read({"guion"}).errors.find("A la orden guion le falta su FICHERO."), std::string::npos);
   EXPECT_EQ(Read({"guion"}).exit_code, kExitWrongUse);
   EXPECT_NE(Read({"guion", "a", "b"}).errors.find("Sobra la palabra b"), std::string::npos);
   EXPECT_NE(Read({"guion", "a", "--nada"}).errors.find("--nada"), std::string::npos);
