@@ -51,8 +51,10 @@ std::vector<SampleEmployee> MakeSampleEmployees(SampleRandom& random, std::size_
   std::vector<SampleEmployee> employees;
   std::set<std::string> names;
   while (employees.size() < count) {
-    const std::string name =
-        OneOf(random, kGivenNames) + " " + OneOf(random, kSurnames) + " " + OneOf(random, kSurnames);
+    // One after the other: in a single expression each compiler would draw in an order of its own.
+    std::string name = OneOf(random, kGivenNames);
+    name += " " + OneOf(random, kSurnames);
+    name += " " + OneOf(random, kSurnames);
     if (!names.insert(name).second) continue;
     const std::size_t number = employees.size();
     employees.push_back({Numbered("E%03zu", number + 1), name, number % branch_count});
