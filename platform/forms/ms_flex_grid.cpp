@@ -1,5 +1,7 @@
 #include "platform/forms/ms_flex_grid.h"
 
+#include <utility>
+
 #include "platform/base/runtime_error.h"
 #include "platform/forms/form.h"
 
@@ -39,6 +41,7 @@ void MSFlexGrid::RestoreDefaults() {
   row_ = row_selection_ = 1;
   column_ = column_selection_ = 1;
   cursor_was_moved_ = false;
+  left_place_.reset();
   top_row_ = left_column_ = 1;
   row_height_min_ = 0;
   back_color_fixed_ = system_color::kButtonFace;
@@ -89,6 +92,7 @@ void MSFlexGrid::FixedCols(int columns) {
 
 // Puts cursor, selection and view back inside the grid, raising nothing.
 void MSFlexGrid::StructureChanged() {
+  left_place_.reset();
   if (!cursor_was_moved_) {
     row_ = row_selection_ = fixed_rows_;
     column_ = column_selection_ = fixed_columns_;
@@ -134,6 +138,7 @@ void MSFlexGrid::ChangeCursor(std::optional<int> row, std::optional<int> column)
     SelectTo(row_, column_);
     return;
   }
+  left_place_.reset();
   const Moment before = Now();
   if (OnLeaveCell) OnLeaveCell();
   if (!IsStill(before)) return;
@@ -252,8 +257,15 @@ void MSFlexGrid::AddItem(const std::string& text, int row) {
     start = tab + 1;
   }
   const bool showed_bar = Measure().has_vertical_bar;
+  const std::optional<Place> left_place = std::exchange(left_place_, std::nullopt);
   rows_.insert(rows_.begin() + row, std::move(cells));
   const View view = Measure();
+  if (left_place && row + 1 == Rows()) {
+    row_ = row_selection_ = left_place->row;
+    top_row_ = left_place->top_row;
+    StructureChanged();
+    return;
+  }
   if (row + 1 < Rows() || Rows() == fixed_rows_ + 1 || showed_bar != view.has_vertical_bar) {
     StructureChanged();
     return;
@@ -266,8 +278,10 @@ void MSFlexGrid::AddItem(const std::string& text, int row) {
 void MSFlexGrid::RemoveItem(int row) {
   if (row < fixed_rows_ || row >= Rows()) throw RuntimeError(error_number::kSubscriptOutOfRange);
   if (Rows() - fixed_rows_ == 1) throw RuntimeError(error_number::kCannotRemoveLastRow);
+  const Place before{row_, top_row_};
   rows_.erase(rows_.begin() + row);
   StructureChanged();
+  if (row_ != before.row || top_row_ != before.top_row) left_place_ = before;
 }
 
 // Columns and look.

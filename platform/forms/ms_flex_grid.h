@@ -112,7 +112,9 @@ class MSFlexGrid final : public Control {
   /// Inserts it before row `row`. Raises 381 outside FixedRows..Rows.
   void AddItem(const std::string& text, int row);
   /// The rows below move up with their colours; the cursor keeps its row number, or goes to the last row,
-  /// with no event. Raises 30015 for the last row below the titles, 381 for any row that is none or is fixed.
+  /// with no event. A row that is appended right afterwards gives cursor and view the places back that they
+  /// had to leave, also with no event. Raises 30015 for the last row below the titles, 381 for any row that
+  /// is none or is fixed.
   void RemoveItem(int row);
 
   ColorWord BackColorFixed() const { return back_color_fixed_; }
@@ -190,6 +192,11 @@ class MSFlexGrid final : public Control {
     int position = 0;
   };
   enum class Drag { kNothing, kCells, kVerticalThumb, kHorizontalThumb };
+  /// Where cursor and view stood before a row was removed from under them.
+  struct Place {
+    int row = 0;
+    int top_row = 0;
+  };
   /// Tells, after a handler ran, whether the grid is still the one that it was before.
   struct Moment {
     bool loaded = false;
@@ -251,6 +258,7 @@ class MSFlexGrid final : public Control {
   int row_selection_ = 1;
   int column_selection_ = 1;
   bool cursor_was_moved_ = false;
+  std::optional<Place> left_place_;
   int top_row_ = 1;
   int left_column_ = 1;
   double row_height_min_ = 0;

@@ -172,6 +172,7 @@ void MSFlexGrid::MoveView(int top_row, int left_column) {
   const int top = std::clamp(top_row, fixed_rows_, LastTopRow(view));
   const int left = std::clamp(left_column, fixed_columns_, LastLeftColumn(view));
   if (top == top_row_ && left == left_column_) return;
+  left_place_.reset();
   top_row_ = top;
   left_column_ = left;
   Invalidate();

@@ -86,6 +86,41 @@ TEST_F(GridTest, RemovingTheVeryLastRowSendsTheCursorUpSilently) {
   EXPECT_EQ(TakeLog(), Log{});
 }
 
+TEST_F(GridTest, ARowAppendedRightAfterTheVeryLastOneWasRemovedGivesTheCursorItsPlaceBack) {
+  Grid().Row(30);
+  TakeLog();
+  Grid().RemoveItem(30);
+  Grid().AddItem("");
+  EXPECT_EQ(Cursor(), "30,0");
+  EXPECT_EQ(TakeLog(), Log{});
+}
+
+TEST_F(GridTest, ARowAppendedRightAfterARemovalGivesTheViewItsPlaceBack) {
+  Grid().TopRow(GridForm::kRows);
+  const int top = Grid().TopRow();
+  TakeLog();
+  Grid().RemoveItem(20);
+  EXPECT_EQ(Grid().TopRow(), top - 1);
+  Grid().AddItem("");
+  EXPECT_EQ(Grid().TopRow(), top);
+  EXPECT_EQ(TakeLog(), Log{});
+}
+
+TEST_F(GridTest, ARowAppendedAfterTheCursorMovedOnLeavesItThere) {
+  Grid().Row(30);
+  Grid().RemoveItem(30);
+  Grid().Row(4);
+  Grid().AddItem("");
+  EXPECT_EQ(Cursor(), "4,0");
+}
+
+TEST_F(GridTest, ARowInsertedAfterARemovalGivesNothingBack) {
+  Grid().Row(30);
+  Grid().RemoveItem(30);
+  Grid().AddItem("", 3);
+  EXPECT_EQ(Cursor(), "29,0");
+}
+
 TEST_F(GridTest, TitlesAndTheOnlyLineCannotBeRemoved) {
   EXPECT_EQ(ErrorOf([&] { Grid().RemoveItem(0); }), 381);
   EXPECT_EQ(ErrorOf([&] { Grid().RemoveItem(GridForm::kRows); }), 381);
