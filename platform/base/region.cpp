@@ -106,6 +106,21 @@ Region Region::MakeEnglish() {
   return region;
 }
 
+Region Region::FromSystem(const RegionSettings& settings) {
+  Region region;
+  region.name_ = settings.name;
+  region.decimal_mark_ = settings.decimal_mark;
+  region.date_separator_ = settings.date_separator;
+  region.date_order_ = settings.date_order;
+  region.padded_day_and_month_ = settings.padded_day_and_month;
+  region.twelve_hour_clock_ = settings.twelve_hour_clock;
+  region.first_weekday_ = settings.first_weekday;
+  region.month_names_ = settings.month_names;
+  region.weekday_letters_ = settings.weekday_letters;
+  region.today_word_ = settings.today_word;
+  return region;
+}
+
 const Region& Region::Spanish() {
   static const Region region = MakeSpanish();
   return region;

@@ -13,9 +13,25 @@ namespace orvendal {
 
 enum class DateOrder { kDayMonthYear, kMonthDayYear, kYearMonthDay };
 
+/// What a system tells of its user's region; see the members of Region of the same names. The mark and the
+/// separator are ASCII.
+struct RegionSettings {
+  std::string name;
+  char decimal_mark = ',';
+  char date_separator = '/';
+  DateOrder date_order = DateOrder::kDayMonthYear;
+  bool padded_day_and_month = true;
+  bool twelve_hour_clock = false;
+  int first_weekday = 0;
+  std::array<std::string, 12> month_names;
+  std::array<std::string, 7> weekday_letters;
+  std::string today_word;
+};
+
 /// How the user's system writes and reads numbers and dates. Immutable; the built-in ones live for ever.
 class Region {
  public:
+  static Region FromSystem(const RegionSettings& settings);
   static const Region& Spanish();  // es-ES
   static const Region& Catalan();  // ca-ES
   static const Region& English();  // en-US

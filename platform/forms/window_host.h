@@ -88,6 +88,8 @@ class WindowHost {
   std::uint64_t ModalSerial() const { return modal_serial_; }
   /// Whether `form` may take input: no dialog is up, or it is itself the innermost one.
   bool TakesInput(const Form& form) const;
+  /// Whether `form` itself is the innermost dialog that is up.
+  bool IsInnermostDialog(const Form& form) const;
   Rgb Resolve(ColorWord color) {
     return RgbOf(IsSystemColor(color) ? SystemColor(SystemColorIndex(color)) : color);
   }

@@ -1,0 +1,17 @@
+#pragma once
+
+namespace orvendal {
+
+/// While one lives, on any thread, the code of this module must stay where it is: a window of it exists, one
+/// of its procedures runs, or somebody outside has an object of it.
+class ModuleUse {
+ public:
+  ModuleUse();
+  ~ModuleUse();
+  ModuleUse(const ModuleUse&) = delete;
+  ModuleUse& operator=(const ModuleUse&) = delete;
+};
+
+bool ModuleIsInUse();
+
+}  // namespace orvendal

@@ -1,0 +1,68 @@
+#include "adapters/win32/windows_api.h"
+
+namespace orvendal {
+namespace {
+
+constexpr int kDesignDpi = 96;
+
+// Older systems lack some functions; asking by name keeps the module loadable there.
+template <typename Function>
+Function UserFunction(const char* name) {
+  const HMODULE user = GetModuleHandleW(L"user32.dll");
+  return user == nullptr ? nullptr
+                         : reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(user, name)));
+}
+
+}  // namespace
+
+std::wstring Wide(std::string_view utf8) {
+  if (utf8.empty()) return {};
+  const int bytes = static_cast<int>(utf8.size());
+  const int length = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, nullptr, 0);
+  std::wstring wide(static_cast<std::size_t>(length), L'\0');
+  MultiByteToWideChar(CP_UTF8, 0, utf8.data(), bytes, wide.data(), length);
+  return wide;
+}
+
+std::string Utf8(std::wstring_view wide) {
+  if (wide.empty()) return {};
+  const int units = static_cast<int>(wide.size());
+  const int length = WideCharToMultiByte(CP_UTF8, 0, wide.data(), units, nullptr, 0, nullptr, nullptr);
+  std::string utf8(static_cast<std::size_t>(length), '\0');
+  WideCharToMultiByte(CP_UTF8, 0, wide.data(), units, utf8.data(), length, nullptr, nullptr);
+  return utf8;
+}
+
+std::wstring SingleLine(std::string_view utf8) {
+  std::wstring line = Wide(utf8);
+  for (wchar_t& unit : line) {
+    if (unit < 0x20 || unit == 0x2028 || unit == 0x2029) unit = L' ';
+  }
+  return line;
+}
+
+HINSTANCE ThisModule() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                     reinterpret_cast<const wchar_t*>(&ThisModule), &module);
+  return module;
+}
+
+int SystemDpi() {
+  if (const auto system_dpi = UserFunction<UINT(WINAPI*)()>("GetDpiForSystem")) {
+    if (const int dpi = static_cast<int>(system_dpi())) return dpi;
+  }
+  const HDC screen = GetDC(nullptr);
+  const int dpi = screen == nullptr ? 0 : GetDeviceCaps(screen, LOGPIXELSX);
+  if (screen != nullptr) ReleaseDC(nullptr, screen);
+  return dpi > 0 ? dpi : kDesignDpi;
+}
+
+int DpiOf(HWND window) {
+  if (const auto window_dpi = UserFunction<UINT(WINAPI*)(HWND)>("GetDpiForWindow")) {
+    if (const int dpi = static_cast<int>(window_dpi(window))) return dpi;
+  }
+  return SystemDpi();
+}
+
+}  // namespace orvendal
