@@ -68,6 +68,7 @@ FormProperties PropertiesOfForm(FrmOrvendalciales& form, const DatosComunes& ses
   const FrmOrvendalciales::Variables& variables = form.variables;
   const Control* active = form.ActiveControl();
   const bool has_rows = variables.RsCodigos != nullptr;
+  const bool is_open = has_rows && variables.RsCodigos->State() == kStateOpen;
   return {
       {"name", form.Name()},
       {"caption", form.Caption()},
@@ -85,6 +86,7 @@ FormProperties PropertiesOfForm(FrmOrvendalciales& form, const DatosComunes& ses
       {"controls.count", ValueText(static_cast<int>(form.Controls().size()))},
       {"rscodigos", has_rows ? "Recordset" : "Nothing"},
       {"rscodigos.state", ValueText(has_rows ? variables.RsCodigos->State() : 0)},
+      {"rscodigos.editmode", ValueText(is_open ? variables.RsCodigos->EditMode() : 0)},
       {"primeraactivacion", ValueText(variables.PrimeraActivacion)},
       {"modonuevo", ValueText(variables.ModoNuevo)},
       {"pintandofila", ValueText(variables.PintandoFila)},
