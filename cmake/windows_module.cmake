@@ -43,10 +43,9 @@ function(orvendal_add_type_library idl)
   set(flags ${bits} -I${WINE_IDL_FOLDER} -L${WINE_STDOLE_FOLDER})
   set(needs)
   foreach(imported IN LISTS ARGN)
-    get_target_property(folder ${imported} ORVENDAL_TYPE_LIBRARY_FOLDER)
-    get_target_property(file ${imported} ORVENDAL_TYPE_LIBRARY_FILE)
-    list(APPEND flags -L${folder} -I${folder})
-    list(APPEND needs ${file})
+    list(APPEND flags -L$<TARGET_PROPERTY:${imported},ORVENDAL_TYPE_LIBRARY_FOLDER>
+      -I$<TARGET_PROPERTY:${imported},ORVENDAL_TYPE_LIBRARY_SOURCES>)
+    list(APPEND needs $<TARGET_PROPERTY:${imported},ORVENDAL_TYPE_LIBRARY_FILE>)
   endforeach()
   add_custom_command(
     OUTPUT ${out}/${name}.tlb ${out}/${name}.h
@@ -59,6 +58,7 @@ function(orvendal_add_type_library idl)
   add_dependencies(${name}_idl ${name}_idl_files)
   target_include_directories(${name}_idl SYSTEM INTERFACE ${out})
   set_target_properties(${name}_idl PROPERTIES
+    ORVENDAL_TYPE_LIBRARY_SOURCES ${CMAKE_CURRENT_SOURCE_DIR}
     ORVENDAL_TYPE_LIBRARY_FOLDER ${out}
     ORVENDAL_TYPE_LIBRARY_FILE ${out}/${name}.tlb)
 endfunction()

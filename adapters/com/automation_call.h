@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+
+#include "adapters/com/com_headers.h"
+#include "adapters/com/com_ptr.h"
+
+namespace orvendal {
+
+/// An argument that does not fit, as a client of Invoke is told of it.
+struct ArgumentError {
+  HRESULT result;
+  UINT index;  // in rgvarg
+};
+
+/// One call of a member of an automation object: its arguments by place, from 0, and its result.
+class AutomationCall {
+ public:
+  /// Everything outlives the call. `result` may be nullptr.
+  AutomationCall(const DISPPARAMS& given, LCID lcid, VARIANT* result)
+      : given_(given), lcid_(lcid), result_(result) {}
+
+  UINT Count() const { return given_.cArgs; }
+  /// Whether the argument is there and was not left out.
+  bool Has(UINT place) const;
+  /// Throws ArgumentError DISP_E_BADPARAMCOUNT unless there are that many.
+  void Expect(UINT fewest, UINT most) const;
+
+  // Each throws ArgumentError for an argument that is not there or does not convert.
+  std::string Text(UINT place) const;
+  double Number(UINT place) const;
+  LONG Long(UINT place) const;
+  bool Flag(UINT place) const;
+  bool IsText(UINT place) const;
+
+  void Give(const std::string& text) const;
+  void Give(double number) const;
+  void GiveLong(LONG number) const;
+  void GiveFlag(bool flag) const;
+  void Give(ComPtr<IDispatch> object) const;
+  void Give(ComPtr<IUnknown> object) const;
+
+ private:
+  const VARIANT& At(UINT place) const;
+  UINT IndexOf(UINT place) const { return given_.cArgs - 1 - place; }
+
+  const DISPPARAMS& given_;
+  LCID lcid_;
+  VARIANT* result_;
+};
+
+}  // namespace orvendal

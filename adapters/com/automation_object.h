@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+
+#include "adapters/com/automation_call.h"
+#include "adapters/com/automation_registry.h"
+#include "adapters/com/counted.h"
+#include "platform/base/runtime_error.h"
+
+namespace orvendal {
+
+/// One member of an automation object: what a get or a call does, and what a put does. Either may be missing.
+template <typename Target>
+struct AutomationMember {
+  const wchar_t* name;
+  void (*get)(Target& target, const AutomationCall& call);
+  void (*put)(Target& target, const AutomationCall& call);
+};
+
+/// What our objects that are handed out have in common: members by name through Invoke, errors with number
+/// and description. It never keeps alive what it stands for: after a form is gone, everything answers
+/// error 91.
+class AutomationObject : public Counted<IDispatch, ISupportErrorInfo, IOrvendalObject> {
+ public:
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID lcid, ITypeInfo** info) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID lcid,
+                                          DISPID* ids) noexcept override;
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID iid, LCID lcid, WORD flags, DISPPARAMS* arguments,
+                                   VARIANT* result, EXCEPINFO* exception, UINT* wrong) noexcept override;
+  HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) noexcept override;
+  ObjectRef Target() override { return nullptr; }
+
+  virtual bool IsGone() const = 0;
+
+ protected:
+  /// The member of that name; DISPID_UNKNOWN if there is none.
+  virtual DISPID IdOf(const wchar_t* name) = 0;
+  /// False if there is no such member, or none for that.
+  virtual bool Get(DISPID member, const AutomationCall& call) = 0;
+  virtual bool Put(DISPID member, const AutomationCall& call) = 0;
+  /// The private interface that it answers to besides; GUID_NULL for none.
+  virtual GUID PrivateInterface() const { return GUID_NULL; }
+
+  // For tables: the member at index n has the DISPID n + 1.
+  template <typename Target, std::size_t kSize>
+  static DISPID IdIn(const AutomationMember<Target> (&table)[kSize], const wchar_t* name) {
+    for (std::size_t index = 0; index < kSize; ++index) {
+      if (SameName(table[index].name, name)) return static_cast<DISPID>(index + 1);
+    }
+    return DISPID_UNKNOWN;
+  }
+  template <typename Target, std::size_t kSize>
+  static const AutomationMember<Target>* MemberIn(const AutomationMember<Target> (&table)[kSize],
+                                                  DISPID member) {
+    const bool there = member >= 1 && static_cast<std::size_t>(member) <= kSize;
+    return there ? &table[member - 1] : nullptr;
+  }
+  static bool SameName(const wchar_t* left, const wchar_t* right);
+};
+
+}  // namespace orvendal

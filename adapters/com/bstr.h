@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "adapters/com/com_headers.h"
+
+namespace orvendal {
+
+/// Between the texts of the core and those of Automation. What is no text becomes U+FFFD. A text with
+/// characters of value zero in it keeps them; a null BSTR is the empty text.
+std::wstring WideText(std::string_view utf8);
+std::string Utf8Text(std::wstring_view wide);
+std::string TextOfBstr(BSTR text);
+/// The caller frees it with SysFreeString. Throws std::bad_alloc.
+[[nodiscard]] BSTR MakeBstr(std::string_view utf8);
+
+/// A BSTR of its own, for in-out arguments: the other side may free what stands there and put another.
+class BstrCell {
+ public:
+  BstrCell() = default;
+  explicit BstrCell(std::string_view utf8) : text_(MakeBstr(utf8)) {}
+  BstrCell(const BstrCell&) = delete;
+  BstrCell& operator=(const BstrCell&) = delete;
+  ~BstrCell() { SysFreeString(text_); }
+
+  BSTR Get() const { return text_; }
+  BSTR* InOut() { return &text_; }
+  std::string Text() const { return TextOfBstr(text_); }
+
+ private:
+  BSTR text_ = nullptr;
+};
+
+}  // namespace orvendal

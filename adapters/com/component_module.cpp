@@ -1,0 +1,109 @@
+#include "adapters/com/component_module.h"
+
+#include <algorithm>
+#include <mutex>
+#include <vector>
+
+#include "DllTrevano.h"
+#include "adapters/com/com_library.h"
+#include "adapters/com/com_session.h"
+#include "adapters/com/error_boundary.h"
+#include "adapters/com/module_lifetime.h"
+#include "adapters/com/module_parts.h"
+#include "adapters/com/object_bridge.h"
+#include "component/class_orvendal.h"
+#include "component/component_state.h"
+#include "form/frm_orvendalciales.h"
+
+namespace orvendal {
+namespace {
+
+ComponentModule module_instance;
+std::mutex loading;
+
+/// The module stays mapped as long as there are windows of it.
+HMODULE PinOwnModule() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS, reinterpret_cast<LPCWSTR>(&module_instance),
+                     &module);
+  return module;
+}
+
+}  // namespace
+
+struct ComponentModule::Loaded {
+  explicit Loaded(ModuleParts made)
+      : parts(std::move(made)),
+        objects(*parts.windows, parts.native_window),
+        boundary{*parts.windows, *parts.store, objects},
+        library(boundary),
+        state({*parts.windows, *parts.recordsets, library}) {}
+
+  bool HasForm() {
+    std::erase_if(forms, [](const std::weak_ptr<Form>& form) { return form.expired(); });
+    return state.form || !forms.empty();
+  }
+  void Remember(const std::shared_ptr<Form>& form) {
+    const bool known = std::any_of(forms.begin(), forms.end(),
+                                   [&](const std::weak_ptr<Form>& other) { return other.lock() == form; });
+    if (form && !known) forms.push_back(form);
+  }
+
+  const DWORD thread = GetCurrentThreadId();
+  ModuleParts parts;
+  ObjectBridge objects;
+  Boundary boundary;
+  ComLibrary library;
+  ComponentState state;
+  std::vector<std::weak_ptr<Form>> forms;  // all that were ever shown, the gone ones swept now and then
+  HMODULE pin = PinOwnModule();
+};
+
+ComponentModule& ComponentModule::Instance() noexcept {
+  return module_instance;
+}
+
+ComponentModule::Loaded& ComponentModule::LoadedState() {
+  const std::lock_guard<std::mutex> guard(loading);
+  if (!loaded_) loaded_ = new Loaded(MakeModuleParts());
+  if (loaded_->thread != GetCurrentThreadId()) {
+    ForgetErrorInformation();
+    throw ErrorOfResult(RPC_E_WRONG_THREAD);
+  }
+  return *loaded_;
+}
+
+bool ComponentModule::Orvendal(_DatosClase* datos_clase, const std::string& suc, const std::string& puest,
+                               const std::string& turn) {
+  const module_lifetime::Hold hold;
+  Loaded& loaded = LoadedState();
+  DatosClaseRef session;
+  if (datos_clase) session = std::make_shared<ComSession>(loaded.boundary, datos_clase);
+  struct RememberForm {
+    Loaded& loaded;
+    ~RememberForm() { loaded.Remember(loaded.state.form); }
+  } const remember{loaded};
+  return ClassOrvendal(loaded.state).Orvendal(session, suc, puest, turn);
+}
+
+bool ComponentModule::LetGoIfUnused() noexcept {
+  if (!module_lifetime::IsFree()) return false;
+  Loaded* dropped = nullptr;
+  {
+    const std::lock_guard<std::mutex> guard(loading);
+    if (!loaded_) return module_lifetime::IsFree();
+    if (loaded_->thread != GetCurrentThreadId() || loaded_->HasForm()) return false;
+    dropped = std::exchange(loaded_, nullptr);
+  }
+  const HMODULE pin = dropped->pin;
+  {
+    // What the session holds may ask again whether the module can go while it is let go itself.
+    const module_lifetime::Hold hold;
+    delete dropped;
+  }
+  const bool free = module_lifetime::IsFree();
+  if (pin) FreeLibrary(pin);  // the caller's own reference remains
+  return free;
+}
+
+}  // namespace orvendal

@@ -1,0 +1,136 @@
+#include "adapters/com/controls_automation.h"
+
+#include <new>
+
+#include "adapters/com/control_automation.h"
+#include "adapters/com/error_boundary.h"
+#include "adapters/com/variant.h"
+#include "platform/base/text.h"
+
+namespace orvendal {
+namespace {
+
+constexpr DISPID kCount = 1;
+constexpr std::int32_t kNoSuchControl = 730;
+
+/// A walk over the controls of a form.
+class ControlWalk final : public Counted<IEnumVARIANT> {
+ public:
+  ControlWalk(const std::shared_ptr<AutomationRegistry>& registry, const std::weak_ptr<Form>& form,
+              std::size_t position)
+      : registry_(registry), form_(form), position_(position) {}
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override {
+    if (!object) return E_POINTER;
+    *object = nullptr;
+    if (iid != IID_IUnknown && iid != IID_IEnumVARIANT) return E_NOINTERFACE;
+    AddRef();
+    *object = static_cast<IEnumVARIANT*>(this);
+    return S_OK;
+  }
+
+  HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* values, ULONG* fetched) noexcept override {
+    if (!values || (!fetched && count != 1)) return E_POINTER;
+    if (fetched) *fetched = 0;
+    ULONG given = 0;
+    const HRESULT result = Guarded(IID_IEnumVARIANT, [&] {
+      const std::shared_ptr<Form> form = form_.lock();
+      if (!form) throw RuntimeError(error_number::kObjectNotSet);
+      for (; given < count && position_ < form->Controls().size(); ++given, ++position_) {
+        VariantInit(&values[given]);
+        WriteObject(values[given], ControlAutomation::Of(registry_, *form->Controls()[position_]));
+      }
+    });
+    if (fetched) *fetched = given;
+    if (FAILED(result)) return result;
+    return given == count ? S_OK : S_FALSE;
+  }
+
+  HRESULT STDMETHODCALLTYPE Skip(ULONG count) noexcept override {
+    const std::shared_ptr<Form> form = form_.lock();
+    const std::size_t size = form ? form->Controls().size() : 0;
+    const bool enough = position_ <= size && count <= size - position_;
+    position_ = enough ? position_ + count : size;
+    return enough ? S_OK : S_FALSE;
+  }
+
+  HRESULT STDMETHODCALLTYPE Reset() noexcept override {
+    position_ = 0;
+    return S_OK;
+  }
+
+  HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT** copy) noexcept override {
+    if (!copy) return E_POINTER;
+    *copy = new (std::nothrow) ControlWalk(registry_, form_, position_);
+    return *copy ? S_OK : E_OUTOFMEMORY;
+  }
+
+ private:
+  std::shared_ptr<AutomationRegistry> registry_;
+  std::weak_ptr<Form> form_;
+  std::size_t position_;
+};
+
+}  // namespace
+
+ComPtr<ControlsAutomation> ControlsAutomation::Of(const std::shared_ptr<AutomationRegistry>& registry,
+                                                  Form& form) {
+  return ComPtr<ControlsAutomation>::Adopt(new ControlsAutomation(registry, form));
+}
+
+ControlsAutomation::ControlsAutomation(const std::shared_ptr<AutomationRegistry>& registry, Form& form)
+    : registry_(registry), form_(std::static_pointer_cast<Form>(form.shared_from_this())) {}
+
+std::shared_ptr<Form> ControlsAutomation::Living() const {
+  std::shared_ptr<Form> form = form_.lock();
+  if (!form) throw RuntimeError(error_number::kObjectNotSet);
+  return form;
+}
+
+void ControlsAutomation::GiveItem(const AutomationCall& call) {
+  call.Expect(1, 1);
+  const std::shared_ptr<Form> form = Living();
+  Control* found = nullptr;
+  if (call.IsText(0)) {
+    const std::string name = call.Text(0);
+    for (Control* const control : form->Controls()) {
+      if (EqualsIgnoringCase(control->FullName(), name)) found = control;
+    }
+    if (!found) throw RuntimeError(kNoSuchControl, "Control '" + name + "' not found");
+  } else {
+    const LONG position = call.Long(0);
+    if (position < 0 || static_cast<std::size_t>(position) >= form->Controls().size()) {
+      throw RuntimeError(error_number::kSubscriptOutOfRange);
+    }
+    found = form->Controls()[static_cast<std::size_t>(position)];
+  }
+  call.Give(ControlAutomation::Of(registry_, *found));
+}
+
+DISPID ControlsAutomation::IdOf(const wchar_t* name) {
+  if (SameName(name, L"Count")) return kCount;
+  if (SameName(name, L"Item")) return DISPID_VALUE;
+  return SameName(name, L"_NewEnum") ? DISPID_NEWENUM : DISPID_UNKNOWN;
+}
+
+bool ControlsAutomation::Get(DISPID member, const AutomationCall& call) {
+  switch (member) {
+    case kCount:
+      call.GiveLong(static_cast<LONG>(Living()->Controls().size()));
+      return true;
+    case DISPID_VALUE:
+      GiveItem(call);
+      return true;
+    case DISPID_NEWENUM:
+      call.Give(ComPtr<IUnknown>::Adopt(new ControlWalk(registry_, Living(), 0)));
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool ControlsAutomation::Put(DISPID /*member*/, const AutomationCall& /*call*/) {
+  return false;
+}
+
+}  // namespace orvendal

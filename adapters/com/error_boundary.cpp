@@ -1,0 +1,118 @@
+#include "adapters/com/error_boundary.h"
+
+#include <exception>
+#include <new>
+#include <string>
+
+#include "adapters/com/bstr.h"
+#include "adapters/com/com_ptr.h"
+#include "adapters/com/identity.h"
+
+namespace orvendal {
+namespace {
+
+constexpr std::uint32_t kAutomationErrors = 0x800A0000;
+constexpr std::int32_t kLargestNumber = 0xFFFF;
+constexpr std::int32_t kOutOfMemory = 7;
+
+struct Failure {
+  HRESULT result = E_UNEXPECTED;
+  std::string description;
+};
+
+Failure CurrentFailure() {
+  try {
+    throw;
+  } catch (const RuntimeError& error) {
+    return {HresultOfNumber(error.Number()), error.Description()};
+  } catch (const std::bad_alloc&) {
+    return {HresultOfNumber(kOutOfMemory), "Out of memory"};
+  } catch (const std::exception& error) {
+    return {HresultOfNumber(error_number::kInternal), std::string("Internal error: ") + error.what()};
+  } catch (...) {
+    return {HresultOfNumber(error_number::kInternal), "Internal error"};
+  }
+}
+
+void LeaveErrorInformation(REFIID iid, const std::string& description) {
+  ComPtr<ICreateErrorInfo> made;
+  if (FAILED(CreateErrorInfo(made.Receive()))) return;
+  const BstrCell text(description);
+  made->SetGUID(iid);
+  made->SetSource(const_cast<LPOLESTR>(identity::kProject));
+  made->SetDescription(text.Get());
+  if (const auto info = made.Query<IErrorInfo>(IID_IErrorInfo)) SetErrorInfo(0, info.Get());
+}
+
+std::string SystemDescription(HRESULT result) {
+  wchar_t* text = nullptr;
+  const DWORD length = FormatMessageW(
+      FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+      static_cast<DWORD>(result), 0, reinterpret_cast<LPWSTR>(&text), 0, nullptr);
+  std::wstring_view line(text ? text : L"", length);
+  while (!line.empty() && (line.back() == L'\n' || line.back() == L'\r' || line.back() == L' ')) {
+    line.remove_suffix(1);
+  }
+  const std::string description = line.empty() ? "Automation error" : Utf8Text(line);
+  LocalFree(text);
+  return description;
+}
+
+}  // namespace
+
+HRESULT HresultOfNumber(std::int32_t number) noexcept {
+  if (number < 0) return number;
+  if (number == 0 || number > kLargestNumber) number = error_number::kInternal;
+  return static_cast<HRESULT>(kAutomationErrors + static_cast<std::uint32_t>(number));
+}
+
+std::int32_t NumberOfHresult(HRESULT result) noexcept {
+  const auto bits = static_cast<std::uint32_t>(result);
+  const bool automation = (bits & 0xFFFF0000U) == kAutomationErrors && (bits & 0xFFFFU) != 0;
+  return automation ? static_cast<std::int32_t>(bits & 0xFFFFU) : result;
+}
+
+HRESULT ReportCurrentException(REFIID iid) noexcept {
+  try {
+    const Failure failure = CurrentFailure();
+    LeaveErrorInformation(iid, failure.description);
+    return failure.result;
+  } catch (...) {
+    return E_OUTOFMEMORY;
+  }
+}
+
+HRESULT FillExceptionInfo(EXCEPINFO* info) noexcept {
+  try {
+    const Failure failure = CurrentFailure();
+    if (info) {
+      BSTR description = MakeBstr(failure.description);
+      *info = {};
+      info->scode = failure.result;
+      info->bstrSource = SysAllocString(identity::kProject);
+      info->bstrDescription = description;
+    }
+    return DISP_E_EXCEPTION;
+  } catch (...) {
+    return E_OUTOFMEMORY;
+  }
+}
+
+void ForgetErrorInformation() noexcept {
+  SetErrorInfo(0, nullptr);
+}
+
+RuntimeError ErrorOfResult(HRESULT result) {
+  const std::int32_t number = NumberOfHresult(result);
+  ComPtr<IErrorInfo> info;
+  BstrCell description;
+  if (GetErrorInfo(0, info.Receive()) == S_OK && info) info->GetDescription(description.InOut());
+  if (SysStringLen(description.Get()) > 0) return RuntimeError(number, description.Text());
+  return number > 0 ? RuntimeError(number) : RuntimeError(number, SystemDescription(result));
+}
+
+void Check(HRESULT result) {
+  if (FAILED(result)) throw ErrorOfResult(result);
+}
+
+}  // namespace orvendal

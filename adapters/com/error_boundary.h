@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <utility>
+
+#include "adapters/com/com_headers.h"
+#include "platform/base/runtime_error.h"
+
+namespace orvendal {
+
+// Where errors change their form. Numbers 1 to 65535 are 0x800A0000 + n on the wire; the codes of data
+// providers and of the system, negative as numbers, are the same on both sides.
+
+[[nodiscard]] HRESULT HresultOfNumber(std::int32_t number) noexcept;
+[[nodiscard]] std::int32_t NumberOfHresult(HRESULT result) noexcept;
+
+/// To be called while an exception is handled: its HRESULT, with source "DllOrvendal" and its description
+/// left as the thread's error information for `iid`.
+[[nodiscard]] HRESULT ReportCurrentException(REFIID iid) noexcept;
+/// The same for a client of Invoke: DISP_E_EXCEPTION with `info` filled, if there is one.
+[[nodiscard]] HRESULT FillExceptionInfo(EXCEPINFO* info) noexcept;
+
+/// The body of a COM method: nothing that `body` throws gets out.
+template <typename Body>
+[[nodiscard]] HRESULT Guarded(REFIID iid, Body&& body) noexcept {
+  try {
+    std::forward<Body>(body)();
+    return S_OK;
+  } catch (...) {
+    return ReportCurrentException(iid);
+  }
+}
+
+/// Forgets error information of an earlier call, so that it is not taken for the next one's.
+void ForgetErrorInformation() noexcept;
+/// The error that a failed call of ours stands for, with the thread's error information, which it uses up.
+RuntimeError ErrorOfResult(HRESULT result);
+/// Throws it if `result` is a failure.
+void Check(HRESULT result);
+
+}  // namespace orvendal

@@ -1,0 +1,29 @@
+#include "adapters/com/class_factory.h"
+#include "adapters/com/component_module.h"
+#include "adapters/com/registration.h"
+
+// The four entry points of an in-process server, and a DllMain that does nothing under the loader's lock.
+
+extern "C" {
+
+HRESULT WINAPI DllGetClassObject(REFCLSID class_id, REFIID iid, LPVOID* object) {
+  return orvendal::GetClassFactory(class_id, iid, object);
+}
+
+HRESULT WINAPI DllCanUnloadNow() {
+  return orvendal::ComponentModule::Instance().LetGoIfUnused() ? S_OK : S_FALSE;
+}
+
+HRESULT WINAPI DllRegisterServer() {
+  return orvendal::Register();
+}
+
+HRESULT WINAPI DllUnregisterServer() {
+  return orvendal::Unregister();
+}
+
+BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD /*reason*/, LPVOID /*reserved*/) {
+  return TRUE;
+}
+
+}  // extern "C"

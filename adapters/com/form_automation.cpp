@@ -1,0 +1,175 @@
+#include "adapters/com/form_automation.h"
+
+#include "adapters/com/bstr.h"
+#include "adapters/com/control_automation.h"
+#include "adapters/com/controls_automation.h"
+#include "adapters/com/identity.h"
+
+namespace orvendal {
+namespace {
+
+using Self = FormAutomation;
+using Call = AutomationCall;
+
+/// Controls by name have their position in Controls above this.
+constexpr DISPID kFirstControl = 0x10000;
+constexpr std::int32_t kNoSuchElement = 340;
+
+Form& Of(Self& self) {
+  return self.Living();
+}
+
+void Show(Self& self, const Call& call) {
+  call.Expect(0, 2);
+  const LONG mode = call.Has(0) ? call.Long(0) : 0;
+  if (mode != 0 && mode != 1) throw RuntimeError(error_number::kInvalidProcedureCall);
+  Of(self).Show(mode == 1 ? ShowMode::kModal : ShowMode::kModeless);
+}
+
+void Move(Self& self, const Call& call) {
+  call.Expect(1, 4);
+  Form& form = Of(self);
+  form.Move(call.Number(0), call.Has(1) ? call.Number(1) : form.Top());
+  if (call.Has(2)) form.Width(call.Number(2));
+  if (call.Has(3)) form.Height(call.Number(3));
+}
+
+void PutWindowState(Self& self, const Call& call) {
+  const LONG state = call.Long(0);
+  if (state < 0 || state > 2) throw RuntimeError(error_number::kInvalidPropertyValue);
+  Of(self).WindowState(static_cast<WindowState>(state));
+}
+
+void PutVisible(Self& self, const Call& call) {
+  if (call.Flag(0)) {
+    Of(self).Show();
+  } else {
+    Of(self).Hide();
+  }
+}
+
+void GetActiveControl(Self& self, const Call& call) {
+  Control* const control = Of(self).ActiveControl();
+  call.Give(control ? ControlAutomation::Of(self.SharedRegistry(), *control) : ComPtr<IDispatch>());
+}
+
+void GetControls(Self& self, const Call& call) {
+  ComPtr<ControlsAutomation> controls = ControlsAutomation::Of(self.SharedRegistry(), Of(self));
+  if (call.Count() == 0) {
+    call.Give(ComPtr<IDispatch>(controls.Get()));
+  } else {
+    controls->GiveItem(call);
+  }
+}
+
+const AutomationMember<Self> kMembers[] = {
+    {L"Name", [](Self& self, const Call& call) { call.Give(Of(self).Name()); }, nullptr},
+    {L"Caption", [](Self& self, const Call& call) { call.Give(Of(self).Caption()); },
+     [](Self& self, const Call& call) { Of(self).Caption(call.Text(0)); }},
+    {L"Left", [](Self& self, const Call& call) { call.Give(Of(self).Left()); },
+     [](Self& self, const Call& call) { Of(self).Move(call.Number(0), Of(self).Top()); }},
+    {L"Top", [](Self& self, const Call& call) { call.Give(Of(self).Top()); },
+     [](Self& self, const Call& call) { Of(self).Move(Of(self).Left(), call.Number(0)); }},
+    {L"Width", [](Self& self, const Call& call) { call.Give(Of(self).Width()); },
+     [](Self& self, const Call& call) { Of(self).Width(call.Number(0)); }},
+    {L"Height", [](Self& self, const Call& call) { call.Give(Of(self).Height()); },
+     [](Self& self, const Call& call) { Of(self).Height(call.Number(0)); }},
+    {L"Visible", [](Self& self, const Call& call) { call.GiveFlag(Of(self).Visible()); }, PutVisible},
+    {L"WindowState",
+     [](Self& self, const Call& call) { call.GiveLong(static_cast<LONG>(Of(self).WindowState())); },
+     PutWindowState},
+    {L"BackColor",
+     [](Self& self, const Call& call) { call.GiveLong(static_cast<LONG>(Of(self).BackColor())); },
+     [](Self& self, const Call& call) { Of(self).BackColor(static_cast<ColorWord>(call.Long(0))); }},
+    {L"BorderStyle", [](Self& self, const Call& call) { call.GiveLong(Of(self).BorderStyle()); }, nullptr},
+    {L"KeyPreview", [](Self& self, const Call& call) { call.GiveFlag(Of(self).KeyPreview()); },
+     [](Self& self, const Call& call) { Of(self).KeyPreview(call.Flag(0)); }},
+    {L"hWnd",
+     [](Self& self, const Call& call) {
+       // Handles of windows fit into 32 bits on 64-bit systems too.
+       call.GiveLong(static_cast<LONG>(self.SharedRegistry()->WindowOf(Of(self))));
+     },
+     nullptr},
+    {L"ActiveControl", GetActiveControl, nullptr},
+    {L"Controls", GetControls, nullptr},
+    {L"Show", Show, nullptr},
+    {L"Hide", [](Self& self, const Call& call) { call.Expect(0, 0), Of(self).Hide(); }, nullptr},
+    {L"SetFocus", [](Self& self, const Call& call) { call.Expect(0, 0), Of(self).SetFocus(); }, nullptr},
+    {L"Refresh", [](Self& self, const Call& call) { call.Expect(0, 0), Of(self).Refresh(); }, nullptr},
+    {L"Move", Move, nullptr},
+};
+
+}  // namespace
+
+ComPtr<IDispatch> FormAutomation::Of(const std::shared_ptr<AutomationRegistry>& registry, Form& form) {
+  if (AutomationObject* const known = registry->Find(&form)) return ComPtr<IDispatch>(known);
+  return ComPtr<IDispatch>::Adopt(new FormAutomation(registry, form));
+}
+
+FormAutomation::FormAutomation(const std::shared_ptr<AutomationRegistry>& registry, Form& form)
+    : registry_(registry), form_(std::static_pointer_cast<Form>(form.shared_from_this())), key_(&form) {
+  registry_->Enter(key_, this);
+}
+
+FormAutomation::~FormAutomation() {
+  registry_->Leave(key_, this);
+}
+
+Form& FormAutomation::Living() const {
+  const std::shared_ptr<Form> form = form_.lock();
+  if (!form) throw RuntimeError(error_number::kObjectNotSet);
+  return *form;  // Get and Put keep it for the call
+}
+
+GUID FormAutomation::PrivateInterface() const {
+  return identity::kFormInterface;
+}
+
+DISPID FormAutomation::IdOf(const wchar_t* name) {
+  const DISPID own = IdIn(kMembers, name);
+  const std::shared_ptr<Form> form = form_.lock();
+  if (own != DISPID_UNKNOWN || !form) return own;
+  const std::vector<Control*>& controls = form->Controls();
+  for (std::size_t position = 0; position < controls.size(); ++position) {
+    if (SameName(WideText(controls[position]->Name()).c_str(), name)) {
+      return kFirstControl + static_cast<DISPID>(position);
+    }
+  }
+  return DISPID_UNKNOWN;
+}
+
+void FormAutomation::GiveControl(std::size_t position, const AutomationCall& call) {
+  Form& form = Living();
+  if (position >= form.Controls().size()) throw RuntimeError(error_number::kNoSuchMember);
+  Control* control = form.Controls()[position];
+  call.Expect(control->Index() < 0 ? 0 : 1, control->Index() < 0 ? 0 : 1);
+  if (control->Index() >= 0) {
+    control = form.FindControl(control->Name() + "(" + std::to_string(call.Long(0)) + ")");
+    if (!control) throw RuntimeError(kNoSuchElement, "Control array element doesn't exist");
+  }
+  call.Give(ControlAutomation::Of(registry_, *control));
+}
+
+bool FormAutomation::Get(DISPID member, const AutomationCall& call) {
+  const std::shared_ptr<Form> alive = form_.lock();
+  if (member >= kFirstControl) {
+    GiveControl(static_cast<std::size_t>(member - kFirstControl), call);
+    return true;
+  }
+  if (member == DISPID_VALUE) member = IdIn(kMembers, L"Controls");
+  const AutomationMember<Self>* const entry = MemberIn(kMembers, member);
+  if (!entry || !entry->get) return false;
+  entry->get(*this, call);
+  return true;
+}
+
+bool FormAutomation::Put(DISPID member, const AutomationCall& call) {
+  const std::shared_ptr<Form> alive = form_.lock();
+  const AutomationMember<Self>* const entry = MemberIn(kMembers, member);
+  if (!entry || !entry->put) return false;
+  call.Expect(1, 1);
+  entry->put(*this, call);
+  return true;
+}
+
+}  // namespace orvendal

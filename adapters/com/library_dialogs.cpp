@@ -1,0 +1,157 @@
+#include "adapters/com/library_dialogs.h"
+
+#include "adapters/com/com_library.h"
+#include "adapters/com/com_session.h"
+
+namespace orvendal {
+namespace {
+
+VARIANT_BOOL FlagOf(bool value) {
+  return value ? VARIANT_TRUE : VARIANT_FALSE;
+}
+
+/// A call without anything by reference.
+template <typename Call>
+void CallPlainly(Call&& plain) {
+  CallOut call;
+  call.Answered(plain());
+  call.Finish();
+}
+
+}  // namespace
+
+ComMessages::ComMessages(Boundary& boundary)
+    : boundary_(boundary),
+      object_(CreateLibraryObject<_Mensajes>(__uuidof(::Mensajes), __uuidof(_Mensajes))) {}
+
+void ComMessages::Mostrar(std::string& texto, std::int32_t& estilo, std::string& titulo,
+                          std::int32_t& respuesta) {
+  const ModalScope dialog(boundary_.windows);
+  BstrCell text(texto);
+  LONG style = estilo;
+  BstrCell title(titulo);
+  LONG answer = respuesta;
+  CallOut call;
+  call.Answered(object_->Mostrar(text.InOut(), &style, title.InOut(), &answer));
+  call.Take([&] {
+        texto = text.Text();
+        titulo = title.Text();
+        estilo = style;
+        respuesta = answer;
+      })
+      .Finish();
+}
+
+ComSessionChange::ComSessionChange(Boundary& boundary)
+    : boundary_(boundary),
+      object_(CreateLibraryObject<_CambioSesion>(__uuidof(::CambioSesion), __uuidof(_CambioSesion))) {}
+
+void ComSessionChange::AbrirCambio(ConnectionRef& conexion, Value& dato_pantalla, std::string& cod_sucursal,
+                                   std::string& cod_puesto, std::string& cod_turno, std::int32_t& ancho_base,
+                                   std::int32_t& alto_base, std::int32_t& resultado) {
+  const ModalScope dialog(boundary_.windows);
+  ConnectionCell connection(boundary_, conexion);
+  double screen_datum = dato_pantalla.IsNumber() ? dato_pantalla.Number() : 0.0;
+  BstrCell branch(cod_sucursal);
+  BstrCell workstation(cod_puesto);
+  BstrCell shift(cod_turno);
+  LONG width = ancho_base;
+  LONG height = alto_base;
+  LONG outcome = resultado;
+  CallOut call;
+  call.Answered(object_->AbrirCambio(connection.InOut(), &screen_datum, branch.InOut(), workstation.InOut(),
+                                     shift.InOut(), &width, &height, &outcome));
+  call.Take([&] { connection.TakeOver(conexion); })
+      .Take([&] {
+        dato_pantalla = Value(screen_datum);
+        cod_sucursal = branch.Text();
+        cod_puesto = workstation.Text();
+        cod_turno = shift.Text();
+        ancho_base = width;
+        alto_base = height;
+        resultado = outcome;
+      })
+      .Finish();
+}
+
+ComProductSearch::ComProductSearch(Boundary& boundary)
+    : boundary_(boundary),
+      object_(CreateLibraryObject<_BuscadorProductos>(__uuidof(::BuscadorProductos),
+                                                      __uuidof(_BuscadorProductos))) {}
+
+std::string ComProductSearch::Buscar(DatosClaseRef& datos_sesion, ObjectRef& formulario,
+                                     const std::string& llamador, const std::string& campo,
+                                     const std::string& texto, const std::string& modo, bool& indicador) {
+  const ModalScope dialog(boundary_.windows);
+  const auto sent = std::dynamic_pointer_cast<ComSession>(datos_sesion);
+  ComPtr<_DatosClase> session(sent ? sent->Host() : nullptr);
+  ObjectCell form(boundary_, formulario);
+  BstrCell caller(llamador);
+  BstrCell field(campo);
+  BstrCell start(texto);
+  BstrCell mode(modo);
+  VARIANT_BOOL flag = FlagOf(indicador);
+  BstrCell code;
+  CallOut call;
+  call.Answered(object_->Buscar(session.InOut(), form.InOut(), caller.InOut(), field.InOut(), start.InOut(),
+                                mode.InOut(), &flag, code.InOut()));
+  call.Take([&] {
+        if (session.Get() == (sent ? sent->Host() : nullptr)) return;
+        datos_sesion = session ? std::make_shared<ComSession>(boundary_, session.Get()) : nullptr;
+      })
+      .Take([&] { form.TakeOver(formulario); })
+      .Take([&] { indicador = flag != VARIANT_FALSE; })
+      .Finish();
+  return code.Text();
+}
+
+ComEmployeePicker::ComEmployeePicker(Boundary& boundary)
+    : boundary_(boundary),
+      object_(CreateLibraryObject<_SelectorEmpleado>(__uuidof(::SelectorEmpleado),
+                                                     __uuidof(_SelectorEmpleado))) {}
+
+void ComEmployeePicker::ParaNuevo(bool value) {
+  CallPlainly([&] { return object_->put_ParaNuevo(FlagOf(value)); });
+}
+
+bool ComEmployeePicker::Aceptado() {
+  VARIANT_BOOL value = VARIANT_FALSE;
+  CallPlainly([&] { return object_->get_Aceptado(&value); });
+  return value != VARIANT_FALSE;
+}
+
+void ComEmployeePicker::Aceptado(bool value) {
+  CallPlainly([&] { return object_->put_Aceptado(FlagOf(value)); });
+}
+
+void ComEmployeePicker::OpcionFija(bool value) {
+  CallPlainly([&] { return object_->put_OpcionFija(FlagOf(value)); });
+}
+
+std::string ComEmployeePicker::Codigo() {
+  BstrCell value;
+  CallPlainly([&] { return object_->get_Codigo(value.InOut()); });
+  return value.Text();
+}
+
+std::string ComEmployeePicker::Nombre() {
+  BstrCell value;
+  CallPlainly([&] { return object_->get_Nombre(value.InOut()); });
+  return value.Text();
+}
+
+void ComEmployeePicker::Nombre(const std::string& value) {
+  const BstrCell text(value);
+  CallPlainly([&] { return object_->put_Nombre(text.Get()); });
+}
+
+void ComEmployeePicker::Elegir(ConnectionRef& conexion, std::string& cod_sucursal) {
+  const ModalScope dialog(boundary_.windows);
+  ConnectionCell connection(boundary_, conexion);
+  BstrCell branch(cod_sucursal);
+  CallOut call;
+  call.Answered(object_->Elegir(connection.InOut(), branch.InOut()));
+  call.Take([&] { connection.TakeOver(conexion); }).Take([&] { cod_sucursal = branch.Text(); }).Finish();
+}
+
+}  // namespace orvendal

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "adapters/com/com_headers.h"
+#include "adapters/com/com_ptr.h"
+#include "platform/data/recordset.h"
+
+namespace orvendal {
+
+/// How connections and recordsets cross the boundary: outside they are ADO's objects, inside the core's.
+class StoreBridge {
+ public:
+  virtual ~StoreBridge() = default;
+  /// Raises error 13 for an object that is none. An empty pointer gives an empty reference, and back.
+  virtual ConnectionRef ConnectionOf(IDispatch* object) = 0;
+  virtual RecordsetRef RecordsetOf(IDispatch* object) = 0;
+  /// The very pointer to ADO's _Connection or _Recordset that callers early-bind to.
+  virtual ComPtr<IDispatch> ObjectOf(const ConnectionRef& connection) = 0;
+  virtual ComPtr<IDispatch> ObjectOf(const RecordsetRef& recordset) = 0;
+};
+
+}  // namespace orvendal

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+#include "adapters/com/com_headers.h"
+#include "adapters/com/com_ptr.h"
+
+namespace orvendal {
+
+/// The module that this code is linked into.
+HMODULE OwnModule() noexcept;
+/// The description of `guid` in the type library that the module carries.
+[[nodiscard]] HRESULT OwnTypeInfo(REFGUID guid, ComPtr<ITypeInfo>& info) noexcept;
+/// Full path of the module. Throws std::bad_alloc, RuntimeError.
+std::wstring OwnPath();
+
+}  // namespace orvendal

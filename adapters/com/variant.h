@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+
+#include "adapters/com/com_headers.h"
+#include "adapters/com/com_ptr.h"
+
+namespace orvendal {
+
+/// A VARIANT of its own, cleared when it goes.
+class Variant {
+ public:
+  Variant() { VariantInit(&value_); }
+  Variant(const Variant&) = delete;
+  Variant& operator=(const Variant&) = delete;
+  ~Variant() { VariantClear(&value_); }
+
+  VARIANT* Address() { return &value_; }
+  const VARIANT& Get() const { return value_; }
+
+ private:
+  VARIANT value_;
+};
+
+/// The value behind any number of references: by value, VT_BYREF, VT_BYREF | VT_VARIANT.
+/// Each of the readers below follows them, converts as Automation does in the locale `lcid`, and answers
+/// DISP_E_TYPEMISMATCH, DISP_E_OVERFLOW or what else the conversion says.
+[[nodiscard]] HRESULT ReadText(const VARIANT& value, LCID lcid, std::string& text);
+[[nodiscard]] HRESULT ReadNumber(const VARIANT& value, LCID lcid, double& number);
+[[nodiscard]] HRESULT ReadLong(const VARIANT& value, LCID lcid, LONG& number);
+[[nodiscard]] HRESULT ReadFlag(const VARIANT& value, LCID lcid, bool& flag);
+/// Nothing gives an empty pointer; what is no object is a mismatch.
+[[nodiscard]] HRESULT ReadObject(const VARIANT& value, ComPtr<IUnknown>& object);
+/// Whether the caller left the argument out.
+bool IsOmitted(const VARIANT& value);
+
+// Writers into an empty VARIANT that the caller owns.
+void WriteText(VARIANT& value, const std::string& text);
+void WriteNumber(VARIANT& value, double number);
+void WriteLong(VARIANT& value, LONG number);
+void WriteFlag(VARIANT& value, bool flag);
+/// Hands over the reference.
+void WriteObject(VARIANT& value, ComPtr<IDispatch> object);
+
+}  // namespace orvendal
