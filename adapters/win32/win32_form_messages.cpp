@@ -209,10 +209,8 @@ void Win32FormWindow::PaintPart(HDC dc, const RECT& part) {
   host_.GuardQuietly([&] {
     DibSurface& surface = host_.Surface(width, height);
     {
-      // A pixel more at each side: edges that round into the part may lie outside it in twips.
       const double pixel = kTwipsPerInch / dpi_;
-      const Rect area{(part.left - 1) * pixel, (part.top - 1) * pixel, (width + 2) * pixel,
-                      (height + 2) * pixel};
+      const Rect area{part.left * pixel, part.top * pixel, width * pixel, height * pixel};
       Win32Canvas canvas(surface, host_.Fonts(), dpi_, part);
       form_.Paint(canvas, area.Intersection({0, 0, form_.Width(), form_.Height()}));
     }

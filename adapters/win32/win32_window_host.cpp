@@ -27,22 +27,22 @@ void Dispatch(MSG& message) {
   DispatchMessageW(&message);
 }
 
+struct WindowSearch {
+  HWND open;
+  std::vector<HWND> found;
+};
+
+BOOL CALLBACK FindToShut(HWND window, LPARAM parameter) noexcept {
+  auto& search = *reinterpret_cast<WindowSearch*>(parameter);
+  if (window != search.open && IsWindowVisible(window) && IsWindowEnabled(window))
+    search.found.push_back(window);
+  return TRUE;
+}
+
 // All windows of this thread but `open` that the user could turn to; they take no input from here on.
 std::vector<HWND> ShutWindows(HWND open) {
-  struct Search {
-    HWND open;
-    std::vector<HWND> found;
-  } search{open, {}};
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM parameter) -> BOOL {
-        auto& running = *reinterpret_cast<Search*>(parameter);
-        if (window != running.open && IsWindowVisible(window) && IsWindowEnabled(window)) {
-          running.found.push_back(window);
-        }
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&search));
+  WindowSearch search{open, {}};
+  EnumThreadWindows(GetCurrentThreadId(), FindToShut, reinterpret_cast<LPARAM>(&search));
   for (const HWND window : search.found) EnableWindow(window, FALSE);
   return search.found;
 }
