@@ -204,7 +204,7 @@ TEST_F(ProductLineTest, AProductThatIsGoneMeanwhileLeavesTheLineAsItWas) {
 TEST_F(ProductLineTest, IsWrittenInItsOrder) {
   Open();
   screen.DoubleClickCell(1, kCode);
-  screen.Type("P1");
+  screen.Type("8400000000017");
   Texts steps;
   screen.form().TxtMSF.OnChange = [&] { steps.push_back("editor " + EditorText(screen)); };
   screen.recordsets.OnOpen([&](const OpenedStatement& statement) {
@@ -216,7 +216,7 @@ TEST_F(ProductLineTest, IsWrittenInItsOrder) {
   screen.recordsets.OnOpen({});
   screen.form().TxtMSF.OnChange = nullptr;
   // Editor, code and description stand before the stock is read; the rest comes after. Then the cursor moves.
-  EXPECT_EQ(steps, (Texts{"P1", "Champú suave", "", "", "", "", "", "", "", "editor 7"}));
+  EXPECT_EQ(steps, (Texts{"editor P1", "P1", "Champú suave", "", "", "", "", "", "", "", "editor 7"}));
 }
 
 TEST_F(ProductLineTest, WritesItsDayInTheFormOfTheRegion) {
