@@ -131,6 +131,31 @@ TEST_F(ScrollStripTest, BeforeAnySaveItsHandlerMeetsAClosedRecordset) {
   }
 }
 
+/// After a failed save the recordset is open: its kind of cursor decides.
+class ScrollStripAfterAFailedSaveTest : public testing::TestWithParam<Dialect> {
+ protected:
+  FormDriver screen{GetParam()};
+};
+
+TEST_P(ScrollStripAfterAFailedSaveTest, ItsHandlerHandsTheValueToTheRecordset) {
+  screen.AddCounts(3);
+  screen.OpenWithStylist();
+  screen.recordsets.FailUpdate(3, -2147217887, "No cabe.");
+  screen.Click("LblGuardar");
+  ASSERT_EQ(screen.form().variables.RsCodigos->State(), kStateOpen);
+  screen.form().ScrollProductos.Max(3);
+  std::int32_t error = 0;
+  try {
+    screen.form().ScrollProductos.Value(2);
+  } catch (const RuntimeError& refused) {
+    error = refused.Number();
+  }
+  EXPECT_EQ(error, GetParam() == Dialect::kJet ? 0 : 3251);
+}
+
+INSTANTIATE_TEST_SUITE_P(BothDialects, ScrollStripAfterAFailedSaveTest,
+                         testing::Values(Dialect::kSqlServer, Dialect::kJet), DialectName);
+
 TEST_F(ScrollStripTest, HasNoBearingOnTheGrid) {
   screen.AddCounts(30);
   screen.OpenWithStylist();
