@@ -27,7 +27,9 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
   // lines.
   const std::string condition = DateConditionOfSave(Session().Conexion, MkFecha.Text(), UserRegion());
   CodigosaRecalcular.Clear();
-  Recordset& rows = RsCodigosEnUso();
+  RsCodigosEnUso();
+  const RecordsetRef held = variables.RsCodigos;  // a host that calls again meanwhile empties the variables
+  Recordset& rows = *held;
   if (rows.State() == kStateOpen) rows.Close();
   std::string statement = statements::DeleteDay(Session().ClaveSucursal(), condition);
   statements::OpenForWriting(rows, statement, Session().Conexion);
@@ -72,7 +74,9 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
 
 // The eight fields of the pending row. Empty cells are filled in the grid itself first.
 void FrmOrvendalciales::FillRow(int row) {
-  Recordset& rows = RsCodigosEnUso();
+  RsCodigosEnUso();
+  const RecordsetRef held = variables.RsCodigos;
+  Recordset& rows = *held;
   const auto cell = [this, row](int column, const std::string& if_empty) {
     if (MSFProductos.TextMatrix(row, column).empty()) MSFProductos.TextMatrix(row, column, if_empty);
     return MSFProductos.TextMatrix(row, column);

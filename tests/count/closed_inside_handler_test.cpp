@@ -221,5 +221,25 @@ TEST_F(ClosedInsideHandlerTest, WithTheFormKeptByTheLibrary) {
   screen.Click("LblGuardar");
 }
 
+/// The library keeps the form, and the host calls again before the handler has ended: it finds everything
+/// new.
+TEST_F(ClosedInsideHandlerTest, AndLoadedAgainInTheMiddleOfASave) {
+  screen.library.KeepForm(true);
+  screen.OpenWithStylist();
+  TypeLine();
+  bool again = false;
+  screen.recordsets.OnOpen([&](const OpenedStatement& statement) {
+    if (!statement.text.starts_with("SELECT Productos.Codigo FROM") || std::exchange(again, true)) return;
+    screen.form().Unload();
+    screen.Open();
+  });
+  screen.Click("LblGuardar");
+  EXPECT_TRUE(again);
+  // The fields of the row go to the recordset of the form's new life, which is closed.
+  expected_errors = {"3704: Operation is not allowed when the object is closed."};
+  EXPECT_TRUE(screen.HasForm());
+  screen.form().Unload();
+}
+
 }  // namespace
 }  // namespace orvendal
