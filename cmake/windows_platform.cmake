@@ -8,7 +8,9 @@ set(ORVENDAL_WINEPREFIX ${PROJECT_BINARY_DIR}/wine_prefix)
 
 target_compile_definitions(orvendal_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN
   WINVER=0x0601 _WIN32_WINNT=0x0601)
-target_compile_options(orvendal_options INTERFACE -g1 -ffunction-sections -fdata-sections)
+# No folder of the building machine goes into what is handed out.
+target_compile_options(orvendal_options INTERFACE -g1 -ffunction-sections -fdata-sections
+  -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
 target_link_options(orvendal_options INTERFACE -Wl,--gc-sections)
 
 include(cmake/windows_module.cmake)

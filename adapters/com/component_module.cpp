@@ -39,9 +39,15 @@ struct ComponentModule::Loaded {
         library(boundary),
         state({*parts.windows, *parts.recordsets, library}) {}
 
-  bool HasForm() {
+  /// Whether a form is loaded, or one that no longer is still has an event of its own under way. The mere
+  /// instance that a failed load or a library leaves behind is none.
+  bool HasLivingForm() {
     std::erase_if(forms, [](const std::weak_ptr<Form>& form) { return form.expired(); });
-    return state.form || !forms.empty();
+    return std::any_of(forms.begin(), forms.end(), [this](const std::weak_ptr<Form>& remembered) {
+      const std::shared_ptr<Form> form = remembered.lock();
+      const long own = form == state.form ? 2 : 1;  // this one, and the global reference
+      return form && (form->IsLoaded() || form.use_count() > own);
+    });
   }
   void Remember(const std::shared_ptr<Form>& form) {
     const bool known = std::any_of(forms.begin(), forms.end(),
@@ -92,7 +98,7 @@ bool ComponentModule::LetGoIfUnused() noexcept {
   {
     const std::lock_guard<std::mutex> guard(loading);
     if (!loaded_) return module_lifetime::IsFree();
-    if (loaded_->thread != GetCurrentThreadId() || loaded_->HasForm()) return false;
+    if (loaded_->thread != GetCurrentThreadId() || loaded_->HasLivingForm()) return false;
     dropped = std::exchange(loaded_, nullptr);
   }
   const HMODULE pin = dropped->pin;

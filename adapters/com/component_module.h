@@ -24,7 +24,7 @@ class ComponentModule {
   bool Orvendal(_DatosClase* datos_clase, const std::string& suc, const std::string& puest,
                 const std::string& turn);
 
-  /// Whether the module can go: no object, lock or call keeps it and no form is alive. Then the state is
+  /// Whether the module can go: no object, lock or call keeps it and no form is loaded. Then the state is
   /// dropped, with every reference that the session holds.
   bool LetGoIfUnused() noexcept;
 

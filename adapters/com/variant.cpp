@@ -14,7 +14,8 @@ const VARIANT& Behind(const VARIANT& value) {
 HRESULT Converted(const VARIANT& value, LCID lcid, VARTYPE type, Variant& converted) {
   const VARIANT& behind = Behind(value);
   if (V_VT(&behind) & (VT_ARRAY | VT_VECTOR)) return DISP_E_TYPEMISMATCH;
-  return VariantChangeTypeEx(converted.Address(), const_cast<VARIANT*>(&behind), lcid, VARIANT_ALPHABOOL, type);
+  return VariantChangeTypeEx(converted.Address(), const_cast<VARIANT*>(&behind), lcid, VARIANT_ALPHABOOL,
+                             type);
 }
 
 }  // namespace
