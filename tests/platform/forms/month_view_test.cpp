@@ -217,6 +217,16 @@ TEST_F(MonthViewTest, TheFormMayBeUnloadedInsideSelChange) {
   EXPECT_EQ(log, "");
 }
 
+TEST_F(MonthViewTest, AnErrorInsideSelChangeIsReportedAndSelectsNoNewDay) {
+  calendar.OnSelChange = [](Date, Date, bool&) { throw RuntimeError(error_number::kObjectNotSet); };
+  stage.Click(calendar, Of(Date(2026, 12, 2)));
+  ASSERT_EQ(stage.host.ReportedErrors().size(), 1U);
+  EXPECT_EQ(stage.host.ReportedErrors()[0].Number(), 91);
+  EXPECT_EQ(calendar.Value(), Date(2026, 11, 10));
+  EXPECT_EQ(calendar.ViewMonth(), Date(2026, 11, 1));
+  EXPECT_EQ(log, "");
+}
+
 TEST_F(MonthViewTest, ADialogInsideSelChangeEndsTheGesture) {
   calendar.OnSelChange = [this](Date, Date, bool&) { const ModalScope dialog(stage.host); };
   stage.DoubleClick(calendar, Of(Date(2026, 11, 17)));

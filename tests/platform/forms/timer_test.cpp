@@ -34,6 +34,17 @@ TEST_F(TimerTest, FiresOnceAnIntervalWhileEnabled) {
   EXPECT_EQ(ticks, 4);
 }
 
+TEST_F(TimerTest, EnablingItAgainBeginsAWholeInterval) {
+  timer.Interval(1000);
+  stage.host.PassTime(600);
+  timer.Enabled(false);
+  timer.Enabled(true);
+  stage.host.PassTime(600);
+  EXPECT_EQ(ticks, 0);
+  stage.host.PassTime(400);
+  EXPECT_EQ(ticks, 1);
+}
+
 TEST_F(TimerTest, AnIntervalOfZeroIsNever) {
   stage.host.PassTime(5000);
   EXPECT_EQ(ticks, 0);
