@@ -10,9 +10,10 @@ using namespace testing_support;
 const Date kToday(2026, 11, 16);
 
 struct Crossing {
-  int column = 0;           // where the editor is open
+  int column = 0;           // of the editor
   int lines_there = 0;      // lines of the day that is picked
   std::int32_t answer = 0;  // to the question of the guard; 0 when nothing was changed before
+  int row = 3;              // of the editor
 };
 
 std::string CrossingName(const testing::TestParamInfo<Crossing>& instance) {
@@ -21,10 +22,10 @@ std::string CrossingName(const testing::TestParamInfo<Crossing>& instance) {
                              : instance.param.answer == message::kNo ? "No"
                                                                      : "Unasked";
   return std::string(columns[instance.param.column]) + "On" + std::to_string(instance.param.lines_there) +
-         "Lines" + answer;
+         "Lines" + answer + "FromLine" + std::to_string(instance.param.row);
 }
 
-/// Today has five lines, the editor is open on the third, and another day is picked.
+/// Today has five lines, the editor is open on one of them, and another day is picked.
 class ChangeOfDayWithEditorTest : public testing::TestWithParam<Crossing> {
  protected:
   ChangeOfDayWithEditorTest() {
@@ -36,7 +37,7 @@ class ChangeOfDayWithEditorTest : public testing::TestWithParam<Crossing> {
   }
   MSFlexGrid& grid() { return screen.form().MSFProductos; }
   void OpenEditor(const std::string& typed) {
-    screen.DoubleClickCell(3, GetParam().column);
+    screen.DoubleClickCell(GetParam().row, GetParam().column);
     screen.Type(typed);
     Forget(screen);
   }
@@ -94,7 +95,8 @@ TEST_P(ChangeOfDayWithEditorTest, GoingOnToAnotherCellWritesNothingOfTheOldDay) 
 
 TEST_P(ChangeOfDayWithEditorTest, TheOldDayKeepsWhatTheAnswerSays) {
   Cross();
-  const bool quantity_saved = GetParam().answer == message::kYes && GetParam().column == kQuantity;
+  const bool quantity_saved =
+      GetParam().answer == message::kYes && GetParam().column == kQuantity && GetParam().row == 3;
   EXPECT_EQ(screen.Sql("SELECT StockActual FROM HistOrvendalcial WHERE IdProducto = 'P12' AND Fecha LIKE "
                        "'2026-11-16%'"),
             quantity_saved ? "77" : "3");
@@ -113,7 +115,10 @@ INSTANTIATE_TEST_SUITE_P(
                     Crossing{kQuantity, 20, 0}, Crossing{kCode, 2, message::kYes},
                     Crossing{kDescription, 3, message::kYes}, Crossing{kQuantity, 3, message::kYes},
                     Crossing{kCode, 3, message::kNo}, Crossing{kDescription, 20, message::kNo},
-                    Crossing{kQuantity, 3, message::kNo}, Crossing{kQuantity, 0, message::kNo}),
+                    Crossing{kQuantity, 3, message::kNo}, Crossing{kQuantity, 0, message::kNo},
+                    // The cursor is on the first line already, so that no event of its own places the editor.
+                    Crossing{kCode, 0, 0, 1}, Crossing{kDescription, 1, 0, 1}, Crossing{kQuantity, 0, 0, 1},
+                    Crossing{kQuantity, 1, 0, 1}, Crossing{kQuantity, 5, message::kNo, 1}),
     CrossingName);
 
 /// The answer Cancel leaves the editor as it is.

@@ -130,8 +130,13 @@ TEST_P(LoadDayTest, ShowsTheEndOfALongDay) {
 }
 
 TEST_P(LoadDayTest, DoesNotScrollWhatIsInView) {
-  Open(5);
+  Open(12);  // the twelfth line shows cut
   EXPECT_EQ(grid().TopRow(), 1);
+}
+
+TEST_P(LoadDayTest, ScrollsToTwelveRowsAboveTheEndForTheFirstLineOutOfView) {
+  Open(13);  // 14 rows when the thirteenth line was written
+  EXPECT_EQ(grid().TopRow(), 2);
 }
 
 TEST_P(LoadDayTest, ShowsOnlyItsBranchAndDay) {
