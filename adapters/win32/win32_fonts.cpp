@@ -2,14 +2,47 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 
 namespace orvendal {
 namespace {
 
 constexpr double kPointsPerInch = 72.0;
+constexpr LONG kLightestBold = 600;
 
 int HeightInPixels(double points, int dpi) {
   return std::max(1, static_cast<int>(std::floor(points * dpi / kPointsPerInch + 0.5)));
+}
+
+struct BoldSearch {
+  bool italic = false;
+  bool has_bold = false;
+  LONG half_bold_weight = 0;
+};
+
+int CALLBACK LookAtFace(const LOGFONTW* face, const TEXTMETRICW* /*metrics*/, DWORD /*kind*/,
+                        LPARAM parameter) noexcept {
+  auto& search = *reinterpret_cast<BoldSearch*>(parameter);
+  if ((face->lfItalic != 0) != search.italic) return 1;
+  const std::wstring_view style = reinterpret_cast<const ENUMLOGFONTEXW*>(face)->elfStyle;
+  if (face->lfWeight >= kLightestBold) {
+    search.has_bold = true;
+  } else if (style.find(L"Demi") != std::wstring_view::npos ||
+             style.find(L"Semi") != std::wstring_view::npos) {
+    search.half_bold_weight = face->lfWeight;
+  }
+  return 1;
+}
+
+// Some families have a half-bold cut for their heaviest and call it normal: asked for something heavier, the
+// system would thicken their light cut.
+void PreferOwnBold(HDC dc, LOGFONTW& wanted) {
+  if (wanted.lfWeight < kLightestBold) return;
+  BoldSearch search;
+  search.italic = wanted.lfItalic != FALSE;
+  LOGFONTW family = wanted;
+  EnumFontFamiliesExW(dc, &family, LookAtFace, reinterpret_cast<LPARAM>(&search), 0);
+  if (!search.has_bold && search.half_bold_weight > 0) wanted.lfWeight = search.half_bold_weight;
 }
 
 }  // namespace
@@ -34,6 +67,7 @@ const Win32Fonts::Kept& Win32Fonts::Entry(const FontSpec& spec, int dpi) {
   wanted.lfCharSet = DEFAULT_CHARSET;
   const std::wstring name = Wide(spec.name);
   name.copy(wanted.lfFaceName, std::min<std::size_t>(name.size(), LF_FACESIZE - 1));
+  PreferOwnBold(dc_, wanted);
   Kept kept;
   kept.font = CreateFontIndirectW(&wanted);
   const HGDIOBJ before = SelectObject(dc_, kept.font);
