@@ -63,10 +63,15 @@ void ComWorld::TearDown() {
   EXPECT_EQ(FakesAlive(), 0) << "references of the host or the library were not given back";
 }
 
-bool ComWorld::LetEverythingGo() {
-  component.Reset();
+bool ComWorld::CanModuleGo() {
   const bool free = ComponentModule::Instance().LetGoIfUnused();
   if (free) windows = nullptr;
+  return free;
+}
+
+bool ComWorld::LetEverythingGo() {
+  component.Reset();
+  const bool free = CanModuleGo();
   host.Reset();
   connection.Reset();
   return free;
@@ -109,8 +114,10 @@ void ComWorld::CloseForm() const {
 
 void ComWorld::EnterLine(const std::string& code, const std::string& quantity) const {
   Robot robot = hands();
-  robot.ClickCell(form().MSFProductos, 1, 0);
-  robot.DoubleClickCell(form().MSFProductos, 1, 0);
+  if (!form().TxtMSF.Visible()) {
+    robot.ClickCell(form().MSFProductos, 1, 0);
+    robot.DoubleClickCell(form().MSFProductos, 1, 0);
+  }
   robot.Type(code + "\n" + quantity + "\n");
 }
 

@@ -41,6 +41,8 @@ class ComWorld : public testing::Test {
   void EnterLine(const std::string& code, const std::string& quantity) const;
   /// Calls that begin with `operation`.
   std::vector<std::string> CallsOf(const std::string& operation) const;
+  /// Asks the module, which drops the component's state if it can go.
+  bool CanModuleGo();
   /// Lets go of what the test itself holds and of the component's state; whether the module could go.
   bool LetEverythingGo();
 

@@ -40,6 +40,7 @@ class InvokeClient {
     return object_->Invoke(IdOf(member), IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, &result,
                            &exception, &wrong);
   }
+  IDispatch* Same() const { return object_.Get(); }
   HRESULT Get(const wchar_t* member, std::vector<VARIANT> arguments = {}) {
     return Call(member, DISPATCH_PROPERTYGET | DISPATCH_METHOD, std::move(arguments));
   }
