@@ -84,7 +84,8 @@ HRESULT AccessibleObject::Give(std::optional<LONG> child, VARIANT* result) {
 HRESULT AccessibleObject::QueryInterface(REFIID id, void** result) noexcept {
   if (result == nullptr) return E_POINTER;
   *result = nullptr;
-  if (IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch) || IsEqualIID(id, IID_IAccessible)) {
+  if (IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch) ||
+      IsEqualIID(id, __uuidof(IAccessible))) {
     *result = static_cast<IAccessible*>(this);
   } else if (IsEqualIID(id, IID_IOleWindow)) {
     *result = static_cast<IOleWindow*>(this);
@@ -111,7 +112,7 @@ HRESULT AccessibleObject::LoadTypeInfo(ITypeInfo** info) noexcept {
   HRESULT result = LoadRegTypeLib(kAccessibilityLibrary, 1, 1, 0, &library);
   if (FAILED(result)) result = LoadTypeLib(L"oleacc.dll", &library);
   if (FAILED(result)) return result;
-  result = library->GetTypeInfoOfGuid(IID_IAccessible, info);
+  result = library->GetTypeInfoOfGuid(__uuidof(IAccessible), info);
   library->Release();
   return result;
 }

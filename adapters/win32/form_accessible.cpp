@@ -42,7 +42,7 @@ Point FormAccessible::PlaceOnForm(POINT inside) const {
 std::optional<LRESULT> FormAccessible::Answer(LONG object, WPARAM wparam) {
   AccessibleObject* asked = object == OBJID_CLIENT ? root_ : HasChild(object) ? ObjectOf(object) : nullptr;
   if (asked == nullptr) return std::nullopt;
-  return LresultFromObject(IID_IAccessible, wparam, static_cast<IAccessible*>(asked));
+  return LresultFromObject(__uuidof(IAccessible), wparam, static_cast<IAccessible*>(asked));
 }
 
 void FormAccessible::PerformLater(std::function<void()> action) {
