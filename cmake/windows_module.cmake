@@ -9,11 +9,10 @@ function(orvendal_split_symbols target)
     COMMENT "Splitting the symbols of ${target} off")
 endfunction()
 
-# A COM DLL <target>.dll: exports by `definitions` (.def) and no other.
+# A COM DLL <target>.dll: exports by `definitions` (.def, full path) and no other.
 function(orvendal_add_com_dll target definitions)
   add_library(${target} MODULE ${definitions} ${ARGN})
-  set_target_properties(${target} PROPERTIES PREFIX "" SUFFIX ".dll" LINK_DEPENDS
-    ${CMAKE_CURRENT_SOURCE_DIR}/${definitions})
+  set_target_properties(${target} PROPERTIES PREFIX "" SUFFIX ".dll" LINK_DEPENDS ${definitions})
   if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     target_link_options(${target} PRIVATE -Wl,--enable-stdcall-fixup)
   endif()

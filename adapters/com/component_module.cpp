@@ -92,22 +92,27 @@ bool ComponentModule::Orvendal(_DatosClase* datos_clase, const std::string& suc,
   return ClassOrvendal(loaded.state).Orvendal(session, suc, puest, turn);
 }
 
+bool ComponentModule::IsFree() const noexcept {
+  return module_lifetime::IsFree() && !(still_in_use_ && still_in_use_());
+}
+
 bool ComponentModule::LetGoIfUnused() noexcept {
   if (!module_lifetime::IsFree()) return false;
   Loaded* dropped = nullptr;
   {
     const std::lock_guard<std::mutex> guard(loading);
-    if (!loaded_) return module_lifetime::IsFree();
+    if (!loaded_) return IsFree();
     if (loaded_->thread != GetCurrentThreadId() || loaded_->HasLivingForm()) return false;
     dropped = std::exchange(loaded_, nullptr);
   }
   const HMODULE pin = dropped->pin;
+  still_in_use_ = dropped->parts.windows_in_use;
   {
     // What the session holds may ask again whether the module can go while it is let go itself.
     const module_lifetime::Hold hold;
     delete dropped;
   }
-  const bool free = module_lifetime::IsFree();
+  const bool free = IsFree();
   if (pin) FreeLibrary(pin);  // the caller's own reference remains
   return free;
 }

@@ -31,9 +31,11 @@ class ComponentModule {
  private:
   struct Loaded;
   Loaded& LoadedState();
+  bool IsFree() const noexcept;
 
   // A plain pointer: nothing may run when the process unmaps the module.
   Loaded* loaded_ = nullptr;
+  bool (*still_in_use_)() = nullptr;  // what the last state's windows left
 };
 
 }  // namespace orvendal

@@ -16,6 +16,9 @@ struct ModuleParts {
   std::unique_ptr<StoreBridge> store;
   /// The native window of a loaded form, as automation gives it out; 0 without one.
   std::intptr_t (*native_window)(WindowHost& windows, const Form& form) = nullptr;
+  /// Whether a window, a procedure of one or an object that describes one still needs the module's code, even
+  /// after the window host is gone. May be nullptr.
+  bool (*windows_in_use)() = nullptr;
 };
 
 /// Called on the user interface's thread, once for each life of the component's state.

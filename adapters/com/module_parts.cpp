@@ -1,0 +1,43 @@
+#include "adapters/com/module_parts.h"
+
+#include "adapters/ado/ado_recordset_factory.h"
+#include "adapters/ado/ado_wrappers.h"
+#include "adapters/com/error_boundary.h"
+#include "adapters/win32/module_use.h"
+#include "adapters/win32/win32_window_host.h"
+
+namespace orvendal {
+namespace {
+
+/// ADO's own objects outside, their wrappers inside.
+class AdoBridge final : public StoreBridge {
+ public:
+  ConnectionRef ConnectionOf(IDispatch* object) override { return object ? WrapConnection(object) : nullptr; }
+  RecordsetRef RecordsetOf(IDispatch* object) override { return object ? WrapRecordset(object) : nullptr; }
+  ComPtr<IDispatch> ObjectOf(const ConnectionRef& connection) override { return Outside(Unwrap(connection)); }
+  ComPtr<IDispatch> ObjectOf(const RecordsetRef& recordset) override { return Outside(Unwrap(recordset)); }
+
+ private:
+  static ComPtr<IDispatch> Outside(IUnknown* object) {
+    // The wrapper hands back the very interface that it was given or made, which derives from IDispatch.
+    return ComPtr<IDispatch>(static_cast<IDispatch*>(object));
+  }
+};
+
+std::intptr_t WindowOf(WindowHost& windows, const Form& form) {
+  return reinterpret_cast<std::intptr_t>(static_cast<Win32WindowHost&>(windows).HandleOf(form));
+}
+
+}  // namespace
+
+ModuleParts MakeModuleParts() {
+  ModuleParts parts;
+  parts.windows = std::make_unique<Win32WindowHost>(Win32HostOptions{});
+  parts.recordsets = std::make_unique<AdoRecordsetFactory>();
+  parts.store = std::make_unique<AdoBridge>();
+  parts.native_window = WindowOf;
+  parts.windows_in_use = ModuleIsInUse;
+  return parts;
+}
+
+}  // namespace orvendal
