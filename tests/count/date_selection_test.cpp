@@ -84,6 +84,16 @@ TEST_P(DateSelectionTest, TheSaveOfAYesRunsWithTheCalendarAheadOfTheDateBox) {
   EXPECT_EQ(seen, (Texts{Text(kToday), Text(kOther), "changing"}));
 }
 
+TEST_P(DateSelectionTest, TheSaveOfAYesKeepsTheHeaderWhateverTheMode) {
+  form().LblSupervisor.Visible(false);  // as if a day could be picked in normal mode
+  TypeLine();
+  screen.library.QueueAnswer(message::kYes);
+  PickDay(screen, kOther);
+  EXPECT_EQ(StoredOn("2026-11-16"), "P10 P1");
+  EXPECT_EQ(form().TxtEmpleado.Text(), "Berta");
+  EXPECT_EQ(form().TxtCodigo.Text(), "E2");
+}
+
 TEST_P(DateSelectionTest, TheDayIsLoadedByTheSaveAndASecondTime) {
   TypeLine();
   screen.library.QueueAnswer(message::kYes);
