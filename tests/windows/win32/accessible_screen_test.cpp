@@ -1,6 +1,10 @@
 #include "tests/windows/win32/real_screen.h"
 
+#include <atomic>
+#include <thread>
+
 #include "adapters/win32/form_accessible.h"
+#include "adapters/win32/module_use.h"
 #include "tests/windows/win32/accessible_client.h"
 
 namespace orvendal {
@@ -239,6 +243,40 @@ TEST_F(AccessibleScreen, AnObjectThatSomebodyKeepsIsNotConnectedAfterTheFormIsGo
   EXPECT_EQ(inside.Object()->get_accFocus(&answer), CO_E_OBJNOTCONNECTED);
   EXPECT_EQ(inside.Object()->accHitTest(5, 5, &answer), CO_E_OBJNOTCONNECTED);
   EXPECT_EQ(inside.Press(), CO_E_OBJNOTCONNECTED);
+}
+
+TEST_F(AccessibleScreen, AReaderOnAnotherThreadReadsTheScreenTooAndLosesItWithTheForm) {
+  const HWND window = screen.Window();
+  std::atomic<int> stage = 0;
+  std::wstring date, title;
+  HRESULT after = S_OK;
+  const auto read = [&] {
+    const ComApartment own;
+    const Seen outside = Seen::Of(window);
+    if (!outside.Exists()) return;
+    date = outside.ChildNamed(L"Fecha", ROLE_SYSTEM_TEXT).Value();
+    const Seen grid = outside.ChildNamed(L"Existencias iniciales", ROLE_SYSTEM_TABLE);
+    if (grid.Exists()) title = grid.Children().at(1).Value();
+    stage = 1;
+    while (stage == 1) Sleep(5);
+    BSTR name = nullptr;
+    after = outside.Object()->get_accName(Child(CHILDID_SELF), &name);
+  };
+  std::thread reader([&] {
+    read();
+    stage = 3;
+  });
+  PumpUntil([&] { return stage != 0; });
+  screen.Screen().OnUnload = nullptr;
+  screen.Screen().Unload();
+  if (stage == 1) stage = 2;
+  PumpUntil([&] { return stage == 3; });
+  reader.join();
+  EXPECT_EQ(date, L"16/11/2026");
+  EXPECT_EQ(title, L"Descripción");
+  EXPECT_TRUE(FAILED(after));
+  inside = {};
+  EXPECT_FALSE(ModuleIsInUse()) << "the reader outside keeps nothing alive";
 }
 
 TEST_F(AccessibleScreen, TheFocusIsAnnouncedWhereverItGoes) {
