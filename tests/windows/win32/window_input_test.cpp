@@ -1,8 +1,11 @@
+#include "tests/windows/win32/win32_fixture.h"
+
+#include <imm.h>
+
 #include <algorithm>
 #include <stdexcept>
 
 #include "platform/forms/keys.h"
-#include "tests/windows/win32/win32_fixture.h"
 
 namespace orvendal {
 namespace {
@@ -300,6 +303,21 @@ TEST_F(WindowInputOnWindows, TheCaretOfTheSystemStandsWhereTheTextGoesOn) {
   Key(VK_TAB);
   caret();
   EXPECT_EQ(info.hwndCaret, nullptr) << "a picture has no caret";
+}
+
+TEST_F(WindowInputOnWindows, AnInputMethodWritesAtTheCaret) {
+  ShowForm();
+  Key('W');
+  Key('W');
+  const HIMC context = ImmGetContext(Window());
+  ASSERT_NE(context, nullptr);
+  COMPOSITIONFORM place{};
+  EXPECT_TRUE(ImmGetCompositionWindow(context, &place));
+  ImmReleaseContext(Window(), context);
+  const Rect caret = *form->CaretRectangle();
+  EXPECT_EQ(place.dwStyle, static_cast<DWORD>(CFS_POINT));
+  EXPECT_EQ(place.ptCurrentPos.x, static_cast<LONG>(caret.left / kTwipsPerPixel));
+  EXPECT_EQ(place.ptCurrentPos.y, static_cast<LONG>(caret.top / kTwipsPerPixel));
 }
 
 TEST_F(WindowInputOnWindows, WithoutTheKeyboardThereIsNoCaret) {
