@@ -5,6 +5,7 @@
 #include "adapters/com/component_module.h"
 #include "adapters/com/identity.h"
 #include "adapters/com/module_parts.h"
+#include "tests/windows/com/text_balance.h"
 
 namespace orvendal {
 namespace {
@@ -35,6 +36,7 @@ ModuleParts MakeModuleParts() {
 ComWorld::ComWorld() {
   CoInitialize(nullptr);
   FakesAlive() = 0;
+  ForgetLiveTexts();
   hidden = {&source.clock, &windows};
   library.emplace(behaviour);
   host = MakeFake<FakeHost>();
@@ -60,6 +62,7 @@ void ComWorld::TearDown() {
     CloseForm();
   }
   EXPECT_TRUE(LetEverythingGo()) << "something keeps the module";
+  EXPECT_EQ(LiveTexts(), 0U) << "texts were not freed";
   EXPECT_EQ(FakesAlive(), 0) << "references of the host or the library were not given back";
 }
 

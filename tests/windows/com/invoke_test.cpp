@@ -10,11 +10,6 @@ constexpr HRESULT kError91 = static_cast<HRESULT>(0x800A005B);
 
 class InvokeTest : public ComWorld {
  protected:
-  ~InvokeTest() override {
-    SysFreeString(branch);
-    SysFreeString(station);
-    SysFreeString(turn);
-  }
   HRESULT CallWith(std::vector<VARIANT> arguments, std::vector<DISPID> names = {}) {
     client.emplace(component.Get());
     return client->Call(L"Orvendal", DISPATCH_METHOD, std::move(arguments), std::move(names));
@@ -22,6 +17,7 @@ class InvokeTest : public ComWorld {
   VARIANT HostObject() const { return Argument(static_cast<IDispatch*>(host.Get())); }
   void TearDown() override {
     client.reset();
+    for (BSTR text : {branch, station, turn}) SysFreeString(text);
     ComWorld::TearDown();
   }
 

@@ -1,5 +1,6 @@
 #include "tests/windows/com/com_world.h"
 #include "tests/windows/com/script_engine.h"
+#include "tests/windows/com/text_balance.h"
 
 namespace orvendal {
 namespace {
@@ -9,6 +10,10 @@ using Lines = std::vector<std::string>;
 /// VBScript as the client: it knows nothing of the component but the name of its function.
 class ScriptClientTest : public ComWorld {
  protected:
+  void TearDown() override {
+    ForgetLiveTexts();  // the engine frees the results that it gets
+    ComWorld::TearDown();
+  }
   Lines Run(const std::wstring& text) {
     const auto notes = MakeFake<ScriptNotes>();
     ScriptEngine engine(
