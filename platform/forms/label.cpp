@@ -68,8 +68,8 @@ void Label::Fit() {
        Host().LineHeight(font) + borders);
 }
 
-// A design was measured with the fonts of its own desktop, and its sizes stay. Where this desktop's letters are a
-// little wider, an AutoSize label is written a little smaller rather than cut.
+// A design was measured with the fonts of its own desktop, and its sizes stay. Where this desktop's letters
+// are a little wider, an AutoSize label is written a little smaller rather than cut.
 FontSpec Label::FittingFont(double width) const {
   constexpr double kMostShrinking = 0.85;
   FontSpec font = Font().Spec();
