@@ -97,7 +97,7 @@ bool TextPattern::Matches(std::string_view value) const {
   std::size_t at = 0;
   std::size_t element = 0;
   std::size_t retry_element = kNone;  // after the last "%" met
-  std::size_t retry_at = 0;           // where the text that this "%" swallows ends for now
+  std::size_t retry_at = 0;           // where the text that this "%" swallows ends so far
   while (true) {
     if (element < elements_.size() && elements_[element].kind == Kind::kAnyText) {
       retry_element = ++element;

@@ -34,7 +34,9 @@ TEST(TextTest, LettersOfTheLanguagesFoldToLowerCase) {
   EXPECT_FALSE(EqualsIgnoringCase("champ", "champú"));
 }
 
-TEST(TextTest, SearchFoldsAccentsToo) { EXPECT_EQ(FoldForSearch("CHAMPÚ Niño"), "champu nino"); }
+TEST(TextTest, SearchFoldsAccentsToo) {
+  EXPECT_EQ(FoldForSearch("CHAMPÚ Niño"), "champu nino");
+}
 
 TEST(TextTest, CharactersGoThereAndBack) {
   for (const char32_t character : {U'a', U'ñ', U'€', U'\U0001F600'}) {
