@@ -48,6 +48,22 @@ void PutVisible(Self& self, const Call& call) {
   }
 }
 
+HWND WindowOf(Self& self) {
+  const auto window = reinterpret_cast<HWND>(self.SharedRegistry()->WindowOf(Of(self)));
+  return IsWindow(window) ? window : nullptr;
+}
+
+/// A library that opens a window of its own switches this one off meanwhile.
+void GetEnabled(Self& self, const Call& call) {
+  const HWND window = WindowOf(self);
+  call.GiveFlag(!window || IsWindowEnabled(window));
+}
+
+void PutEnabled(Self& self, const Call& call) {
+  const bool enabled = call.Flag(0);
+  if (const HWND window = WindowOf(self)) EnableWindow(window, enabled ? TRUE : FALSE);
+}
+
 void GetActiveControl(Self& self, const Call& call) {
   Control* const control = Of(self).ActiveControl();
   call.Give(control ? ControlAutomation::Of(self.SharedRegistry(), *control) : ComPtr<IDispatch>());
@@ -75,6 +91,7 @@ const AutomationMember<Self> kMembers[] = {
     {L"Height", [](Self& self, const Call& call) { call.Give(Of(self).Height()); },
      [](Self& self, const Call& call) { Of(self).Height(call.Number(0)); }},
     {L"Visible", [](Self& self, const Call& call) { call.GiveFlag(Of(self).Visible()); }, PutVisible},
+    {L"Enabled", GetEnabled, PutEnabled},
     {L"WindowState",
      [](Self& self, const Call& call) { call.GiveLong(static_cast<LONG>(Of(self).WindowState())); },
      PutWindowState},
