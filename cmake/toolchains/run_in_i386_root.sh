@@ -12,7 +12,8 @@ exec unshare --mount --propagation private sh -eu -c '
   root=$1
   shift
   mount -t proc proc "$root/proc"
-  for folder in $ORVENDAL_SHARED_FOLDERS "$WINEPREFIX" /tmp/.X11-unix; do
+  display=${XAUTHORITY:-/tmp/.X11-unix/none}
+  for folder in $ORVENDAL_SHARED_FOLDERS "$WINEPREFIX" /tmp/.X11-unix "${display%/*}"; do
     if [ -d "$folder" ]; then
       mkdir -p "$root$folder"
       mount --bind "$folder" "$root$folder"
