@@ -203,6 +203,11 @@ void Win32FormWindow::Hide() {
 
 void Win32FormWindow::Raise() {
   if (window_ == nullptr || form_.WindowState() == WindowState::kMinimized) return;
+  // Behind a dialog it is the dialog that comes to the front and keeps the keyboard.
+  if (!IsWindowEnabled(window_)) {
+    SetForegroundWindow(GetLastActivePopup(window_));
+    return;
+  }
   SetForegroundWindow(window_);
   BringWindowToTop(window_);
   SetFocus(window_);

@@ -117,6 +117,24 @@ TEST_F(HostOnWindows, AModalFormHoldsTheCallerAndShutsAllOtherWindows) {
   dialog->Unload();
 }
 
+TEST_F(HostOnWindows, AFormThatIsRaisedBehindADialogLeavesTheDialogTheKeyboard) {
+  ShowForm();
+  auto dialog = std::make_shared<ProbeForm>(host);
+  bool dialog_active = false, dialog_focused = false;
+  form->left.OnClick = [&] {
+    Later([&] {
+      form->Show();
+      dialog_active = GetActiveWindow() == host.HandleOf(*dialog);
+      dialog_focused = GetFocus() == host.HandleOf(*dialog);
+      dialog->Unload();
+    });
+    dialog->Show(ShowMode::kModal);
+  };
+  Click(10, 10);
+  EXPECT_TRUE(dialog_active);
+  EXPECT_TRUE(dialog_focused);
+}
+
 TEST_F(HostOnWindows, TheOwnerIsOpenBeforeTheDialogsWindowGoes) {
   ShowForm();
   auto dialog = std::make_shared<ProbeForm>(host);
