@@ -1,6 +1,6 @@
 #include "adapters/com/automation_call.h"
 
-#include "adapters/com/variant.h"
+#include "adapters/automation/variant.h"
 
 namespace orvendal {
 namespace {

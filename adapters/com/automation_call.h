@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "adapters/com/com_headers.h"
-#include "adapters/com/com_ptr.h"
+#include "adapters/automation/com_headers.h"
+#include "adapters/automation/com_ptr.h"
 
 namespace orvendal {
 

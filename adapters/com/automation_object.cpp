@@ -1,6 +1,6 @@
 #include "adapters/com/automation_object.h"
 
-#include "adapters/com/error_boundary.h"
+#include "adapters/automation/error_boundary.h"
 
 namespace orvendal {
 

@@ -2,9 +2,9 @@
 
 #include <memory>
 
+#include "adapters/automation/counted.h"
 #include "adapters/com/automation_call.h"
 #include "adapters/com/automation_registry.h"
-#include "adapters/com/counted.h"
 #include "platform/base/runtime_error.h"
 
 namespace orvendal {

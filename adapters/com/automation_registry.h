@@ -4,7 +4,7 @@
 #include <map>
 #include <memory>
 
-#include "adapters/com/com_headers.h"
+#include "adapters/automation/com_headers.h"
 #include "platform/base/object.h"
 #include "platform/forms/form.h"
 

@@ -4,10 +4,10 @@
 #include <optional>
 #include <utility>
 
-#include "adapters/com/bstr.h"
-#include "adapters/com/com_ptr.h"
-#include "adapters/com/error_boundary.h"
-#include "adapters/com/module_lifetime.h"
+#include "adapters/automation/bstr.h"
+#include "adapters/automation/com_ptr.h"
+#include "adapters/automation/error_boundary.h"
+#include "adapters/automation/module_lifetime.h"
 #include "adapters/com/object_bridge.h"
 #include "adapters/com/store_bridge.h"
 

@@ -1,13 +1,13 @@
 #include "adapters/com/class_orvendal_object.h"
 
 #include "DllTrevano.h"
-#include "adapters/com/bstr.h"
+#include "adapters/automation/bstr.h"
+#include "adapters/automation/error_boundary.h"
+#include "adapters/automation/type_information.h"
 #include "adapters/com/component_module.h"
-#include "adapters/com/error_boundary.h"
 #include "adapters/com/identity.h"
 #include "adapters/com/no_connection_points.h"
 #include "adapters/com/orvendal_arguments.h"
-#include "adapters/com/type_information.h"
 
 namespace orvendal {
 namespace {

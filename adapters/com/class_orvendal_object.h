@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DllOrvendal.h"
-#include "adapters/com/counted.h"
+#include "adapters/automation/counted.h"
 
 namespace orvendal {
 

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "DllTrevano.h"
+#include "adapters/automation/error_boundary.h"
+#include "adapters/automation/module_lifetime.h"
 #include "adapters/com/com_library.h"
 #include "adapters/com/com_session.h"
-#include "adapters/com/error_boundary.h"
-#include "adapters/com/module_lifetime.h"
 #include "adapters/com/module_parts.h"
 #include "adapters/com/object_bridge.h"
 #include "component/class_orvendal.h"

@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "adapters/com/com_headers.h"
+#include "adapters/automation/com_headers.h"
 #include "platform/library/library.h"
 
 struct _DatosClase;

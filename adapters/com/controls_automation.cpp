@@ -2,9 +2,9 @@
 
 #include <new>
 
+#include "adapters/automation/error_boundary.h"
+#include "adapters/automation/variant.h"
 #include "adapters/com/control_automation.h"
-#include "adapters/com/error_boundary.h"
-#include "adapters/com/variant.h"
 #include "platform/base/text.h"
 
 namespace orvendal {

@@ -1,4 +1,4 @@
-#include "adapters/com/class_factory.h"
+#include "adapters/com/component_factory.h"
 #include "adapters/com/component_module.h"
 #include "adapters/com/registration.h"
 
@@ -7,7 +7,7 @@
 extern "C" {
 
 HRESULT WINAPI DllGetClassObject(REFCLSID class_id, REFIID iid, LPVOID* object) {
-  return orvendal::GetClassFactory(class_id, iid, object);
+  return orvendal::GetComponentFactory(class_id, iid, object);
 }
 
 HRESULT WINAPI DllCanUnloadNow() {

@@ -1,6 +1,6 @@
 #include "adapters/com/form_automation.h"
 
-#include "adapters/com/bstr.h"
+#include "adapters/automation/bstr.h"
 #include "adapters/com/control_automation.h"
 #include "adapters/com/controls_automation.h"
 #include "adapters/com/identity.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "adapters/com/com_headers.h"
+#include "adapters/automation/com_headers.h"
 
 namespace orvendal {
 

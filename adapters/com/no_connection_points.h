@@ -2,8 +2,8 @@
 
 #include <new>
 
-#include "adapters/com/com_headers.h"
-#include "adapters/com/counted.h"
+#include "adapters/automation/com_headers.h"
+#include "adapters/automation/counted.h"
 
 namespace orvendal {
 

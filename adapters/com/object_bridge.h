@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "adapters/automation/com_ptr.h"
 #include "adapters/com/automation_registry.h"
-#include "adapters/com/com_ptr.h"
 #include "platform/base/object.h"
 #include "platform/forms/form.h"
 

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "adapters/automation/variant.h"
 #include "adapters/com/identity.h"
-#include "adapters/com/variant.h"
 
 namespace orvendal {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <new>
 
-#include "adapters/com/error_boundary.h"
+#include "adapters/automation/error_boundary.h"
+#include "adapters/automation/type_information.h"
 #include "adapters/com/identity.h"
-#include "adapters/com/type_information.h"
 
 namespace orvendal {
 namespace {

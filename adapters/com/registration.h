@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "adapters/com/com_headers.h"
+#include "adapters/automation/com_headers.h"
 
 namespace orvendal {
 

@@ -1,4 +1,4 @@
-#include "adapters/com/class_factory.h"
+#include "adapters/com/component_factory.h"
 #include "adapters/com/identity.h"
 #include "tests/windows/com/com_world.h"
 
@@ -18,7 +18,7 @@ TEST_F(ClassObjectTest, ASecondObjectShowsTheSameForm) {
   Open();
   const Form* const first = windows->ActiveForm();
   ComPtr<IClassFactory> factory;
-  ASSERT_EQ(GetClassFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
+  ASSERT_EQ(GetComponentFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
   ASSERT_EQ(factory->CreateInstance(nullptr, identity::kInterface, component.ReceiveVoid()), S_OK);
   EXPECT_EQ(Open(), S_OK);
   EXPECT_EQ(windows->ActiveForm(), first);
@@ -47,7 +47,7 @@ TEST_F(ClassObjectTest, RefusesOtherInterfacesAndClearsThePointer) {
 
 TEST_F(ClassObjectTest, TheFactoryRefusesAggregationAndOtherClasses) {
   ComPtr<IClassFactory> factory;
-  ASSERT_EQ(GetClassFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
+  ASSERT_EQ(GetComponentFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
   void* made = this;
   EXPECT_EQ(factory->CreateInstance(host.Get(), IID_IUnknown, &made), CLASS_E_NOAGGREGATION);
   EXPECT_EQ(made, nullptr);
@@ -55,7 +55,7 @@ TEST_F(ClassObjectTest, TheFactoryRefusesAggregationAndOtherClasses) {
   EXPECT_EQ(factory->CreateInstance(nullptr, IID_IStream, &made), E_NOINTERFACE);
   EXPECT_EQ(made, nullptr);
   made = this;
-  EXPECT_EQ(GetClassFactory(identity::kInterface, IID_IClassFactory, &made), CLASS_E_CLASSNOTAVAILABLE);
+  EXPECT_EQ(GetComponentFactory(identity::kInterface, IID_IClassFactory, &made), CLASS_E_CLASSNOTAVAILABLE);
   EXPECT_EQ(made, nullptr);
 }
 

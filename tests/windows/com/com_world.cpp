@@ -1,7 +1,7 @@
 #include "tests/windows/com/com_world.h"
 
-#include "adapters/com/bstr.h"
-#include "adapters/com/class_factory.h"
+#include "adapters/automation/bstr.h"
+#include "adapters/com/component_factory.h"
 #include "adapters/com/component_module.h"
 #include "adapters/com/identity.h"
 #include "adapters/com/module_parts.h"
@@ -43,7 +43,7 @@ ComWorld::ComWorld() {
   connection = MakeFake<StoreHandle>(ConnectionRef(source.connection));
   host->fill = [this](const FillArguments& session) { return FillSession(session); };
   ComPtr<IClassFactory> factory;
-  EXPECT_EQ(GetClassFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
+  EXPECT_EQ(GetComponentFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
   EXPECT_EQ(factory->CreateInstance(nullptr, identity::kInterface, component.ReceiveVoid()), S_OK);
 }
 

@@ -1,6 +1,6 @@
 #include "tests/windows/com/fake_library.h"
 
-#include "adapters/com/bstr.h"
+#include "adapters/automation/bstr.h"
 
 namespace orvendal {
 namespace {

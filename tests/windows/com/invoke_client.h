@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include "adapters/com/bstr.h"
-#include "adapters/com/com_headers.h"
-#include "adapters/com/com_ptr.h"
+#include "adapters/automation/bstr.h"
+#include "adapters/automation/com_headers.h"
+#include "adapters/automation/com_ptr.h"
 
 namespace orvendal {
 

@@ -1,4 +1,4 @@
-#include "adapters/com/bstr.h"
+#include "adapters/automation/bstr.h"
 #include "tests/windows/com/com_world.h"
 
 namespace orvendal {

@@ -1,6 +1,6 @@
 #include <thread>
 
-#include "adapters/com/class_factory.h"
+#include "adapters/com/component_factory.h"
 #include "adapters/com/component_module.h"
 #include "adapters/com/identity.h"
 #include "tests/windows/com/com_world.h"
@@ -14,7 +14,7 @@ class LifetimeTest : public ComWorld {
   bool CanGo() { return CanModuleGo(); }
   ComPtr<IClassFactory> Factory() const {
     ComPtr<IClassFactory> factory;
-    EXPECT_EQ(GetClassFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
+    EXPECT_EQ(GetComponentFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
     return factory;
   }
 };

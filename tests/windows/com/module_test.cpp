@@ -1,7 +1,7 @@
 #include <cstring>
 
 #include "DllOrvendal.h"
-#include "adapters/com/com_ptr.h"
+#include "adapters/automation/com_ptr.h"
 #include "adapters/com/identity.h"
 #include "tests/windows/com/fake_host.h"
 #include "tests/windows/com/tested_dll.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "DllOrvendal.h"
-#include "adapters/com/class_factory.h"
+#include "adapters/com/component_factory.h"
 #include "adapters/com/component_module.h"
 #include "adapters/com/identity.h"
 #include "adapters/com/module_parts.h"
@@ -86,7 +86,7 @@ class RealWindowTest : public testing::Test {
 
   void Open() const {
     ComPtr<IClassFactory> factory;
-    ASSERT_EQ(GetClassFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
+    ASSERT_EQ(GetComponentFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
     ComPtr<_ClassOrvendal> component;
     ASSERT_EQ(factory->CreateInstance(nullptr, identity::kInterface, component.ReceiveVoid()), S_OK);
     BSTR branch = SysAllocString(L"01");

@@ -1,6 +1,6 @@
 #include <set>
 
-#include "adapters/com/com_ptr.h"
+#include "adapters/automation/com_ptr.h"
 #include "adapters/com/identity.h"
 #include "tests/windows/com/registry_snapshot.h"
 #include "tests/windows/com/tested_dll.h"

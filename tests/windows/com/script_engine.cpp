@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "adapters/com/bstr.h"
-#include "adapters/com/variant.h"
+#include "adapters/automation/bstr.h"
+#include "adapters/automation/variant.h"
 
 namespace orvendal {
 namespace {

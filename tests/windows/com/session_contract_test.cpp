@@ -1,7 +1,7 @@
 #include <cstring>
 
-#include "adapters/com/bstr.h"
-#include "adapters/com/error_boundary.h"
+#include "adapters/automation/bstr.h"
+#include "adapters/automation/error_boundary.h"
 #include "tests/windows/com/com_world.h"
 
 namespace orvendal {

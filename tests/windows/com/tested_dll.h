@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "adapters/com/bstr.h"
-#include "adapters/com/com_headers.h"
+#include "adapters/automation/bstr.h"
+#include "adapters/automation/com_headers.h"
 
 namespace orvendal {
 

@@ -3,7 +3,7 @@
 #include <mutex>
 #include <set>
 
-#include "adapters/com/com_headers.h"
+#include "adapters/automation/com_headers.h"
 
 // Names of the pointers through which imported functions are called, as this system's linker writes them.
 #ifdef _WIN64

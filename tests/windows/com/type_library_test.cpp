@@ -1,4 +1,4 @@
-#include "adapters/com/com_ptr.h"
+#include "adapters/automation/com_ptr.h"
 #include "adapters/com/identity.h"
 #include "tests/windows/com/tested_dll.h"
 

@@ -2,8 +2,8 @@
 
 #include <atomic>
 
-#include "adapters/com/com_headers.h"
-#include "adapters/com/module_lifetime.h"
+#include "adapters/automation/com_headers.h"
+#include "adapters/automation/module_lifetime.h"
 
 namespace orvendal {
 

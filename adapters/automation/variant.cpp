@@ -1,6 +1,6 @@
-#include "adapters/com/variant.h"
+#include "adapters/automation/variant.h"
 
-#include "adapters/com/bstr.h"
+#include "adapters/automation/bstr.h"
 
 namespace orvendal {
 namespace {

@@ -1,4 +1,4 @@
-#include "adapters/com/module_lifetime.h"
+#include "adapters/automation/module_lifetime.h"
 
 #include <atomic>
 

@@ -1,12 +1,11 @@
-#include "adapters/com/error_boundary.h"
+#include "adapters/automation/error_boundary.h"
 
 #include <exception>
 #include <new>
 #include <string>
 
-#include "adapters/com/bstr.h"
-#include "adapters/com/com_ptr.h"
-#include "adapters/com/identity.h"
+#include "adapters/automation/bstr.h"
+#include "adapters/automation/com_ptr.h"
 
 namespace orvendal {
 namespace {
@@ -14,6 +13,8 @@ namespace {
 constexpr std::uint32_t kAutomationErrors = 0x800A0000;
 constexpr std::int32_t kLargestNumber = 0xFFFF;
 constexpr std::int32_t kOutOfMemory = 7;
+
+constinit const wchar_t* error_source = L"";
 
 struct Failure {
   HRESULT result = E_UNEXPECTED;
@@ -39,7 +40,7 @@ void LeaveErrorInformation(REFIID iid, const std::string& description) {
   if (FAILED(CreateErrorInfo(made.Receive()))) return;
   const BstrCell text(description);
   made->SetGUID(iid);
-  made->SetSource(const_cast<LPOLESTR>(identity::kProject));
+  made->SetSource(const_cast<LPOLESTR>(error_source));
   made->SetDescription(text.Get());
   if (const auto info = made.Query<IErrorInfo>(IID_IErrorInfo)) SetErrorInfo(0, info.Get());
 }
@@ -59,6 +60,10 @@ std::string SystemDescription(HRESULT result) {
 }
 
 }  // namespace
+
+void NameErrorSource(const wchar_t* name) noexcept {
+  error_source = name;
+}
 
 HRESULT HresultOfNumber(std::int32_t number) noexcept {
   if (number < 0) return number;
@@ -89,7 +94,7 @@ HRESULT FillExceptionInfo(EXCEPINFO* info) noexcept {
       BSTR description = MakeBstr(failure.description);
       *info = {};
       info->scode = failure.result;
-      info->bstrSource = SysAllocString(identity::kProject);
+      info->bstrSource = SysAllocString(error_source);
       info->bstrDescription = description;
     }
     return DISP_E_EXCEPTION;

@@ -1,9 +1,6 @@
-#include "adapters/com/class_factory.h"
+#include "adapters/automation/class_factory.h"
 
 #include <new>
-
-#include "adapters/com/class_orvendal_object.h"
-#include "adapters/com/identity.h"
 
 namespace orvendal {
 
@@ -20,7 +17,7 @@ HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object)
   if (!object) return E_POINTER;
   *object = nullptr;
   if (outer) return CLASS_E_NOAGGREGATION;
-  auto* const made = new (std::nothrow) ClassOrvendalObject;
+  IUnknown* const made = make_();
   if (!made) return E_OUTOFMEMORY;
   const HRESULT result = made->QueryInterface(iid, object);
   made->Release();
@@ -36,14 +33,13 @@ HRESULT ClassFactory::LockServer(BOOL lock) noexcept {
   return S_OK;
 }
 
-HRESULT GetClassFactory(REFCLSID class_id, REFIID iid, void** object) noexcept {
+HRESULT GetClassFactory(ClassFactory::Make make, REFIID iid, void** object) noexcept {
   if (!object) return E_POINTER;
   *object = nullptr;
-  if (class_id != identity::kClass) return CLASS_E_CLASSNOTAVAILABLE;
-  auto* const made = new (std::nothrow) ClassFactory;
-  if (!made) return E_OUTOFMEMORY;
-  const HRESULT result = made->QueryInterface(iid, object);
-  made->Release();
+  auto* const factory = new (std::nothrow) ClassFactory(make);
+  if (!factory) return E_OUTOFMEMORY;
+  const HRESULT result = factory->QueryInterface(iid, object);
+  factory->Release();
   return result;
 }
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <utility>
 
-#include "adapters/com/com_headers.h"
+#include "adapters/automation/com_headers.h"
 #include "platform/base/runtime_error.h"
 
 namespace orvendal {
@@ -11,10 +11,14 @@ namespace orvendal {
 // Where errors change their form. Numbers 1 to 65535 are 0x800A0000 + n on the wire; the codes of data
 // providers and of the system, negative as numbers, are the same on both sides.
 
+/// What the errors of this module name as their source; for the rest of its life, before its first object is
+/// made.
+void NameErrorSource(const wchar_t* name) noexcept;
+
 [[nodiscard]] HRESULT HresultOfNumber(std::int32_t number) noexcept;
 [[nodiscard]] std::int32_t NumberOfHresult(HRESULT result) noexcept;
 
-/// To be called while an exception is handled: its HRESULT, with source "DllOrvendal" and its description
+/// To be called while an exception is handled: its HRESULT, with the module as source and its description
 /// left as the thread's error information for `iid`.
 [[nodiscard]] HRESULT ReportCurrentException(REFIID iid) noexcept;
 /// The same for a client of Invoke: DISP_E_EXCEPTION with `info` filled, if there is one.

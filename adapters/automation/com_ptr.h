@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "adapters/com/com_headers.h"
+#include "adapters/automation/com_headers.h"
 
 namespace orvendal {
 

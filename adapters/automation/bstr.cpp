@@ -1,4 +1,4 @@
-#include "adapters/com/bstr.h"
+#include "adapters/automation/bstr.h"
 
 #include <new>
 
