@@ -8,34 +8,16 @@
 namespace orvendal {
 namespace {
 
-// ADO's _Connection and _Recordset, each by its older and its newer identifier.
-constexpr GUID kConnection[] = {
-    {0x00000550, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xAA, 0x00, 0x6D, 0x2E, 0xA4}},
-    {0x00001550, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xAA, 0x00, 0x6D, 0x2E, 0xA4}}};
-constexpr GUID kRecordset[] = {
-    {0x00000556, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xAA, 0x00, 0x6D, 0x2E, 0xA4}},
-    {0x00001556, 0x0000, 0x0010, {0x80, 0x00, 0x00, 0xAA, 0x00, 0x6D, 0x2E, 0xA4}}};
-
 /// ADO's own objects outside, their wrappers inside.
 class AdoBridge final : public StoreBridge {
  public:
-  ConnectionRef ConnectionOf(IDispatch* object) override { return object ? WrapConnection(object) : nullptr; }
-  RecordsetRef RecordsetOf(IDispatch* object) override { return object ? WrapRecordset(object) : nullptr; }
+  ConnectionRef ConnectionOf(IDispatch* object) override { return WrapConnection(object); }
+  RecordsetRef RecordsetOf(IDispatch* object) override { return WrapRecordset(object); }
   ComPtr<IDispatch> ObjectOf(const ConnectionRef& connection) override {
-    return Outside(Unwrap(connection), kConnection);
+    return ComPtr<IDispatch>(Unwrap(connection));
   }
   ComPtr<IDispatch> ObjectOf(const RecordsetRef& recordset) override {
-    return Outside(Unwrap(recordset), kRecordset);
-  }
-
- private:
-  /// The pointer that callers early-bind to; the bare IDispatch of an object that answers to neither.
-  static ComPtr<IDispatch> Outside(IUnknown* object, const GUID (&iids)[2]) {
-    const ComPtr<IUnknown> given(object);
-    for (const GUID& iid : iids) {
-      if (auto early_bound = given.Query<IDispatch>(iid)) return early_bound;
-    }
-    return given.Query<IDispatch>(IID_IDispatch);
+    return ComPtr<IDispatch>(Unwrap(recordset));
   }
 };
 
