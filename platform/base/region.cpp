@@ -265,8 +265,10 @@ std::optional<Date> Region::ParseDate(std::string_view text) const {
       if (!seconds) return std::nullopt;
       return Date::FromDayNumber(0, *seconds);
     }
-    if (trimmed[at] != '/' && trimmed[at] != '-' && trimmed[at] != '.') return std::nullopt;
-    ++at;
+    const char separator = trimmed[at++];
+    if (separator != '/' && separator != '-' && separator != '.' && separator != date_separator_) {
+      return std::nullopt;
+    }
   }
 
   std::int32_t seconds = 0;

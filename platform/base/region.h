@@ -60,7 +60,7 @@ class Region {
   std::optional<double> ParseNumber(std::string_view text) const;
   /// A text as a date: the region's order first, else the one order that makes a date of it; year-month-day
   /// with the year in four digits everywhere; two-digit years up to 29 belong to this century; a time may
-  /// follow.
+  /// follow. Between the parts stand "/", "-", "." or the region's own separator.
   std::optional<Date> ParseDate(std::string_view text) const;
 
   /// A value as a whole number of 32 bits, halves to the even one. Raises 94 for Null, 13 for a text that is

@@ -77,6 +77,19 @@ TEST_P(DateConditionTest, DaysAndMonthsOfOneDigitArePaddedForOneDialectOnly) {
             "BETWEEN #3/5/2026 00:00:00# AND #3/5/2026 23:59:59#");
 }
 
+TEST(DateConditionOfAnotherSeparatorTest, NoSeparatorOfARegionReachesAStatementButInTheShownText) {
+  for (const char separator : {'.', '-', '_'}) {
+    RegionSettings settings;
+    settings.date_separator = separator;
+    const Region region = Region::FromSystem(settings);
+    const std::string shown = region.ToText(kDay);
+    EXPECT_EQ(DateConditionOfLoad(Named("SQLOLEDB.1"), kDay, region), kConvertRange);
+    EXPECT_EQ(DateConditionOfSave(Named("SQLOLEDB.1"), shown, region), kConvertRange);
+    EXPECT_EQ(DateConditionOfLoad(Named("Otro"), kDay, region), kLiteralRange);
+    EXPECT_EQ(DateConditionOfSave(Named("Otro"), shown, region), "LIKE '" + shown + "%'");
+  }
+}
+
 TEST_P(DateConditionTest, AnEmptyDayOfASaveTakesEveryDayOnAnyOtherProvider) {
   EXPECT_EQ(DateConditionOfSave(Named("Otro"), "", region()), "LIKE '%'");
 }

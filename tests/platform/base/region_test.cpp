@@ -82,6 +82,21 @@ TEST(RegionTest, DatesAreReadInTheRegionsOrderAndElseInTheOneThatFits) {
   EXPECT_EQ(Spanish().ParseDate("mañana"), std::nullopt);
 }
 
+TEST(RegionTest, DatesThatARegionWroteReadBackWhateverItsSeparator) {
+  for (const char separator : {'/', '-', '.', '_', ','}) {
+    for (const DateOrder order :
+         {DateOrder::kDayMonthYear, DateOrder::kMonthDayYear, DateOrder::kYearMonthDay}) {
+      RegionSettings settings;
+      settings.date_separator = separator;
+      settings.date_order = order;
+      const Region region = Region::FromSystem(settings);
+      for (const Date date : {Date(2026, 3, 5), Date(2026, 11, 16, 9, 5, 0)}) {
+        EXPECT_EQ(region.ParseDate(region.ToText(date)), date) << region.ToText(date);
+      }
+    }
+  }
+}
+
 TEST(RegionTest, WholeNumbersRoundHalvesToTheEvenOne) {
   EXPECT_EQ(RoundToLong(882.5), 882);
   EXPECT_EQ(RoundToLong(883.5), 884);
