@@ -1,14 +1,17 @@
 #include "host/branch_names.h"
 
-#include "host/host_store.h"
+#include "host/store_rows.h"
 
 namespace orvendal {
 
-std::vector<BranchName> ReadBranches(const ConnectionRef& connection) {
-  SqliteStatement rows(EmbeddedStore(connection),
-                       "SELECT Sucursal, Nombre FROM Sucursales ORDER BY Sucursal");
+std::vector<BranchName> ReadBranches(const HostContext& context, const ConnectionRef& connection) {
+  const Region& region = context.window_host.UserRegion();
+  const RecordsetRef rows =
+      ReadRows(context.recordsets, connection, "SELECT Sucursal, Nombre FROM Sucursales ORDER BY Sucursal");
   std::vector<BranchName> branches;
-  while (rows.Step()) branches.push_back({rows.TextAt(0), rows.TextAt(1)});
+  for (; !rows->AtEnd(); rows->MoveNext()) {
+    branches.push_back({TextOf(*rows, "Sucursal", region), TextOf(*rows, "Nombre", region)});
+  }
   return branches;
 }
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/data/recordset.h"
+#include "host/host_context.h"
 
 namespace orvendal {
 
@@ -13,6 +13,6 @@ struct BranchName {
 };
 
 /// The branches of the store by their keys. Raises the store's error.
-std::vector<BranchName> ReadBranches(const ConnectionRef& connection);
+std::vector<BranchName> ReadBranches(const HostContext& context, const ConnectionRef& connection);
 
 }  // namespace orvendal

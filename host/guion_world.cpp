@@ -55,6 +55,7 @@ ScriptWorld::ScriptWorld(const Options& options)
       context_{host,
                *messages_,
                WordsOf(options.language),
+               library_recordsets_,
                nullptr,
                nullptr,
                options.store.value_or(kInMemory),

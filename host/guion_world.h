@@ -65,6 +65,8 @@ class ScriptWorld {
 
   const Options& options_;
   std::unique_ptr<Messages> messages_;
+  // Faults are for the screen's statements, not for the library's own.
+  SqliteRecordsetFactory library_recordsets_;
   HostContext context_;
   StandInLibrary stand_in_{context_};
   ScriptedLibrary library_{stand_in_, host};

@@ -18,6 +18,8 @@ struct HostContext {
   WindowHost& window_host;
   MessagePresenter& messages;
   const Words& words;
+  /// For the library's own statements, which nobody watches.
+  RecordsetFactory& recordsets;
 
   /// The open connection of the application.
   ConnectionRef connection;

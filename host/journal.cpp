@@ -1,18 +1,40 @@
 #include "host/journal.h"
 
-namespace orvendal {
+#include "host/store_rows.h"
+#include "platform/base/runtime_error.h"
+#include "platform/data/ado_error.h"
 
-void CreateJournal(SqliteConnection& store) {
-  store.Execute(
-      "CREATE TABLE IF NOT EXISTS Diario (Id INTEGER PRIMARY KEY, Momento DATETIME NOT NULL, "
-      "Sesion TEXT NOT NULL, Sentencia TEXT NOT NULL)");
+namespace orvendal {
+namespace {
+
+constexpr const char* kTable = "Diario";
+
+RecordsetRef OpenJournal(RecordsetFactory& recordsets, const ConnectionRef& connection) {
+  try {
+    return OpenToAdd(recordsets, connection, kTable);
+  } catch (const RuntimeError& error) {
+    if (error.Number() != ado_error::kNoTable) throw;
+  }
+  RunStatement(recordsets, connection, JournalTable());
+  return OpenToAdd(recordsets, connection, kTable);
 }
 
-void WriteJournal(SqliteConnection& store, Date moment, const std::string& session,
-                  const std::string& statement) {
-  CreateJournal(store);
-  SqliteStatement insert(store, "INSERT INTO Diario (Momento, Sesion, Sentencia) VALUES (?1, ?2, ?3)");
-  insert.Bind(1, moment).Bind(2, session).Bind(3, statement).Run();
+}  // namespace
+
+std::string JournalTable() {
+  return std::string("CREATE TABLE ") + kTable +
+         " (Momento DATETIME NOT NULL, Sesion TEXT NOT NULL, Sentencia TEXT NOT NULL)";
+}
+
+void WriteJournal(RecordsetFactory& recordsets, const ConnectionRef& connection, Date moment,
+                  const std::string& session, const std::string& statement) {
+  const RecordsetRef journal = OpenJournal(recordsets, connection);
+  journal->AddNew();
+  journal->Collect("Momento", moment);
+  journal->Collect("Sesion", session);
+  journal->Collect("Sentencia", statement);
+  journal->Update();
+  journal->Close();
 }
 
 }  // namespace orvendal

@@ -89,6 +89,7 @@ class Program {
         context_{host_,
                  options.picture.empty() ? static_cast<MessagePresenter&>(boxes_) : written_,
                  words,
+                 recordsets_,
                  nullptr,
                  nullptr,
                  "",

@@ -28,14 +28,19 @@ std::string WithoutWhiteSpaceAround(const std::string& text) {
   return text.substr(first, text.find_last_not_of(kWhite) - first + 1);
 }
 
-// The box pastes by itself what it can take as it is; what has to be trimmed is put in here.
-int FilterPaste(TextBox& box, WindowHost& host, bool decimals) {
+std::string TextWith(const EditedText& box, std::string_view typed) {
+  const auto start = static_cast<std::size_t>(box.sel_start);
+  const auto length = static_cast<std::size_t>(box.sel_length);
+  return Mid(box.text, 1, start) + std::string(typed) + Mid(box.text, start + length + 1);
+}
+
+// The box pastes by itself what it can take as it is; what has to be trimmed is put in for it.
+QuantityKey FilterPaste(const EditedText& box, WindowHost& host, bool decimals) {
   const std::string clipboard = host.ClipboardText();
   const std::string trimmed = WithoutWhiteSpaceAround(clipboard);
-  if (trimmed.empty() || !IsQuantity(TextWith(box, trimmed), host.UserRegion(), decimals)) return 0;
-  if (trimmed == clipboard) return character::kPaste;
-  box.SelText(trimmed);
-  return 0;
+  if (trimmed.empty() || !IsQuantity(TextWith(box, trimmed), host.UserRegion(), decimals)) return {};
+  if (trimmed == clipboard) return {character::kPaste, {}};
+  return {0, trimmed};
 }
 
 }  // namespace
@@ -49,22 +54,15 @@ bool IsQuantity(std::string_view text, const Region& region, bool decimals) {
   return fraction <= kMostDecimals && whole + 1 + fraction == text.size();
 }
 
-std::string TextWith(const TextBox& box, std::string_view typed) {
-  const auto start = static_cast<std::size_t>(box.SelStart());
-  const auto length = static_cast<std::size_t>(box.SelLength());
-  const std::string& text = box.Text();
-  return Mid(text, 1, start) + std::string(typed) + Mid(text, start + length + 1);
-}
-
-int FilterQuantityKey(TextBox& box, int key_ascii, WindowHost& host, bool decimals) {
+QuantityKey FilterQuantityKey(const EditedText& box, int key_ascii, WindowHost& host, bool decimals) {
   if (key_ascii == character::kPaste) return FilterPaste(box, host, decimals);
-  if (IsControlKey(key_ascii)) return key_ascii;
+  if (IsControlKey(key_ascii)) return {key_ascii, {}};
   const char mark = host.UserRegion().DecimalMark();
   const int key = key_ascii == '.' ? mark : key_ascii;
   const bool is_digit = key >= '0' && key <= '9';
-  if (!is_digit && key != mark) return 0;
+  if (!is_digit && key != mark) return {};
   const std::string result = TextWith(box, std::string(1, static_cast<char>(key)));
-  return IsQuantity(result, host.UserRegion(), decimals) ? key : 0;
+  return {IsQuantity(result, host.UserRegion(), decimals) ? key : 0, {}};
 }
 
 }  // namespace orvendal

@@ -168,7 +168,7 @@ void MakeSampleStore(SqliteConnection& store, Date today, std::uint64_t seed) {
   store.Execute("BEGIN IMMEDIATE");
   try {
     CreateSchema(store);
-    CreateJournal(store);
+    store.Execute(JournalTable());
     FillSampleChain(store, today, seed);
     store.Execute("COMMIT");
   } catch (const RuntimeError&) {

@@ -13,9 +13,6 @@ class SampleSession final : public DatosClase {
 
   void RellenarSesion(const SessionArguments& session) override;
 
-  /// The connection of the application, for the library's dialogs, which are given nothing else.
-  const ConnectionRef& Store() const { return context_.connection; }
-
  private:
   HostContext& context_;
 };

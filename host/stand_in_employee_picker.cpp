@@ -1,7 +1,7 @@
 #include "host/stand_in_employee_picker.h"
 
-#include "host/host_store.h"
 #include "host/search_list_form.h"
+#include "host/store_rows.h"
 #include "platform/base/text.h"
 
 namespace orvendal {
@@ -10,22 +10,17 @@ namespace {
 constexpr std::size_t kCode = 0;
 constexpr std::size_t kName = 1;
 
-int ColumnNamed(const SqliteStatement& rows, std::string_view name) {
-  for (int column = 0; column < rows.ColumnCount(); ++column) {
-    if (EqualsIgnoringCase(rows.ColumnName(column), name)) return column;
-  }
-  return -1;
-}
-
-SearchList ReadEmployees(SqliteConnection& store, const std::string& branch) {
-  SqliteStatement employees(store, "SELECT Codigo, Nombre, * FROM Empleados");
+SearchList ReadEmployees(const HostContext& context, const ConnectionRef& store, const std::string& branch) {
+  const Region& region = context.window_host.UserRegion();
+  const RecordsetRef employees = ReadRows(context.recordsets, store, "SELECT Empleados.* FROM Empleados");
   // The branch of an employee is the host's own field, which a store filled by others may lack.
-  const int branch_column = ColumnNamed(employees, "IdSucursal");
+  const bool has_branch = HasField(*employees, "IdSucursal");
   std::vector<SearchEntry> entries;
-  while (employees.Step()) {
-    const std::string own = branch_column < 0 ? std::string() : employees.TextAt(branch_column);
+  for (; !employees->AtEnd(); employees->MoveNext()) {
+    const std::string own = has_branch ? TextOf(*employees, "IdSucursal", region) : std::string();
     const bool is_of_branch = EqualsIgnoringCase(own, branch);
-    entries.push_back({{employees.TextAt(0), employees.TextAt(1), own}, is_of_branch ? 0 : 1});
+    entries.push_back({{TextOf(*employees, "Codigo", region), TextOf(*employees, "Nombre", region), own},
+                       is_of_branch ? 0 : 1});
   }
   return {std::move(entries), kName};
 }
@@ -34,7 +29,7 @@ SearchList ReadEmployees(SqliteConnection& store, const std::string& branch) {
 
 void StandInEmployeePicker::Elegir(ConnectionRef& conexion, std::string& cod_sucursal) {
   const Words& words = context_.words;
-  SearchList employees = ReadEmployees(EmbeddedStore(conexion), Mid(cod_sucursal, 1, 2));
+  SearchList employees = ReadEmployees(context_, conexion, Mid(cod_sucursal, 1, 2));
 
   SearchQuestion question;
   question.title = for_supervisor_ ? words.supervisor_picker : words.employee_picker;

@@ -22,7 +22,7 @@ std::unique_ptr<CambioSesion> StandInLibrary::NewCambioSesion() {
 }
 
 std::unique_ptr<Recalculo> StandInLibrary::NewRecalculo() {
-  return std::make_unique<StandInRecalculation>();
+  return std::make_unique<StandInRecalculation>(context_);
 }
 
 std::unique_ptr<BuscadorProductos> StandInLibrary::NewBuscadorProductos() {

@@ -1,8 +1,9 @@
 #include "host/stand_in_product_search.h"
 
-#include "host/host_store.h"
-#include "host/sample_session.h"
+#include <array>
+
 #include "host/search_list_form.h"
+#include "host/store_rows.h"
 
 namespace orvendal {
 namespace {
@@ -10,17 +11,31 @@ namespace {
 constexpr std::size_t kCode = 0;
 constexpr std::size_t kDescription = 1;
 
-const ConnectionRef& StoreOf(const DatosClaseRef& session) {
+// Any session object tells its connection, as it tells the screen.
+ConnectionRef StoreOf(const DatosClaseRef& session) {
   if (!session) throw RuntimeError(error_number::kObjectNotSet);
-  const auto* sample = dynamic_cast<const SampleSession*>(session.get());
-  if (sample == nullptr) throw RuntimeError(error_number::kTypeMismatch);
-  return sample->Store();
+  ConnectionRef store;
+  std::array<ObjectRef, 6> objects;
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  Value on_screen;
+  std::array<RecordsetRef, 3> dictionaries;
+  std::string text;
+  std::string branch;
+  session->RellenarSesion({store, objects[0], objects[1], objects[2], objects[3], objects[4], objects[5],
+                           width, height, on_screen, dictionaries[0], dictionaries[1], dictionaries[2], text,
+                           branch});
+  return store;
 }
 
-SearchList ReadProducts(SqliteConnection& store, bool by_code) {
-  SqliteStatement products(store, "SELECT Codigo, Descripcion FROM Productos");
+SearchList ReadProducts(const HostContext& context, const ConnectionRef& store, bool by_code) {
+  const Region& region = context.window_host.UserRegion();
+  const RecordsetRef products =
+      ReadRows(context.recordsets, store, "SELECT Codigo, Descripcion FROM Productos");
   std::vector<SearchEntry> entries;
-  while (products.Step()) entries.push_back({{products.TextAt(0), products.TextAt(1)}, 0});
+  for (; !products->AtEnd(); products->MoveNext()) {
+    entries.push_back({{TextOf(*products, "Codigo", region), TextOf(*products, "Descripcion", region)}, 0});
+  }
   return {std::move(entries), by_code ? kCode : kDescription};
 }
 
@@ -31,7 +46,7 @@ std::string StandInProductSearch::Buscar(DatosClaseRef& datos_sesion, ObjectRef&
                                          const std::string&, bool&) {
   const Words& words = context_.words;
   const bool by_code = campo == "Codigo";
-  SearchList products = ReadProducts(EmbeddedStore(StoreOf(datos_sesion)), by_code);
+  SearchList products = ReadProducts(context_, StoreOf(datos_sesion), by_code);
 
   SearchQuestion question;
   question.title = words.product_search;

@@ -11,8 +11,8 @@ class StandInProductSearch final : public BuscadorProductos {
   explicit StandInProductSearch(HostContext& context) : context_(context) {}
 
   /// A modal list of all products, searched by `campo` ("Codigo", else by description) from `texto` on. The
-  /// store is reached through `datos_sesion`, which must be the sample host's own: error 91 for none, 13 for
-  /// another one.
+  /// store is the connection that `datos_sesion` fills in: error 91 without a session, 3709 without a
+  /// connection.
   std::string Buscar(DatosClaseRef& datos_sesion, ObjectRef& formulario, const std::string& llamador,
                      const std::string& campo, const std::string& texto, const std::string& modo,
                      bool& indicador) override;

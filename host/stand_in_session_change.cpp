@@ -7,8 +7,9 @@ namespace orvendal {
 void StandInSessionChange::AbrirCambio(ConnectionRef& conexion, Value&, std::string& cod_sucursal,
                                        std::string& cod_puesto, std::string& cod_turno, std::int32_t&,
                                        std::int32_t&, std::int32_t& resultado) {
-  const auto form = std::make_shared<SessionChangeForm>(
-      context_, ReadBranches(conexion), SessionChangeForm::Session{cod_sucursal, cod_puesto, cod_turno});
+  const auto form =
+      std::make_shared<SessionChangeForm>(context_, ReadBranches(context_, conexion),
+                                          SessionChangeForm::Session{cod_sucursal, cod_puesto, cod_turno});
   form->Show(ShowMode::kModal);
   form->Unload();
   resultado = form->Accepted() ? 1 : 0;

@@ -1,6 +1,5 @@
 #include "host/stand_in_tools.h"
 
-#include "host/host_store.h"
 #include "host/journal.h"
 #include "host/quantity_filter.h"
 #include "host/workstation_form.h"
@@ -8,7 +7,10 @@
 namespace orvendal {
 
 int StandInTools::FiltrarTecla(TextBox& caja, int key_ascii, bool opcion) {
-  return FilterQuantityKey(caja, key_ascii, context_.window_host, opcion);
+  const QuantityKey filtered = FilterQuantityKey({caja.Text(), caja.SelStart(), caja.SelLength()}, key_ascii,
+                                                 context_.window_host, opcion);
+  if (filtered.instead) caja.SelText(*filtered.instead);
+  return filtered.key;
 }
 
 void StandInTools::AccionPuesto(ConnectionRef& conexion, std::string& cod_puesto) {
@@ -30,7 +32,8 @@ std::string StandInTools::FormatoFecha(std::string& fecha, std::uint8_t, std::st
 
 void StandInTools::RegistrarSentencia(std::string& cadena_sesion, ConnectionRef& conexion,
                                       std::string& sentencia) {
-  WriteJournal(EmbeddedStore(conexion), context_.window_host.SystemClock().Now(), cadena_sesion, sentencia);
+  WriteJournal(context_.recordsets, conexion, context_.window_host.SystemClock().Now(), cadena_sesion,
+               sentencia);
 }
 
 std::string StandInTools::FechaHoraTexto(Date& momento) {

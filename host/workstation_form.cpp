@@ -19,7 +19,7 @@ constexpr double kHeight = 2 * kMargin + kRows * kRowStep + kLine + kGap + kButt
 // The code, and the name that the store has for it.
 std::string BranchText(const HostContext& context, const ConnectionRef& store) {
   const std::string key = Mid(context.sucursal, 1, 2);
-  for (const BranchName& branch : ReadBranches(store)) {
+  for (const BranchName& branch : ReadBranches(context, store)) {
     if (EqualsIgnoringCase(branch.key, key)) return context.sucursal + " " + branch.name;
   }
   return context.sucursal;

@@ -49,6 +49,7 @@ class HostTest : public testing::Test {
         context{host,
                 messages,
                 SpanishWords(),
+                recordsets,
                 store,
                 nullptr,
                 "tienda.db",
@@ -92,6 +93,7 @@ class HostTest : public testing::Test {
   HeadlessHost host;
   std::shared_ptr<SqliteConnection> store;
   KeptMessages messages;
+  SqliteRecordsetFactory recordsets;
   HostContext context;
   StandInLibrary library{context};
 };

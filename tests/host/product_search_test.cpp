@@ -1,4 +1,5 @@
 #include "host/dialog_design.h"
+#include "platform/data/ado_error.h"
 #include "platform/forms/option_button.h"
 #include "tests/host/host_fixture.h"
 
@@ -212,7 +213,8 @@ TEST_F(ProductSearch, FitsAndStandsInTheMiddleOfAnyScreen) {
 }
 
 TEST_F(ProductSearch, SpeaksTheLanguageChosen) {
-  HostContext english{host, messages, EnglishWords(), store, nullptr, "", "01", "1", "1", 0, 0, 0.0, {}};
+  HostContext english{host, messages, EnglishWords(), recordsets, store, nullptr, "", "01", "1", "1", 0, 0,
+                      0.0,  {}};
   StandInLibrary speaking(english);
   std::string title;
   host.QueueDialog([&title](Form& form) {
@@ -226,10 +228,16 @@ TEST_F(ProductSearch, SpeaksTheLanguageChosen) {
   EXPECT_EQ(title, "Product Search");
 }
 
-TEST_F(ProductSearch, RefusesASessionThatIsNotTheHosts) {
+TEST_F(ProductSearch, TakesTheConnectionOfAnySession) {
   class OtherSession final : public DatosClase {
-    void RellenarSesion(const SessionArguments&) override {}
+   public:
+    explicit OtherSession(ConnectionRef connection) : connection_(std::move(connection)) {}
+    void RellenarSesion(const SessionArguments& session) override { session.Conexion = connection_; }
+
+   private:
+    ConnectionRef connection_;
   };
+  host.QueueDialog([](Form& form) { Accept(form); });
   ObjectRef screen;
   bool flag = false;
   const auto number = [&](DatosClaseRef of) {
@@ -241,7 +249,8 @@ TEST_F(ProductSearch, RefusesASessionThatIsNotTheHosts) {
     return 0;
   };
   EXPECT_EQ(number(nullptr), error_number::kObjectNotSet);
-  EXPECT_EQ(number(std::make_shared<OtherSession>()), error_number::kTypeMismatch);
+  EXPECT_EQ(number(std::make_shared<OtherSession>(nullptr)), ado_error::kInvalidConnection);
+  EXPECT_EQ(number(std::make_shared<OtherSession>(store)), 0);
 }
 
 }  // namespace
