@@ -4,6 +4,7 @@
 #include <new>
 
 #include "adapters/win32/form_accessible.h"
+#include "adapters/win32/thread_dpi.h"
 
 namespace orvendal {
 namespace {
@@ -42,6 +43,7 @@ void AccessibleObject::Disconnect() {
 
 HRESULT AccessibleObject::Ask(const Question& question) noexcept {
   if (node_ == nullptr) return CO_E_OBJNOTCONNECTED;
+  const DpiScope sharp(DpiContext::Sharpest());
   try {
     return question();
   } catch (const std::bad_alloc&) {

@@ -48,7 +48,10 @@ void WriteClipboard(HWND window, const std::string& text) {
   const std::size_t bytes = (wide.size() + 1) * sizeof(wchar_t);
   const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
   void* data = memory == nullptr ? nullptr : GlobalLock(memory);
-  if (data == nullptr) return;
+  if (data == nullptr) {
+    GlobalFree(memory);
+    return;
+  }
   std::memcpy(data, wide.c_str(), bytes);
   GlobalUnlock(memory);
   const OpenedClipboard clipboard(window);

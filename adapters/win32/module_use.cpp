@@ -2,6 +2,8 @@
 
 #include <atomic>
 
+#include "adapters/win32/window_class.h"
+
 namespace orvendal {
 namespace {
 std::atomic<int> uses = 0;
@@ -15,7 +17,7 @@ ModuleUse::~ModuleUse() {
 }
 
 bool ModuleIsInUse() {
-  return uses > 0;
+  return uses > 0 || !WindowClass::SweepAll();
 }
 
 }  // namespace orvendal

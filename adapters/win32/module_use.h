@@ -12,6 +12,7 @@ class ModuleUse {
   ModuleUse& operator=(const ModuleUse&) = delete;
 };
 
+/// Whether one lives. What the last of them left in the system is taken away by asking.
 bool ModuleIsInUse();
 
 }  // namespace orvendal

@@ -29,7 +29,9 @@ int LinesPerNotch() {
 void Win32FormWindow::Press(int button, bool second_of_double, WPARAM keys, LPARAM place) {
   if (held_buttons_ == 0) SetCapture(window_);
   held_buttons_ |= button;
+  const std::shared_ptr<Link> link = link_;
   if (GetFocus() != window_) SetFocus(window_);
+  if (link->window == nullptr) return;
   host_.Guard([&] {
     form_.MousePress(PlaceOnForm({GET_X_LPARAM(place), GET_Y_LPARAM(place)}), button, ShiftOfMouse(keys),
                      second_of_double);
@@ -73,29 +75,39 @@ void Win32FormWindow::Turn(WPARAM wparam, LPARAM place) {
 // of the key does, a dialog included, the character comes after it and before any other key.
 bool Win32FormWindow::KeyDown(WPARAM key_code, bool with_menu_key) {
   last_key_ = key_code;
+  key_is_down_ = true;
+  const std::shared_ptr<Link> link = link_;
+  const HWND window = window_;
   std::vector<wchar_t> units;
   MSG next{};
-  while (PeekMessageW(&next, window_, WM_KEYFIRST, WM_KEYLAST, PM_NOREMOVE) && next.message == WM_CHAR) {
-    PeekMessageW(&next, window_, WM_CHAR, WM_CHAR, PM_REMOVE);
+  while (PeekMessageW(&next, window, WM_KEYFIRST, WM_KEYLAST, PM_NOREMOVE) && next.message == WM_CHAR) {
+    if (!PeekMessageW(&next, window, WM_CHAR, WM_CHAR, PM_REMOVE)) break;
     units.push_back(static_cast<wchar_t>(next.wParam));
   }
-  const std::shared_ptr<Link> link = link_;
+  // Looking for messages lets those of other threads in, which may have closed the form.
+  if (link->window == nullptr) return true;
   const int shift = ShiftNow() | (with_menu_key && key_code != VK_F10 ? shift_mask::kAlt : 0);
   const bool settled = key_code == VK_F4 || key_code == VK_F10;
   host_.Guard([&] { form_.KeyPress(static_cast<int>(key_code), shift); });
   for (const wchar_t unit : units) {
     if (link->window == nullptr) return true;
-    Type(unit);
+    Type(unit, true);
   }
   return settled || link->window == nullptr;
 }
 
-void Win32FormWindow::Type(wchar_t unit) {
+void Win32FormWindow::Type(wchar_t unit, bool of_a_key) {
   // The Tab key belongs to the form; the same code from Ctrl+I is a character.
   if (unit == L'\t' && last_key_ == VK_TAB) return;
-  if (const std::optional<char32_t> character = characters_.Add(unit)) {
-    host_.Guard([&] { form_.Character(*character); });
-  }
+  if (const std::optional<char32_t> character = characters_.Add(unit)) Enter(*character, of_a_key);
+}
+
+// Input methods and keyboards on the display bring characters without keys; the form must not take such a one
+// for that of the key before.
+void Win32FormWindow::Enter(char32_t character, bool of_a_key) {
+  const std::shared_ptr<Link> link = link_;
+  if (!of_a_key) host_.Guard([&] { form_.KeyPress(VK_PROCESSKEY, 0); });
+  if (link->window != nullptr) host_.Guard([&] { form_.Character(character); });
 }
 
 // Focus, caret and input methods.
@@ -105,16 +117,20 @@ void Win32FormWindow::TakeFocus(bool has_focus) {
     events_.Forget();
     ShowCaret();
   } else {
-    if (caret_size_.cy > 0) DestroyCaret();
-    caret_size_ = {};
+    DropCaret();
+    key_is_down_ = false;
   }
+}
+
+void Win32FormWindow::DropCaret() {
+  if (caret_size_.cy > 0) DestroyCaret();
+  caret_size_ = {};
 }
 
 void Win32FormWindow::ShowCaret() {
   if (window_ == nullptr || GetFocus() != window_) return;
   if (!caret_) {
-    if (caret_size_.cy > 0) DestroyCaret();
-    caret_size_ = {};
+    DropCaret();
     return;
   }
   const RECT pixels = PixelsOf(*caret_);
@@ -127,6 +143,11 @@ void Win32FormWindow::ShowCaret() {
   SetCaretPos(pixels.left, pixels.top);
   if (is_new) ::ShowCaret(window_);
   caret_size_ = size;
+}
+
+void Win32FormWindow::ShowPointer() const {
+  SetCursor(LoadCursorW(nullptr, cursor_ == CursorShape::kText ? reinterpret_cast<LPCWSTR>(IDC_IBEAM)
+                                                               : reinterpret_cast<LPCWSTR>(IDC_ARROW)));
 }
 
 void Win32FormWindow::PlaceComposition() {

@@ -11,10 +11,15 @@
 namespace orvendal {
 namespace {
 
-constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED, which older headers lack
+constexpr UINT kDpiChanged = 0x02E0;    // WM_DPICHANGED, which older headers lack
+constexpr UINT kThemeChanged = 0x031A;  // WM_THEMECHANGED, likewise
 constexpr WPARAM kSystemCommand = 0xFFF0;
 constexpr std::size_t kMostPaintRectangles = 8;
 constexpr double kTwipsPerInch = 1440.0;
+
+bool IsCharacter(WPARAM code_point) {
+  return code_point <= 0x10FFFF && (code_point < 0xD800 || code_point > 0xDFFF);
+}
 
 // What the window waits to have painted, as few rectangles.
 std::vector<RECT> PartsToPaint(HWND window) {
@@ -82,8 +87,7 @@ std::optional<LRESULT> Win32FormWindow::HandleWindow(UINT message, WPARAM wparam
       return 1;
     case WM_SETCURSOR:
       if (LOWORD(lparam) != HTCLIENT) return std::nullopt;
-      SetCursor(LoadCursorW(nullptr, cursor_ == CursorShape::kText ? reinterpret_cast<LPCWSTR>(IDC_IBEAM)
-                                                                   : reinterpret_cast<LPCWSTR>(IDC_ARROW)));
+      ShowPointer();
       return TRUE;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
@@ -109,18 +113,25 @@ std::optional<LRESULT> Win32FormWindow::HandleWindow(UINT message, WPARAM wparam
       if ((wparam & kSystemCommand) == SC_KEYMENU && lparam != VK_SPACE) return 0;
       return std::nullopt;
     case kDpiChanged:
-      if (host_.options_.dpi == 0) TakeDpi(HIWORD(wparam));
-      [[fallthrough]];
+      MoveToOtherDisplay(HIWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
+      return 0;
     case WM_DISPLAYCHANGE:
       BoundsChanged();
       InvalidateRect(window_, nullptr, FALSE);
       return 0;
     case WM_SYSCOLORCHANGE:
+    case kThemeChanged:
+    case WM_SETTINGCHANGE:
+      ShowCaret();
       InvalidateRect(window_, nullptr, FALSE);
-      return 0;
+      return std::nullopt;
     case WM_IME_STARTCOMPOSITION:
       PlaceComposition();
       return std::nullopt;
+    case WM_IME_CHAR:
+      // Not by the message that the system would post for it: a host's loop may know fewer letters.
+      Type(static_cast<wchar_t>(wparam), false);
+      return 0;
     case WM_GETOBJECT:
       return AnswerAssistant(wparam, lparam);
     case FormAccessible::kPerformMessage:
@@ -175,15 +186,16 @@ std::optional<LRESULT> Win32FormWindow::HandleInput(UINT message, WPARAM wparam,
       return std::nullopt;
     case WM_KEYUP:
     case WM_SYSKEYUP:
+      key_is_down_ = false;
       host_.Guard([&] { form_.KeyRelease(static_cast<int>(wparam), ShiftNow()); });
       if (message == WM_KEYUP || wparam == VK_F10) return 0;
       return std::nullopt;
     case WM_CHAR:
-      Type(static_cast<wchar_t>(wparam));
+      Type(static_cast<wchar_t>(wparam), key_is_down_);
       return 0;
     case WM_UNICHAR:
       if (wparam == UNICODE_NOCHAR) return TRUE;
-      host_.Guard([&] { form_.Character(static_cast<char32_t>(wparam)); });
+      if (IsCharacter(wparam)) Enter(static_cast<char32_t>(wparam), key_is_down_);
       return 0;
     default:
       return std::nullopt;
@@ -208,6 +220,11 @@ void Win32FormWindow::PaintPart(HDC dc, const RECT& part) {
   if (width <= 0 || height <= 0) return;
   host_.GuardQuietly([&] {
     DibSurface& surface = host_.Surface(width, height);
+    const RECT form = PixelsOf({0, 0, form_.Width(), form_.Height()});
+    if (part.right > form.right || part.bottom > form.bottom) {
+      const RECT whole{0, 0, width, height};
+      FillRect(surface.Dc(), &whole, GetSysColorBrush(COLOR_BACKGROUND));
+    }
     {
       const double pixel = kTwipsPerInch / dpi_;
       const Rect area{part.left * pixel, part.top * pixel, width * pixel, height * pixel};

@@ -30,16 +30,13 @@ RECT WorkArea() {
 
 WindowClass Win32FormWindow::kClass(L"OrvendalForm", CS_DBLCLKS, Win32FormWindow::Procedure);
 
-void Win32FormWindow::SweepClass() {
-  kClass.Sweep();
-}
-
 Win32FormWindow::Win32FormWindow(Win32WindowHost& host, Form& form)
     : host_(host), form_(form), link_(std::make_shared<Link>(Link{this})), dpi_(host.Dpi()) {
   host_.windows_.push_back(this);
 }
 
 Win32FormWindow::~Win32FormWindow() {
+  const DpiScope sharp(DpiContext::Sharpest());
   host_.OpenShutWindows(*this);
   link_->window = nullptr;
   Destroy();
@@ -79,6 +76,8 @@ void Win32FormWindow::Make(HWND owner, const Look& look) {
 
 void Win32FormWindow::Destroy() {
   accessible_.reset();
+  DropCaret();
+  held_buttons_ = 0;
   if (window_ == nullptr) return;
   const HWND window = window_;
   window_ = nullptr;
@@ -92,6 +91,8 @@ void Win32FormWindow::Destroy() {
 void Win32FormWindow::LostFromOutside() {
   if (window_ == nullptr) return;
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+  DropCaret();
+  held_buttons_ = 0;
   window_ = nullptr;
   const std::shared_ptr<Link> link = link_;
   const ObjectRef keep = form_.shared_from_this();
@@ -186,9 +187,21 @@ void Win32FormWindow::TakeDpi(int dpi) {
   host_.WindowDpi(dpi);
 }
 
+// A window that the user moves has to go where the system says, or it would stand on the other display again.
+void Win32FormWindow::MoveToOtherDisplay(int dpi, const RECT& suggested) {
+  if (host_.options_.dpi == 0) TakeDpi(dpi);
+  if (IsFramed()) {
+    SetWindowPos(window_, nullptr, suggested.left, suggested.top, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+  BoundsChanged();
+  InvalidateRect(window_, nullptr, FALSE);
+}
+
 // What the form says.
 
 void Win32FormWindow::Show() {
+  const DpiScope sharp(DpiContext::Sharpest());
   const bool modal = host_.IsInnermostDialog(form_);
   Make(modal ? host_.FrontWindow() : nullptr, WantedLook(modal));
   ApplyState();
@@ -203,18 +216,21 @@ void Win32FormWindow::Hide() {
 
 void Win32FormWindow::Raise() {
   if (window_ == nullptr || form_.WindowState() == WindowState::kMinimized) return;
+  const DpiScope sharp(DpiContext::Sharpest());
+  const HWND window = window_;
   // Behind a dialog it is the dialog that comes to the front and keeps the keyboard.
-  if (!IsWindowEnabled(window_)) {
-    SetForegroundWindow(GetLastActivePopup(window_));
+  if (!IsWindowEnabled(window)) {
+    SetForegroundWindow(GetLastActivePopup(window));
     return;
   }
-  SetForegroundWindow(window_);
-  BringWindowToTop(window_);
-  SetFocus(window_);
+  SetForegroundWindow(window);
+  BringWindowToTop(window);
+  SetFocus(window);
 }
 
 void Win32FormWindow::BoundsChanged() {
   if (!IsShown() || form_.WindowState() == WindowState::kMinimized) return;
+  const DpiScope sharp(DpiContext::Sharpest());
   applying_state_ = true;
   PlaceWindow();
   applying_state_ = false;
@@ -226,6 +242,7 @@ void Win32FormWindow::CaptionChanged() {
 
 void Win32FormWindow::StateChanged(WindowState state) {
   if (!IsShown()) return;
+  const DpiScope sharp(DpiContext::Sharpest());
   ApplyState();
   if (state != WindowState::kMinimized) Raise();
 }
@@ -243,6 +260,7 @@ Point Win32FormWindow::PlaceOnForm(POINT pixels) const {
 
 void Win32FormWindow::RequestPaint(const Rect& area) {
   if (window_ == nullptr) return;
+  const DpiScope sharp(DpiContext::Sharpest());
   const RECT pixels = PixelsOf(area);
   InvalidateRect(window_, &pixels, FALSE);
 }
@@ -252,10 +270,14 @@ void Win32FormWindow::PaintNow() {
 }
 
 void Win32FormWindow::Cursor(CursorShape shape) {
+  if (shape == cursor_) return;
   cursor_ = shape;
+  // The system asks before it tells of a move, and asks no more while a button is held.
+  ShowPointer();
 }
 
 void Win32FormWindow::Caret(const std::optional<Rect>& caret) {
+  const DpiScope sharp(DpiContext::Sharpest());
   caret_ = caret;
   ShowCaret();
   PlaceComposition();

@@ -33,9 +33,6 @@ class Win32FormWindow final : public FormWindow {
   Win32FormWindow(Win32WindowHost& host, Form& form);
   ~Win32FormWindow() override;
 
-  /// Takes away a window class that could not go with its last window.
-  static void SweepClass();
-
   Form& TheForm() const { return form_; }
   /// nullptr before the first Show.
   HWND Handle() const { return window_; }
@@ -82,6 +79,7 @@ class Win32FormWindow final : public FormWindow {
   void TakeStateFromSystem(WPARAM size_kind);
   void LimitSize(MINMAXINFO& limits) const;
   void TakeDpi(int dpi);
+  void MoveToOtherDisplay(int dpi, const RECT& suggested);
 
   // Messages (win32_form_messages.cpp). Empty: the system is to do what it does by default.
   std::optional<LRESULT> Handle(UINT message, WPARAM wparam, LPARAM lparam);
@@ -98,10 +96,13 @@ class Win32FormWindow final : public FormWindow {
   void LoseMouse();
   void Turn(WPARAM wparam, LPARAM place);
   bool KeyDown(WPARAM key_code, bool with_menu_key);
-  void Type(wchar_t unit);
+  void Type(wchar_t unit, bool of_a_key);
+  void Enter(char32_t character, bool of_a_key);
   void TakeFocus(bool has_focus);
   void ShowCaret();
+  void DropCaret();
   void PlaceComposition();
+  void ShowPointer() const;
 
   Win32WindowHost& host_;
   Form& form_;
@@ -119,6 +120,7 @@ class Win32FormWindow final : public FormWindow {
   int held_buttons_ = 0;
   int wheel_rest_ = 0;  // parts of a line that small turns of the wheel have not made up yet
   WPARAM last_key_ = 0;
+  bool key_is_down_ = false;
   CharacterAssembler characters_;
   std::unique_ptr<FormAccessible> accessible_;  // made when somebody asks for it
   AccessibleEvents events_;

@@ -28,8 +28,11 @@ void Win32Timers::Set(Timer& timer, int milliseconds) {
     SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   }
   const UINT_PTR identifier = ++last_identifier_;
+  if (SetTimer(window_, identifier, static_cast<UINT>(milliseconds), nullptr) == 0) {
+    DestroyIfIdle();
+    throw RuntimeError(error_number::kInternal, "The system refuses a timer");
+  }
   running_[identifier] = &timer;
-  SetTimer(window_, identifier, static_cast<UINT>(milliseconds), nullptr);
 }
 
 void Win32Timers::Stop(Timer& timer) {

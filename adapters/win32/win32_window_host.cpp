@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <exception>
+#include <new>
 
 #include "adapters/win32/clipboard.h"
 #include "adapters/win32/win32_form_window.h"
+#include "adapters/win32/window_class.h"
 #include "platform/forms/form.h"
 #include "platform/forms/timer.h"
 
@@ -27,6 +29,11 @@ void Dispatch(MSG& message) {
   DispatchMessageW(&message);
 }
 
+int PrimaryDpi() {
+  const DpiScope sharp(DpiContext::Sharpest());
+  return SystemDpi();
+}
+
 struct WindowSearch {
   HWND open;
   std::vector<HWND> found;
@@ -34,9 +41,13 @@ struct WindowSearch {
 
 BOOL CALLBACK FindToShut(HWND window, LPARAM parameter) noexcept {
   auto& search = *reinterpret_cast<WindowSearch*>(parameter);
-  if (window != search.open && IsWindowVisible(window) && IsWindowEnabled(window))
+  if (window == search.open || !IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+  try {
     search.found.push_back(window);
-  return TRUE;
+    return TRUE;
+  } catch (const std::bad_alloc&) {
+    return FALSE;
+  }
 }
 
 // All windows of this thread but `open` that the user could turn to; they take no input from here on.
@@ -56,20 +67,22 @@ void OpenWindows(const std::vector<HWND>& windows) {
 Win32WindowHost::Win32WindowHost(Win32HostOptions options)
     : options_(std::move(options)),
       region_(UserRegionOfSystem()),
-      dpi_(options_.dpi > 0 ? options_.dpi : SystemDpi()),
+      dpi_(options_.dpi > 0 ? options_.dpi : PrimaryDpi()),
       timers_([this](Timer& timer) { Guard([&] { timer.Parent().TimerElapsed(timer); }); }) {}
 
 Win32WindowHost::~Win32WindowHost() {
-  Win32FormWindow::SweepClass();
+  WindowClass::SweepAll();
 }
 
 // Screen and fonts.
 
 double Win32WindowHost::ScreenWidth() {
+  const DpiScope sharp(DpiContext::Sharpest());
   return GetSystemMetrics(SM_CXSCREEN) * kTwipsPerInch / dpi_;
 }
 
 double Win32WindowHost::ScreenHeight() {
+  const DpiScope sharp(DpiContext::Sharpest());
   return GetSystemMetrics(SM_CYSCREEN) * kTwipsPerInch / dpi_;
 }
 
@@ -234,24 +247,22 @@ void Win32WindowHost::ReportError(const RuntimeError& error) {
   reporting_ = false;
 }
 
-void Win32WindowHost::Guard(const std::function<void()>& action) noexcept {
-  GuardQuietly([&] {
-    try {
-      action();
-    } catch (const RuntimeError& error) {
-      ReportError(error);
-    } catch (const std::exception& error) {
-      LogToDebugger(error.what());
-      ReportError(RuntimeError(error_number::kInternal, error.what()));
-    } catch (...) {
-      ReportError(RuntimeError(error_number::kInternal));
-    }
-  });
+void Win32WindowHost::ReportCaught() {
+  try {
+    throw;
+  } catch (const RuntimeError& error) {
+    ReportError(error);
+  } catch (const std::exception& error) {
+    LogToDebugger(error.what());
+    ReportError(RuntimeError(error_number::kInternal, error.what()));
+  } catch (...) {
+    ReportError(RuntimeError(error_number::kInternal));
+  }
 }
 
-void Win32WindowHost::GuardQuietly(const std::function<void()>& action) noexcept {
+void Win32WindowHost::LogCaught() noexcept {
   try {
-    action();
+    throw;
   } catch (const std::exception& error) {
     LogToDebugger(error.what());
   } catch (...) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "adapters/win32/dib_surface.h"
+#include "adapters/win32/thread_dpi.h"
 #include "adapters/win32/user_region.h"
 #include "adapters/win32/win32_fonts.h"
 #include "adapters/win32/win32_timers.h"
@@ -31,6 +32,9 @@ struct Win32HostOptions {
 
 /// The desktop of Windows. Everything runs on the thread that made it, in whatever message loop turns there:
 /// the host has a loop of its own only while a modal form is up.
+///
+/// Its windows count the pixels of each display, whatever the program around them does; what forms call in
+/// turn runs with pixels as the thread counted them when the host was made.
 ///
 /// Invariants: `windows_` holds the windows of the loaded forms in order of making; no exception leaves a
 /// window procedure. When the last form is unloaded and the host is destroyed, nothing of it is left in the
@@ -69,10 +73,27 @@ class Win32WindowHost : public WindowHost {
   /// Pixels to an inch that texts are measured at and new windows are made for.
   int Dpi() const { return dpi_; }
 
-  /// Runs `action` and reports what it throws.
-  void Guard(const std::function<void()>& action) noexcept;
-  /// The same where no dialog can come up: the error goes to the debugger's log.
-  void GuardQuietly(const std::function<void()>& action) noexcept;
+  /// Runs `action`, which is the form's, and reports what it throws.
+  template <typename Action>
+  void Guard(const Action& action) noexcept {
+    const DpiScope callers(callers_pixels_);
+    GuardQuietly([&] {
+      try {
+        action();
+      } catch (...) {
+        ReportCaught();
+      }
+    });
+  }
+  /// Runs `action` where no dialog can come up: the error goes to the debugger's log.
+  template <typename Action>
+  static void GuardQuietly(const Action& action) noexcept {
+    try {
+      action();
+    } catch (...) {
+      LogCaught();
+    }
+  }
 
  private:
   friend class Win32FormWindow;
@@ -92,12 +113,16 @@ class Win32WindowHost : public WindowHost {
   void OpenShutWindows(const Win32FormWindow& window);
   void WindowGone(const Win32FormWindow& window);
   void WindowDpi(int dpi) { dpi_ = dpi; }
+  /// What is being caught.
+  void ReportCaught();
+  static void LogCaught() noexcept;
   /// Somewhere to paint on, at least that large; lives until the last window is gone.
   DibSurface& Surface(int width, int height);
 
   Win32HostOptions options_;
   Region region_;
   LocalClock clock_;
+  DpiContext callers_pixels_ = DpiContext::OfThread();
   int dpi_;
   Win32Fonts fonts_;
   std::unique_ptr<DibSurface> surface_;

@@ -9,8 +9,15 @@ namespace {
 std::mutex registration;
 }
 
+WindowClass* WindowClass::first_ = nullptr;
+
 void WindowClass::Enter() {
   const std::lock_guard lock(registration);
+  if (!listed_) {
+    next_ = first_;
+    first_ = this;
+    listed_ = true;
+  }
   if (!registered_) {
     WNDCLASSEXW description{};
     description.cbSize = sizeof(description);
@@ -33,9 +40,14 @@ void WindowClass::Leave() {
   UnregisterIfUnused();
 }
 
-void WindowClass::Sweep() {
+bool WindowClass::SweepAll() {
   const std::lock_guard lock(registration);
-  UnregisterIfUnused();
+  bool none_left = true;
+  for (WindowClass* each = first_; each != nullptr; each = each->next_) {
+    each->UnregisterIfUnused();
+    none_left = none_left && !each->registered_;
+  }
+  return none_left;
 }
 
 void WindowClass::UnregisterIfUnused() {

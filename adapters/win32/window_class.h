@@ -14,20 +14,23 @@ class WindowClass {
   const wchar_t* Name() const { return name_; }
   /// Raises error 51 if the system refuses.
   void Enter();
-  /// After the window is destroyed. In the middle of its destruction the class stays until the next Leave or
-  /// Sweep.
+  /// After the window is destroyed. Inside a message of the window itself the system keeps the class until
+  /// the next Leave or SweepAll.
   void Leave();
-  /// Takes the class away if nobody uses it.
-  void Sweep();
+  /// Takes away the classes that nobody uses. Whether none is left.
+  static bool SweepAll();
 
  private:
   void UnregisterIfUnused();
+  static WindowClass* first_;
 
   const wchar_t* name_;
   UINT style_;
   WNDPROC procedure_;
   int users_ = 0;
   bool registered_ = false;
+  bool listed_ = false;
+  WindowClass* next_ = nullptr;
 };
 
 }  // namespace orvendal

@@ -5,12 +5,18 @@ namespace {
 
 constexpr int kDesignDpi = 96;
 
-// Older systems lack some functions; asking by name keeps the module loadable there.
-template <typename Function>
-Function UserFunction(const char* name) {
-  const HMODULE user = GetModuleHandleW(L"user32.dll");
-  return user == nullptr ? nullptr
-                         : reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(user, name)));
+// What the user has set since the program began; 0 where the system does not tell.
+int DpiOfPrimaryDisplay() {
+  const HMODULE shell = LoadLibraryExW(L"shcore.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  if (shell == nullptr) return 0;
+  const auto monitor_dpi = reinterpret_cast<HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*)>(
+      reinterpret_cast<void*>(GetProcAddress(shell, "GetDpiForMonitor")));
+  constexpr int kEffective = 0;
+  UINT across = 0, down = 0;
+  const HMONITOR primary = MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY);
+  if (monitor_dpi == nullptr || FAILED(monitor_dpi(primary, kEffective, &across, &down))) across = 0;
+  FreeLibrary(shell);
+  return static_cast<int>(across);
 }
 
 }  // namespace
@@ -49,6 +55,7 @@ HINSTANCE ThisModule() {
 }
 
 int SystemDpi() {
+  if (const int dpi = DpiOfPrimaryDisplay()) return dpi;
   if (const auto system_dpi = UserFunction<UINT(WINAPI*)()>("GetDpiForSystem")) {
     if (const int dpi = static_cast<int>(system_dpi())) return dpi;
   }

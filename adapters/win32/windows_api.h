@@ -26,8 +26,16 @@ std::wstring SingleLine(std::string_view utf8);
 /// The module that this code is linked into: the DLL, or the program.
 HINSTANCE ThisModule();
 
-/// Pixels to an inch of the display, as the system tells this process, whatever the process has said about
-/// its awareness of it.
+/// A function of the system's user interface that older systems lack; asking by name keeps the module
+/// loadable there. nullptr without it.
+template <typename Function>
+Function UserFunction(const char* name) {
+  const HMODULE user = GetModuleHandleW(L"user32.dll");
+  return user == nullptr ? nullptr
+                         : reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(user, name)));
+}
+
+/// Pixels to an inch of the primary display, as this thread counts pixels.
 int SystemDpi();
 /// The same of the display that the window is on.
 int DpiOf(HWND window);

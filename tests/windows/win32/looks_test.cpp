@@ -1,0 +1,110 @@
+#include "platform/forms/color.h"
+#include "tests/windows/win32/win32_fixture.h"
+
+namespace orvendal {
+namespace {
+
+class LooksOnWindows : public Win32FormTest {
+ protected:
+  /// Times that the control has been painted at the next turn after `action`.
+  int PaintedAfter(const std::function<void()>& action) {
+    form->left.times_painted = 0;
+    action();
+    Pump();
+    return form->left.times_painted;
+  }
+};
+
+TEST_F(LooksOnWindows, ANewLookOfTheSystemIsPaintedAtOnce) {
+  ShowForm();
+  for (const UINT change :
+       {static_cast<UINT>(WM_SYSCOLORCHANGE), 0x031AU, static_cast<UINT>(WM_SETTINGCHANGE)}) {
+    EXPECT_EQ(PaintedAfter([&] { SendMessageW(Window(), change, 0, 0); }), 1) << change;
+  }
+  EXPECT_EQ(PaintedAfter([&] { SendMessageW(Window(), WM_DISPLAYCHANGE, 32, MAKELPARAM(800, 600)); }), 1);
+}
+
+TEST_F(LooksOnWindows, ColourWordsOfTheSystemAreTheUsersOwnColours) {
+  ShowForm();
+  const COLORREF before = GetSysColor(COLOR_BTNFACE);
+  const int which = COLOR_BTNFACE;
+  const COLORREF odd = RGB(10, 120, 200);
+  SetSysColors(1, &which, &odd);
+  Pump();
+  EXPECT_EQ(PixelOf(Window(), 5, 280), odd);
+  SetSysColors(1, &which, &before);
+  Pump();
+  EXPECT_EQ(PixelOf(Window(), 5, 280), before);
+}
+
+TEST_F(LooksOnWindows, EachPixelOfAChangeIsPaintedOnceAndInOneGo) {
+  ShowForm();
+  // What is erased before it is painted flickers.
+  EXPECT_NE(SendMessageW(Window(), WM_ERASEBKGND, 0, 0), 0);
+  EXPECT_EQ(GetClassLongPtrW(Window(), GCLP_HBRBACKGROUND), 0U);
+  EXPECT_EQ(GetClassLongPtrW(Window(), GCL_STYLE) & (CS_HREDRAW | CS_VREDRAW), 0U);
+  // While a control paints, its window still shows what it showed.
+  COLORREF during = CLR_INVALID;
+  form->left.OnPaint = [&] { during = PixelOf(Window(), 5, 5); };
+  form->left.Color({0, 255, 0});
+  Pump();
+  EXPECT_EQ(during, RGB(255, 0, 0));
+  EXPECT_EQ(PixelOf(Window(), 5, 5), RGB(0, 255, 0));
+}
+
+TEST_F(LooksOnWindows, ACorneredChangeDoesNotPaintWhatLiesBetween) {
+  ShowForm();
+  form->left.times_painted = form->right.times_painted = 0;
+  const RECT far_corners[] = {{390, 290, 400, 300}, {0, 290, 10, 300}};
+  for (const RECT& corner : far_corners) InvalidateRect(Window(), &corner, FALSE);
+  Pump();
+  EXPECT_EQ(form->left.times_painted + form->right.times_painted, 0);
+}
+
+TEST_F(LooksOnWindows, AWindowThatSomebodyMadeLargerShowsTheDesktopAroundTheForm) {
+  ShowForm();
+  SetWindowPos(Window(), nullptr, 0, 0, 450, 350, SWP_NOMOVE | SWP_NOZORDER);
+  InvalidateRect(Window(), nullptr, FALSE);
+  Pump();
+  EXPECT_EQ(PixelOf(Window(), 5, 5), RGB(255, 0, 0));
+  EXPECT_EQ(PixelOf(Window(), 430, 20), GetSysColor(COLOR_BACKGROUND));
+  EXPECT_EQ(PixelOf(Window(), 20, 330), GetSysColor(COLOR_BACKGROUND));
+}
+
+// Pixels as threads of the system count them; older systems know one way only.
+using Context = HANDLE;
+Context Mark(std::intptr_t number) {
+  return reinterpret_cast<Context>(number);
+}
+const auto context_of_thread = UserFunction<Context(WINAPI*)()>("GetThreadDpiAwarenessContext");
+const auto set_context = UserFunction<Context(WINAPI*)(Context)>("SetThreadDpiAwarenessContext");
+const auto context_of_window = UserFunction<Context(WINAPI*)(HWND)>("GetWindowDpiAwarenessContext");
+const auto awareness = UserFunction<int(WINAPI*)(Context)>("GetAwarenessFromDpiAwarenessContext");
+constexpr int kUnaware = 0, kEachDisplay = 2;
+
+TEST_F(LooksOnWindows, TheWindowIsSharpInAProgramThatKnowsNothingOfResolutions) {
+  const Context before = set_context(Mark(-1));
+  {
+    Win32WindowHost unaware(Options());
+    auto sharp = std::make_shared<ProbeForm>(unaware);
+    std::vector<int> during;
+    const auto look = [&] { during.push_back(awareness(context_of_thread())); };
+    sharp->OnLoad = look;
+    sharp->OnActivate = look;
+    sharp->left.OnMouseDown = [&](int, int, double, double) { look(); };
+    sharp->OnUnload = [&](int&) { look(); };
+    sharp->Show();
+    look();
+    Pump();
+    const HWND window = unaware.HandleOf(*sharp);
+    EXPECT_EQ(awareness(context_of_window(window)), kEachDisplay);
+    SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    sharp->Unload();
+    look();
+    EXPECT_EQ(during, std::vector<int>(6, kUnaware)) << "what the program does is done its own way";
+  }
+  set_context(before);
+}
+
+}  // namespace
+}  // namespace orvendal
