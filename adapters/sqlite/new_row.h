@@ -32,6 +32,7 @@ class NewRow {
   void Post();
   /// As assigned; Null where nothing was.
   const std::vector<Value>& Fields() const { return values_; }
+  const std::vector<TargetColumn>& Columns() const { return columns_; }
   /// The row last posted as it stands in the store, defaults included.
   std::vector<Value> ReadBack() const;
 

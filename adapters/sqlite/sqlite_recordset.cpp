@@ -141,7 +141,7 @@ void SqliteRecordset::Find(const std::string& criteria, std::int32_t skip_record
 
 void SqliteRecordset::AbsolutePosition(std::int32_t position) {
   Contents& contents = Opened();
-  if (contents.cursor == CursorType::kDynamic && contents.connection->GetDialect() == Dialect::kSqlServer) {
+  if (!KnowsPositions(contents)) {
     throw RuntimeError(
         ado_error::kFeatureNotAvailable,
         "Current Recordset does not support bookmarks. This may be a limitation of the provider or "
@@ -152,8 +152,56 @@ void SqliteRecordset::AbsolutePosition(std::int32_t position) {
   if (position < 1 || !contents.rows.Reach(static_cast<std::size_t>(position) - 1)) {
     throw AdoError(ado_error::kInvalidArgument);
   }
+  StandOn(contents, position - 1);
+}
+
+bool SqliteRecordset::KnowsPositions(const Contents& contents) {
+  return contents.cursor != CursorType::kDynamic || contents.connection->GetDialect() == Dialect::kJet;
+}
+
+void SqliteRecordset::StandOn(Contents& contents, std::int64_t position) {
   contents.on_posted_row = false;
-  contents.position = position - 1;
+  contents.position = position;
+}
+
+std::int64_t SqliteRecordset::Position() const {
+  Contents& contents = Opened();
+  if (contents.new_row.Pending() || contents.on_posted_row || !KnowsPositions(contents)) return -1;
+  if (AtStart()) return -2;
+  return OnRow(contents) ? contents.position + 1 : -3;
+}
+
+bool SqliteRecordset::AtStart() const {
+  Contents& contents = Opened();
+  if (contents.new_row.Pending() || contents.on_posted_row) return false;
+  return contents.position == kBeforeFirst || !contents.rows.Reach(0);
+}
+
+void SqliteRecordset::MoveFirst() {
+  Contents& contents = Opened();
+  PostPending(contents);
+  if (!contents.rows.Reach(0)) throw AdoError(ado_error::kEitherBofOrEof);
+  StandOn(contents, 0);
+}
+
+void SqliteRecordset::MovePrevious() {
+  Contents& contents = Opened();
+  PostPending(contents);
+  if (AtStart()) throw AdoError(ado_error::kEitherBofOrEof);
+  if (OnRow(contents) && !contents.on_posted_row) {
+    StandOn(contents, contents.position - 1);
+  } else {
+    MoveLast();
+  }
+}
+
+void SqliteRecordset::MoveLast() {
+  Contents& contents = Opened();
+  PostPending(contents);
+  while (contents.rows.Reach(contents.rows.Count())) {
+  }
+  if (contents.rows.Count() == 0) throw AdoError(ado_error::kEitherBofOrEof);
+  StandOn(contents, static_cast<std::int64_t>(contents.rows.Count()) - 1);
 }
 
 std::size_t SqliteRecordset::FieldCount() const {
@@ -193,9 +241,18 @@ void SqliteRecordset::AddNew() {
   contents.new_row.Start();
 }
 
+const ColumnType& SqliteRecordset::FieldType(std::size_t index) const {
+  if (index >= FieldCount()) throw AdoError(ado_error::kItemNotFound);
+  return contents_->new_row.Columns()[index].type;
+}
+
 void SqliteRecordset::Collect(std::string_view name, const Value& value) {
+  Opened();
+  Assign(FieldIndex(name), value);
+}
+
+void SqliteRecordset::Assign(std::size_t field, const Value& value) {
   Contents& contents = Opened();
-  const std::size_t field = FieldIndex(name);
   if (!OnRow(contents)) throw AdoError(ado_error::kEitherBofOrEof);
   if (!contents.new_row.Pending()) throw AdoError(ado_error::kFeatureNotAvailable);
   contents.new_row.Assign(field, value);

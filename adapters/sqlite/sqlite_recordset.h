@@ -39,9 +39,22 @@ class SqliteRecordset final : public Recordset {
   void Update() override;
   void CancelUpdate() override;
 
- protected:
+  // What hosts and scripts use beyond the interface.
+
+  /// Before the first row, or no row at all.
+  bool AtStart() const;
+  /// These raise 3021 if there is no row, MovePrevious before the first one.
+  void MoveFirst();
+  void MovePrevious();
+  void MoveLast();
+  /// The number of the current row, from 1, or why there is none: -1 unknown (a new row, a cursor that does
+  /// not count), -2 before the first row, -3 past the last.
+  std::int64_t Position() const;
   std::size_t FieldIndex(std::string_view name) const override;
   Value FieldValue(std::size_t index) const override;
+  const ColumnType& FieldType(std::size_t index) const;
+  /// As Collect.
+  void Assign(std::size_t field, const Value& value);
 
  private:
   // Positions where there is no row.
@@ -63,6 +76,8 @@ class SqliteRecordset final : public Recordset {
 
   Contents& Opened() const;
   bool OnRow(Contents& contents) const;
+  static bool KnowsPositions(const Contents& contents);
+  static void StandOn(Contents& contents, std::int64_t position);
   const Value& Cell(Contents& contents, std::size_t field) const;
   void PostPending(Contents& contents);
 
