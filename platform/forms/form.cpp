@@ -107,6 +107,7 @@ void Form::Load() {
 }
 
 void Form::Show(ShowMode mode) {
+  if (loading_) return;
   const ObjectRef self = shared_from_this();
   Load();
   const std::uint64_t life = life_;

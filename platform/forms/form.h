@@ -24,7 +24,7 @@ enum class ShowMode { kModeless = 0, kModal = 1 };
 ///
 /// First Show: OnLoad to its end, OnResize, OnActivate, GotFocus of the first control of the tab order; all
 /// before Show returns. A later Show only raises the window, and raises OnActivate if another form was active
-/// before.
+/// before. A Show inside OnLoad does nothing: it is left to the one that loads.
 ///
 /// Invariants: at most one control has the focus, and it can have it (visible, enabled, all containers too).
 /// Controls() is in order of creation and never changes.

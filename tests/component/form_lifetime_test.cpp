@@ -110,6 +110,16 @@ TEST_F(FormLifetimeTest, FourFailedLoadsInARowLeaveNothingBehind) {
   EXPECT_EQ(screen.form().LblSucursal.Caption(), "  Sucursal 01 Centro  ");
 }
 
+TEST_F(FormLifetimeTest, ACallDuringAMessageOfTheLoadLeavesTheScreenAsOneCallDoes) {
+  screen.library.DuringNextDialog([this] { EXPECT_FALSE(screen.Open("01")); });
+  screen.Open("99");
+  EXPECT_EQ(screen.library.TakeMessages().size(), 1U);
+  ASSERT_TRUE(screen.HasForm());
+  EXPECT_TRUE(screen.form().Visible());
+  EXPECT_EQ(screen.state.session.CodSucursal, "01");
+  ExpectFreshForm();
+}
+
 TEST_F(FormLifetimeTest, ALibraryThatClearsTheReferenceLeavesTheComponentWithoutAForm) {
   screen.Open();
   const std::weak_ptr<FrmOrvendalciales> form = screen.state.form;

@@ -57,6 +57,18 @@ TEST_F(FormLifeTest, ALoadShowsNothing) {
   EXPECT_EQ(TakeLog(), (Log{"resize", "activate", "focus"}));
 }
 
+TEST_F(FormLifeTest, AShowInsideTheLoadIsLeftToTheShowThatLoads) {
+  form().OnLoad = [this] {
+    log.push_back("load");
+    form().Show();
+    EXPECT_FALSE(form().Visible());
+    log.push_back("loaded");
+  };
+  form().Show();
+  EXPECT_EQ(TakeLog(), (Log{"load", "loaded", "resize", "activate", "focus"}));
+  EXPECT_TRUE(stage.host.WindowOf(form())->IsShown());
+}
+
 TEST_F(FormLifeTest, AFormWithoutFocusableControlsTakesTheFocusItself) {
   box.OnGotFocus = nullptr;
   form().OnLoad = [this] { box.Enabled(false); };
