@@ -1,7 +1,6 @@
 #include <limits>
 
 #include "form/columns.h"
-#include "form/flag_scope.h"
 #include "form/frm_orvendalciales.h"
 #include "platform/base/text.h"
 #include "platform/data/ado_error.h"
@@ -11,12 +10,11 @@
 namespace orvendal {
 
 void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
-  if (IsEditingQuantity()) MSFProductos.TextMatrix(MSFProductos.Row(), column::kQuantity, TxtMSF.Text());
+  if (IsEditingQuantity()) CommitQuantity();
   TxtMSF.Visible(false);
   TxtMSF.Text("");
   if (TxtEmpleado.Text().empty()) {
-    Mostrar("El Estilista no puede estar en blanco", message::kStop, "Atención");
-    TxtEmpleado.SetFocus();
+    RefuseBlankStylist();
     return;
   }
   // The walk counts its rows in 16 bits; a grid beyond that is refused while nothing is lost yet.
@@ -27,27 +25,82 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
   // lines.
   const std::string condition = DateConditionOfSave(Session().Conexion, MkFecha.Text(), UserRegion());
   CodigosaRecalcular.Clear();
-  RsCodigosEnUso();
-  const RecordsetRef held = variables.RsCodigos;  // a host that calls again meanwhile empties the variables
-  Recordset& rows = *held;
-  if (rows.State() == kStateOpen) rows.Close();
+  const RecordsetRef rows = RsCodigosEnUso();
+  if (rows->State() == kStateOpen) rows->Close();
   std::string statement = statements::DeleteDay(Session().ClaveSucursal(), condition);
-  statements::OpenForWriting(rows, statement, Session().Conexion);
+  statements::OpenForWriting(*rows, statement, Session().Conexion);
 
   ConnectionRef connection = Session().Conexion;
   state_.globals.HerramientasGlobal().RegistrarSentencia(Session().CadenaSesion, connection, statement);
   Session().Conexion = connection;
 
-  statements::OpenForWriting(rows, statements::WholeHistory(), Session().Conexion);
+  statements::OpenForWriting(*rows, statements::WholeHistory(), Session().Conexion);
+  if (!StoreLines(*rows)) return;
+  RecalculateProducts();
+
+  TxtMSF.Visible(false);
+  PonerBotones(BotonesEnReposo);
+  rows->Close();
+  Refresh();
+  if (!LblSupervisor.Visible() && !variables.FlagFechaCambio) {
+    TxtEmpleado.Enabled(true);
+    TxtEmpleado.Text("");
+    TxtCodigo.Text("");
+  }
+  CargarExistencias();
+}
+
+// One new row for each line; false after a refusal, see StoreRow.
+bool FrmOrvendalciales::StoreLines(Recordset& rows) {
   for (int row = 1; row <= MSFProductos.Rows() - 1; ++row) {
     const std::string code = MSFProductos.TextMatrix(row, column::kCode);
     if (code.empty()) break;
     if (!ExisteProducto(code)) continue;  // its old row is gone already: the product drops out of the day
     rows.AddNew();
     FillRow(row);
-    if (!StoreRow(row)) return;
+    if (!StoreRow(row)) return false;
   }
-  // What the day held before has changed too.
+  return true;
+}
+
+// The eight fields of the pending row. Empty cells are filled in the grid itself first.
+void FrmOrvendalciales::FillRow(int row) {
+  const RecordsetRef rows = RsCodigosEnUso();
+  const auto cell = [this, row](int column, const std::string& if_empty) {
+    if (MSFProductos.TextMatrix(row, column).empty()) MSFProductos.TextMatrix(row, column, if_empty);
+    return MSFProductos.TextMatrix(row, column);
+  };
+  rows->Collect("IdSucursal", Session().ClaveSucursal());
+  rows->Collect("IdProducto", MSFProductos.TextMatrix(row, column::kCode));
+  rows->Collect("stockAnterior", cell(column::kPreviousQuantity, "0"));
+  rows->Collect("StockActual", cell(column::kQuantity, "0"));
+  rows->Collect("IdEmpleado", cell(column::kEmployeeCode, TxtCodigo.Text()));
+  rows->Collect("Fecha", FormatoFecha(cell(column::kDate, TxtFechaHora.Text())));
+  Date now = Host().SystemClock().Now();
+  rows->Collect("Actualizado", state_.globals.HerramientasGlobal().FechaHoraTexto(now));
+  rows->Collect("ModificadoPor", Session().ClaveSucursal());  // the branch, not an employee
+}
+
+// False after a refusal, which ends the save where it stands: what was deleted and written so far remains.
+bool FrmOrvendalciales::StoreRow(int row) {
+  try {
+    RsCodigosEnUso()->Update();
+    AnotarRecalculo(MSFProductos.TextMatrix(row, column::kCode));
+    return true;
+  } catch (const RuntimeError& error) {
+    if (error.Number() == ado_error::kMultipleStep) {
+      Mostrar("Error al grabar \r\n" + error.Description(), message::kStop, "Error");
+      RsCodigosEnUso()->CancelUpdate();
+    } else {
+      Mostrar("Nº Error:" + std::to_string(error.Number()) + "\r\n" + error.Description(), message::kStop,
+              "");
+    }
+    return false;
+  }
+}
+
+// Every product concerned: those stored now, and what the day held before, which has changed too.
+void FrmOrvendalciales::RecalculateProducts() {
   for (int row = 1; row <= MSFProductos1.Rows() - 1; ++row) {
     const std::string code = MSFProductos1.TextMatrix(row, column::kCode);
     if (Trim(code).empty()) break;
@@ -58,55 +111,6 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
     std::string code = CodigosaRecalcular.List(index);
     std::string nothing;
     state_.globals.RecalculoGlobal().RecalcularProducto(Session().Conexion, branch_key, code, nothing);
-  }
-
-  TxtMSF.Visible(false);
-  PonerBotones(BotonesEnReposo);
-  rows.Close();
-  Refresh();
-  if (!LblSupervisor.Visible() && !variables.FlagFechaCambio) {
-    TxtEmpleado.Enabled(true);
-    TxtEmpleado.Text("");
-    TxtCodigo.Text("");
-  }
-  CargarExistencias();
-}
-
-// The eight fields of the pending row. Empty cells are filled in the grid itself first.
-void FrmOrvendalciales::FillRow(int row) {
-  RsCodigosEnUso();
-  const RecordsetRef held = variables.RsCodigos;
-  Recordset& rows = *held;
-  const auto cell = [this, row](int column, const std::string& if_empty) {
-    if (MSFProductos.TextMatrix(row, column).empty()) MSFProductos.TextMatrix(row, column, if_empty);
-    return MSFProductos.TextMatrix(row, column);
-  };
-  rows.Collect("IdSucursal", Session().ClaveSucursal());
-  rows.Collect("IdProducto", MSFProductos.TextMatrix(row, column::kCode));
-  rows.Collect("stockAnterior", cell(column::kPreviousQuantity, "0"));
-  rows.Collect("StockActual", cell(column::kQuantity, "0"));
-  rows.Collect("IdEmpleado", cell(column::kEmployeeCode, TxtCodigo.Text()));
-  rows.Collect("Fecha", FormatoFecha(cell(column::kDate, TxtFechaHora.Text())));
-  Date now = Host().SystemClock().Now();
-  rows.Collect("Actualizado", state_.globals.HerramientasGlobal().FechaHoraTexto(now));
-  rows.Collect("ModificadoPor", Session().ClaveSucursal());  // the branch, not an employee
-}
-
-// False after a refusal, which ends the save where it stands: what was deleted and written so far remains.
-bool FrmOrvendalciales::StoreRow(int row) {
-  try {
-    RsCodigosEnUso().Update();
-    AnotarRecalculo(MSFProductos.TextMatrix(row, column::kCode));
-    return true;
-  } catch (const RuntimeError& error) {
-    if (error.Number() == ado_error::kMultipleStep) {
-      Mostrar("Error al grabar \r\n" + error.Description(), message::kStop, "Error");
-      RsCodigosEnUso().CancelUpdate();
-    } else {
-      Mostrar("Nº Error:" + std::to_string(error.Number()) + "\r\n" + error.Description(), message::kStop,
-              "");
-    }
-    return false;
   }
 }
 

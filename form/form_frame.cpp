@@ -1,4 +1,3 @@
-#include "form/columns.h"
 #include "form/frm_orvendalciales.h"
 
 namespace orvendal {
@@ -41,8 +40,8 @@ void FrmOrvendalciales::Barra1_Minimizar() {
 }
 
 void FrmOrvendalciales::Barra1_Cerrar() {
-  if (TxtMSF.Visible() && MSFProductos.Col() == column::kQuantity) {
-    MSFProductos.TextMatrix(MSFProductos.Row(), column::kQuantity, TxtMSF.Text());
+  if (IsEditingQuantity()) {
+    CommitQuantity();
     TxtMSF.Visible(false);
     TxtMSF.Text("");
   }

@@ -35,9 +35,9 @@ void FrmOrvendalciales::PonerBotones(const ButtonSet& off) {
   ArrangeActionBar(Buttons(), Width(), off);
 }
 
-Recordset& FrmOrvendalciales::InUse(RecordsetRef& variable) {
+RecordsetRef FrmOrvendalciales::InUse(RecordsetRef& variable) {
   if (!variable) variable = NewRecordset();
-  return *variable;
+  return variable;
 }
 
 std::int32_t FrmOrvendalciales::Mostrar(std::string texto, std::int32_t estilo, std::string titulo) {

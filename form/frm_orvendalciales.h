@@ -187,10 +187,11 @@ class FrmOrvendalciales final : public Form {
   const Region& UserRegion() { return Host().UserRegion(); }
   std::string TextOf(const Value& value) { return UserRegion().ToText(value); }
   RecordsetRef NewRecordset() { return state_.environment.recordsets.NewRecordset(); }
-  /// An object variable that comes into being on first use.
-  Recordset& InUse(RecordsetRef& variable);
-  Recordset& RsCodigosEnUso() { return InUse(variables.RsCodigos); }
-  Value Word(RecordsetRef& dictionary, const char* key) { return InUse(dictionary).Fields(key).Value(); }
+  /// An object variable that comes into being on first use. Who holds the result keeps the object, even if
+  /// the variable is emptied meanwhile.
+  RecordsetRef InUse(RecordsetRef& variable);
+  RecordsetRef RsCodigosEnUso() { return InUse(variables.RsCodigos); }
+  Value Word(RecordsetRef& dictionary, const char* key) { return InUse(dictionary)->Fields(key).Value(); }
   std::int32_t Mostrar(std::string texto, std::int32_t estilo, std::string titulo);
   std::string FormatoFecha(std::string fecha);
   std::shared_ptr<FrmOrvendalciales> GlobalForm();
@@ -200,16 +201,19 @@ class FrmOrvendalciales final : public Form {
   void SelectEditorText();
   void PlaceEditorAnew();
   bool IsEditingQuantity();
+  void CommitQuantity();
+  void RefuseBlankStylist();
   void ConfirmCell();
   void ConfirmQuantity();
   void FocusEditorOrGrid();
   std::string AbrirBuscador(const std::string& field, const std::string& text);
   std::string ChosenProduct();
-  struct Pick;
-  Pick AbrirSelector(bool para_nuevo);
+  std::unique_ptr<SelectorEmpleado> AbrirSelector(bool para_nuevo);
   std::int32_t AskToSave();
+  bool StoreLines(Recordset& rows);
   void FillRow(int row);
   bool StoreRow(int row);
+  void RecalculateProducts();
   void WriteLoadedRow(int row, const Recordset& lines);
   void ShowNormalMode();
 

@@ -40,13 +40,16 @@ bool FrmOrvendalciales::IsEditingQuantity() {
   return MSFProductos.Col() == column::kQuantity && TxtMSF.Visible();
 }
 
+void FrmOrvendalciales::CommitQuantity() {
+  MSFProductos.TextMatrix(MSFProductos.Row(), column::kQuantity, TxtMSF.Text());
+}
+
 void FrmOrvendalciales::TxtMSF_KeyPress(int& KeyAscii) {
   if (MSFProductos.Col() == column::kQuantity) {
     KeyAscii = state_.globals.HerramientasGlobal().FiltrarTecla(TxtMSF, KeyAscii, true);
   }
   if (TxtEmpleado.Text().empty()) {
-    Mostrar("El Estilista no puede estar en blanco", message::kStop, "Atención");
-    TxtEmpleado.SetFocus();
+    RefuseBlankStylist();
     TxtMSF.Visible(false);
     PonerBotones(BotonesConLineas);
     return;
@@ -84,7 +87,7 @@ void FrmOrvendalciales::ConfirmCell() {
 
 void FrmOrvendalciales::ConfirmQuantity() {
   MSFlexGrid& grid = MSFProductos;
-  if (grid.Col() == column::kQuantity) grid.TextMatrix(grid.Row(), column::kQuantity, TxtMSF.Text());
+  if (grid.Col() == column::kQuantity) CommitQuantity();
   if (grid.Col() + 1 > variables.UltimaColumna) {
     if (grid.Row() + 1 > grid.Rows() - 1) grid.AddItem("");
     grid.Row(grid.Row() + 1);

@@ -43,9 +43,7 @@ void FrmOrvendalciales::MSFProductos_LeaveCell() {
   if (variables.PintandoFila) return;
   if (!variables.MoviendoColumna) PaintLine(palette::kSand, palette::kBlack, MSFProductos.Cols() - 1);
   // While a load runs, the editor's text belongs to the lines that are going.
-  if (IsEditingQuantity() && !variables.CargandoLineas) {
-    MSFProductos.TextMatrix(MSFProductos.Row(), column::kQuantity, TxtMSF.Text());
-  }
+  if (IsEditingQuantity() && !variables.CargandoLineas) CommitQuantity();
 }
 
 void FrmOrvendalciales::MSFProductos_RowColChange() {
@@ -69,7 +67,7 @@ void FrmOrvendalciales::MSFProductos_Scroll() {
 }
 
 void FrmOrvendalciales::ScrollProductos_Change() {
-  RsCodigosEnUso().AbsolutePosition(ScrollProductos.Value());
+  RsCodigosEnUso()->AbsolutePosition(ScrollProductos.Value());
 }
 
 }  // namespace orvendal

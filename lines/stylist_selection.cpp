@@ -1,5 +1,4 @@
 #include "form/frm_orvendalciales.h"
-#include "form/pick.h"
 #include "screen/palette.h"
 
 namespace orvendal {
@@ -10,7 +9,8 @@ void FrmOrvendalciales::CmdEmpl_Click() {
   TxtEmpleado.SetFocus();
 }
 
-FrmOrvendalciales::Pick FrmOrvendalciales::AbrirSelector(bool para_nuevo) {
+// The picker after its dialog, for its caller to read.
+std::unique_ptr<SelectorEmpleado> FrmOrvendalciales::AbrirSelector(bool para_nuevo) {
   std::unique_ptr<SelectorEmpleado> picker = state_.environment.library.NewSelectorEmpleado();
   picker->ParaNuevo(para_nuevo);
   picker->Aceptado(false);
@@ -19,13 +19,7 @@ FrmOrvendalciales::Pick FrmOrvendalciales::AbrirSelector(bool para_nuevo) {
   ConnectionRef connection = Session().Conexion;
   picker->Elegir(connection, Session().CodSucursal);
   Session().Conexion = connection;
-  Pick pick;
-  pick.accepted = picker->Aceptado();
-  if (pick.accepted) {
-    pick.name = picker->Nombre();
-    pick.code = picker->Codigo();
-  }
-  return pick;
+  return picker;
 }
 
 void FrmOrvendalciales::TxtEmpleado_GotFocus() {
@@ -34,19 +28,25 @@ void FrmOrvendalciales::TxtEmpleado_GotFocus() {
     PicDatos.SetFocus();
     return;
   }
-  const Pick pick = AbrirSelector(false);
+  const std::unique_ptr<SelectorEmpleado> picker = AbrirSelector(false);
   // A box that the button opened closes again whether the user chose or not.
   if (variables.CambiarEstilista) TxtEmpleado.Enabled(false);
   variables.CambiarEstilista = false;
-  if (!pick.accepted) {
+  if (!picker->Aceptado()) {
     PicDatos.SetFocus();
     return;
   }
-  TxtEmpleado.Text(pick.name);
-  TxtCodigo.Text(pick.code);
+  TxtEmpleado.Text(picker->Nombre());
+  TxtCodigo.Text(picker->Codigo());
   if (!TxtEmpleado.Text().empty()) TxtEmpleado.Enabled(false);
   PonerBotones(BotonesConLineas);
   MSFProductos.SetFocus();
+}
+
+// The focus on the box opens the picker.
+void FrmOrvendalciales::RefuseBlankStylist() {
+  Mostrar("El Estilista no puede estar en blanco", message::kStop, "Atención");
+  TxtEmpleado.SetFocus();
 }
 
 // Nobody types into the box: it only triggers the picker.

@@ -57,7 +57,8 @@ TEST_F(NewCountTest, AsksThePickerForANewCount) {
             (Texts{"SelectorEmpleado.ParaNuevo(True)", "SelectorEmpleado.Aceptado(False)",
                    "SelectorEmpleado.OpcionFija(True)", "SelectorEmpleado.Nombre(\"\")",
                    "SelectorEmpleado.Elegir(Conexion, \"01\")", "SelectorEmpleado.Aceptado() = True",
-                   "SelectorEmpleado.Nombre() = \"Berta\"", "SelectorEmpleado.Codigo() = \"E2\""}));
+                   "SelectorEmpleado.Nombre() = \"Berta\"", "SelectorEmpleado.Codigo() = \"E2\"",
+                   "SelectorEmpleado.Nombre() = \"Berta\""}));
   EXPECT_TRUE(TakeMessages(screen).empty());
 }
 
@@ -131,6 +132,26 @@ TEST_F(NewCountTest, AnEmptyNameLeavesTheBoxEnabledAndStillEntersTheMode) {
   EXPECT_TRUE(form().TxtEmpleado.Enabled());
   EXPECT_EQ(TakeMessages(screen), Texts{kAsksForStylist});
   EXPECT_EQ(AvailableButtons(screen), kBotonesConLineas);
+}
+
+TEST_F(NewCountTest, TheGridHasTheFocusBeforeTheModeIsMarkedAndTheBarSet) {
+  screen.Open();
+  std::string buttons;
+  bool marked = true;
+  bool shows_day_box = false;
+  screen.library.QueueEmployee({true, "E7", ""});
+  screen.library.QueueEmployee({false, "", ""});
+  screen.library.DuringNextDialog([] {});  // the picker of the button
+  screen.library.DuringNextDialog([&] {    // the question of the grid
+    buttons = AvailableButtons(screen);
+    marked = form().LblSupervisor.Visible();
+    shows_day_box = form().MkFecha.Visible();
+  });
+  screen.Click("LblNuevo");
+  EXPECT_EQ(buttons, kBotonesEnReposo);
+  EXPECT_FALSE(marked);
+  EXPECT_TRUE(shows_day_box);
+  EXPECT_TRUE(form().LblSupervisor.Visible());
 }
 
 TEST_F(NewCountTest, InSupervisorModeTakesTheNewEmployeeAndStays) {

@@ -83,13 +83,16 @@ TEST_P(SupervisorModeTest, LeavingWithYesSavesToTheDayOfTheDateBoxWithTheHeader)
   TypeLine();
   screen.library.QueueAnswer(message::kYes);
   std::string name_at_the_delete;
+  std::string name_at_the_last_load;
   screen.recordsets.OnOpen([&](const OpenedStatement& statement) {
-    if (statement.text.starts_with("DELETE")) name_at_the_delete = form().TxtEmpleado.Text();
+    std::string& name = statement.text.starts_with("DELETE") ? name_at_the_delete : name_at_the_last_load;
+    name = form().TxtEmpleado.Text();
   });
   Leave();
   screen.recordsets.OnOpen({});
   EXPECT_EQ(TakeMessages(screen), Texts{GuardQuestion(6)});
   EXPECT_EQ(name_at_the_delete, "Berta");
+  EXPECT_EQ(name_at_the_last_load, "Berta");
   EXPECT_EQ(StoredOn("2026-11-20"), "P20 P1");
   EXPECT_EQ(StoredOn("2026-11-16"), "P10");
   ExpectLeft();

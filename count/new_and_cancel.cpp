@@ -1,14 +1,13 @@
 #include "form/frm_orvendalciales.h"
-#include "form/pick.h"
 
 namespace orvendal {
 
 void FrmOrvendalciales::LblNuevo_Click(int /*Index*/) {
   TxtEmpleado.Enabled(true);
-  const Pick pick = AbrirSelector(true);
-  if (!pick.accepted) return;
-  TxtEmpleado.Text(pick.name);
-  TxtCodigo.Text(pick.code);
+  const std::unique_ptr<SelectorEmpleado> picker = AbrirSelector(true);
+  if (!picker->Aceptado()) return;
+  TxtEmpleado.Text(picker->Nombre());
+  TxtCodigo.Text(picker->Codigo());
   if (!TxtEmpleado.Text().empty()) TxtEmpleado.Enabled(false);
   CmdEmpl.Enabled(false);
   TxtFechaHora.Visible(false);
@@ -16,7 +15,7 @@ void FrmOrvendalciales::LblNuevo_Click(int /*Index*/) {
   TxtMSF.Text("");
   BtnAnuloSuper.Visible(true);
   TxtMSF.Visible(false);
-  TxtEmpleado.Text(pick.name);  // a second time, as it stands
+  TxtEmpleado.Text(picker->Nombre());  // a second time, as it stands
   MSFProductos.SetFocus();
   PonerBotones(BotonesEnReposo);
   LblSupervisor.Visible(true);
