@@ -1,8 +1,24 @@
 #include "adapters/automation/class_factory.h"
 
+#include <atomic>
 #include <new>
 
 namespace orvendal {
+namespace {
+
+/// Apart from what else keeps the module: a client that unlocks once too often must not take it from under
+/// the objects of others.
+std::atomic<long> locks{0};
+
+bool TakeOneLock() noexcept {
+  long held = locks.load();
+  while (held > 0) {
+    if (locks.compare_exchange_weak(held, held - 1)) return true;
+  }
+  return false;
+}
+
+}  // namespace
 
 HRESULT ClassFactory::QueryInterface(REFIID iid, void** object) noexcept {
   if (!object) return E_POINTER;
@@ -26,10 +42,12 @@ HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object)
 
 HRESULT ClassFactory::LockServer(BOOL lock) noexcept {
   if (lock) {
+    ++locks;
     module_lifetime::Keep();
-  } else {
-    module_lifetime::LetGo();
+    return S_OK;
   }
+  if (!TakeOneLock()) return E_UNEXPECTED;
+  module_lifetime::LetGo();
   return S_OK;
 }
 

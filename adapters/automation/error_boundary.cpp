@@ -16,25 +16,6 @@ constexpr std::int32_t kOutOfMemory = 7;
 
 constinit const wchar_t* error_source = L"";
 
-struct Failure {
-  HRESULT result = E_UNEXPECTED;
-  std::string description;
-};
-
-Failure CurrentFailure() {
-  try {
-    throw;
-  } catch (const RuntimeError& error) {
-    return {HresultOfNumber(error.Number()), error.Description()};
-  } catch (const std::bad_alloc&) {
-    return {HresultOfNumber(kOutOfMemory), "Out of memory"};
-  } catch (const std::exception& error) {
-    return {HresultOfNumber(error_number::kInternal), std::string("Internal error: ") + error.what()};
-  } catch (...) {
-    return {HresultOfNumber(error_number::kInternal), "Internal error"};
-  }
-}
-
 void LeaveErrorInformation(REFIID iid, const std::string& description) {
   ComPtr<ICreateErrorInfo> made;
   if (FAILED(CreateErrorInfo(made.Receive()))) return;
@@ -77,11 +58,25 @@ std::int32_t NumberOfHresult(HRESULT result) noexcept {
   return automation ? static_cast<std::int32_t>(bits & 0xFFFFU) : result;
 }
 
+RuntimeError CurrentError() {
+  try {
+    throw;
+  } catch (const RuntimeError& error) {
+    return error;
+  } catch (const std::bad_alloc&) {
+    return RuntimeError(kOutOfMemory, "Out of memory");
+  } catch (const std::exception& error) {
+    return RuntimeError(error_number::kInternal, std::string("Internal error: ") + error.what());
+  } catch (...) {
+    return RuntimeError(error_number::kInternal, "Internal error");
+  }
+}
+
 HRESULT ReportCurrentException(REFIID iid) noexcept {
   try {
-    const Failure failure = CurrentFailure();
-    LeaveErrorInformation(iid, failure.description);
-    return failure.result;
+    const RuntimeError error = CurrentError();
+    LeaveErrorInformation(iid, error.Description());
+    return HresultOfNumber(error.Number());
   } catch (...) {
     return E_OUTOFMEMORY;
   }
@@ -89,11 +84,11 @@ HRESULT ReportCurrentException(REFIID iid) noexcept {
 
 HRESULT FillExceptionInfo(EXCEPINFO* info) noexcept {
   try {
-    const Failure failure = CurrentFailure();
+    const RuntimeError error = CurrentError();
     if (info) {
-      BSTR description = MakeBstr(failure.description);
+      BSTR description = MakeBstr(error.Description());
       *info = {};
-      info->scode = failure.result;
+      info->scode = HresultOfNumber(error.Number());
       info->bstrSource = SysAllocString(error_source);
       info->bstrDescription = description;
     }

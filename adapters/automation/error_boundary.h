@@ -18,6 +18,9 @@ void NameErrorSource(const wchar_t* name) noexcept;
 [[nodiscard]] HRESULT HresultOfNumber(std::int32_t number) noexcept;
 [[nodiscard]] std::int32_t NumberOfHresult(HRESULT result) noexcept;
 
+/// To be called while an exception is handled, whatever it is: the error that it stands for. 7 where memory
+/// has run out, 51 for what nobody expected.
+RuntimeError CurrentError();
 /// To be called while an exception is handled: its HRESULT, with the module as source and its description
 /// left as the thread's error information for `iid`.
 [[nodiscard]] HRESULT ReportCurrentException(REFIID iid) noexcept;

@@ -5,17 +5,28 @@
 namespace orvendal {
 namespace {
 
-/// VARIANTs refer to VARIANTs no more than once; a chain is cut there.
+constexpr VARTYPE kReference = VT_BYREF | VT_VARIANT;
+
+/// A chain longer than a client makes on purpose may be a ring: it is cut, and what is left is a reference.
 const VARIANT& Behind(const VARIANT& value) {
-  const bool refers = V_VT(&value) == (VT_BYREF | VT_VARIANT) && V_VARIANTREF(&value);
-  return refers ? *V_VARIANTREF(&value) : value;
+  constexpr int kLongestChain = 8;
+  const VARIANT* behind = &value;
+  for (int step = 0; step < kLongestChain && V_VT(behind) == kReference && V_VARIANTREF(behind); ++step) {
+    behind = V_VARIANTREF(behind);
+  }
+  return *behind;
 }
 
 HRESULT Converted(const VARIANT& value, LCID lcid, VARTYPE type, Variant& converted) {
   const VARIANT& behind = Behind(value);
+  const bool refers_to_nothing = (V_VT(&behind) & VT_BYREF) && !V_BYREF(&behind);
+  if (refers_to_nothing || V_VT(&behind) == kReference) return DISP_E_TYPEMISMATCH;
   if (V_VT(&behind) & (VT_ARRAY | VT_VECTOR)) return DISP_E_TYPEMISMATCH;
-  return VariantChangeTypeEx(converted.Address(), const_cast<VARIANT*>(&behind), lcid, VARIANT_ALPHABOOL,
-                             type);
+  const HRESULT result =
+      VariantChangeTypeEx(converted.Address(), const_cast<VARIANT*>(&behind), lcid, VARIANT_ALPHABOOL, type);
+  // An object that has no default property, or one that fails, is no text; nor is no object at all.
+  const bool says_why = SUCCEEDED(result) || result == DISP_E_OVERFLOW || result == E_OUTOFMEMORY;
+  return says_why ? result : DISP_E_TYPEMISMATCH;
 }
 
 }  // namespace

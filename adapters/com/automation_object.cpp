@@ -1,5 +1,6 @@
 #include "adapters/com/automation_object.h"
 
+#include "adapters/automation/dispatch_rules.h"
 #include "adapters/automation/error_boundary.h"
 
 namespace orvendal {
@@ -35,9 +36,10 @@ HRESULT AutomationObject::GetTypeInfo(UINT /*index*/, LCID /*lcid*/, ITypeInfo**
 
 HRESULT AutomationObject::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID /*lcid*/,
                                         DISPID* ids) noexcept {
-  if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+  if (!IsReserved(iid)) return DISP_E_UNKNOWNINTERFACE;
   if (count == 0) return S_OK;
   if (!names || !ids) return E_POINTER;
+  if (!IsAtHome()) return RPC_E_WRONG_THREAD;
   for (UINT index = 0; index < count; ++index) ids[index] = DISPID_UNKNOWN;
   const HRESULT result = Guarded(IID_IDispatch, [&] {
     if (names[0]) ids[0] = IdOf(names[0]);
@@ -49,8 +51,9 @@ HRESULT AutomationObject::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count,
 
 HRESULT AutomationObject::Invoke(DISPID member, REFIID iid, LCID lcid, WORD flags, DISPPARAMS* arguments,
                                  VARIANT* result, EXCEPINFO* exception, UINT* wrong) noexcept {
-  if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-  if (!arguments) return E_INVALIDARG;
+  if (!IsReserved(iid)) return DISP_E_UNKNOWNINTERFACE;
+  if (const HRESULT whole = CheckArguments(arguments); FAILED(whole)) return whole;
+  if (!IsAtHome()) return RPC_E_WRONG_THREAD;
   const bool put = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
   if (arguments->cNamedArgs > (put ? 1U : 0U)) return DISP_E_NONAMEDARGS;
   if (result) VariantInit(result);

@@ -19,7 +19,7 @@ struct AutomationMember {
 
 /// What our objects that are handed out have in common: members by name through Invoke, errors with number
 /// and description. It never keeps alive what it stands for: after a form is gone, everything answers
-/// error 91.
+/// error 91. From another thread than the form's everything answers RPC_E_WRONG_THREAD.
 class AutomationObject : public Counted<IDispatch, ISupportErrorInfo, IOrvendalObject> {
  public:
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
@@ -58,6 +58,11 @@ class AutomationObject : public Counted<IDispatch, ISupportErrorInfo, IOrvendalO
     return there ? &table[member - 1] : nullptr;
   }
   static bool SameName(const wchar_t* left, const wchar_t* right);
+
+ private:
+  bool IsAtHome() const { return GetCurrentThreadId() == home_; }
+
+  const DWORD home_ = GetCurrentThreadId();
 };
 
 }  // namespace orvendal

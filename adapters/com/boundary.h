@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstdint>
+#include <cstring>
 #include <exception>
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "adapters/automation/bstr.h"
@@ -10,6 +13,7 @@
 #include "adapters/automation/module_lifetime.h"
 #include "adapters/com/object_bridge.h"
 #include "adapters/com/store_bridge.h"
+#include "platform/base/value.h"
 
 namespace orvendal {
 
@@ -26,6 +30,18 @@ class CallOut {
  public:
   CallOut() { ForgetErrorInformation(); }
 
+  /// Runs `call`, which answers an HRESULT. Its error information is read before anything else may change it.
+  /// What the other side throws is its error too.
+  template <typename Call>
+  CallOut& Make(Call&& call) {
+    try {
+      const HRESULT result = std::forward<Call>(call)();
+      if (FAILED(result)) error_.emplace(ErrorOfResult(result));
+    } catch (...) {
+      error_.emplace(CurrentError());
+    }
+    return *this;
+  }
   /// Runs `take_over`; what it throws comes out of Finish.
   template <typename TakeOver>
   CallOut& Take(TakeOver&& take_over) {
@@ -36,14 +52,10 @@ class CallOut {
     }
     return *this;
   }
-  /// Throws the error that the call answered, else the first one of taking over.
+  /// Throws the error of the call, else the first one of taking over.
   void Finish() const {
     if (error_) throw *error_;
     if (failure_) std::rethrow_exception(failure_);
-  }
-  /// The result of the call, read before anything else may change the thread's error information.
-  void Answered(HRESULT result) {
-    if (FAILED(result)) error_.emplace(ErrorOfResult(result));
   }
 
  private:
@@ -52,8 +64,54 @@ class CallOut {
   std::exception_ptr failure_;
 };
 
-/// An object on its way out and back by reference. Each cell keeps what it sent, so that the same pointer
-/// coming back is known to be the same object.
+// What goes out and back by reference. The other side may call the component again before it returns, or pump
+// messages that do, so a variable may hold something newer by then: each cell keeps what it sent, and only
+// what the other side replaced is taken over.
+
+/// A number of the same meaning on both sides.
+class LongCell {
+ public:
+  explicit LongCell(std::int32_t number) : sent_(number), cell_(number) {}
+  LONG* InOut() { return &cell_; }
+  void TakeOver(std::int32_t& number) const {
+    if (cell_ != sent_) number = cell_;
+  }
+
+ private:
+  LONG sent_;
+  LONG cell_;
+};
+
+/// The host's number of a width that only the host knows: eight bytes that are never looked into.
+class ScreenDatumCell {
+ public:
+  explicit ScreenDatumCell(const Value& datum)
+      : sent_(datum.IsNumber() ? datum.Number() : 0.0), cell_(sent_) {}
+  double* InOut() { return &cell_; }
+  void TakeOver(Value& datum) const {
+    if (std::memcmp(&cell_, &sent_, sizeof(cell_)) != 0) datum = Value(cell_);
+  }
+
+ private:
+  double sent_;
+  double cell_;
+};
+
+class TextCell {
+ public:
+  explicit TextCell(const std::string& text) : sent_(text), cell_(text) {}
+  BSTR* InOut() { return cell_.InOut(); }
+  void TakeOver(std::string& text) const {
+    std::string now = cell_.Text();
+    if (now != sent_) text = std::move(now);
+  }
+
+ private:
+  std::string sent_;
+  BstrCell cell_;
+};
+
+/// An object: the same pointer coming back is the same object.
 class InterfaceCell {
  public:
   explicit InterfaceCell(ComPtr<IDispatch> object) : sent_(object), cell_(std::move(object)) {}

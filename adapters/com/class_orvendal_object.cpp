@@ -2,6 +2,7 @@
 
 #include "DllTrevano.h"
 #include "adapters/automation/bstr.h"
+#include "adapters/automation/dispatch_rules.h"
 #include "adapters/automation/error_boundary.h"
 #include "adapters/automation/type_information.h"
 #include "adapters/com/component_module.h"
@@ -56,7 +57,7 @@ HRESULT ClassOrvendalObject::GetTypeInfo(UINT index, LCID /*lcid*/, ITypeInfo** 
 
 HRESULT ClassOrvendalObject::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID /*lcid*/,
                                            DISPID* ids) noexcept {
-  if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+  if (!IsReserved(iid)) return DISP_E_UNKNOWNINTERFACE;
   if (count == 0) return S_OK;
   if (!names || !ids) return E_POINTER;
   const auto is_function = [](LPCOLESTR name) {
@@ -75,20 +76,21 @@ HRESULT ClassOrvendalObject::GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT cou
 
 HRESULT ClassOrvendalObject::Invoke(DISPID member, REFIID iid, LCID lcid, WORD flags, DISPPARAMS* arguments,
                                     VARIANT* result, EXCEPINFO* exception, UINT* wrong) noexcept {
-  if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+  if (!IsReserved(iid)) return DISP_E_UNKNOWNINTERFACE;
   if (member != kOrvendal || !(flags & DISPATCH_METHOD)) return DISP_E_MEMBERNOTFOUND;
-  if (!arguments) return E_INVALIDARG;
+  if (const HRESULT whole = CheckArguments(arguments); FAILED(whole)) return whole;
   try {
+    // An argument whose text is an object's own, or the host, may let go of this object while the call runs.
+    const ComPtr<IUnknown> self(static_cast<_ClassOrvendal*>(this));
     OrvendalArguments read;
     const HRESULT reading = ReadOrvendalArguments(*arguments, lcid, read, wrong);
     if (FAILED(reading)) return reading;
-    const ComPtr<IUnknown> self(static_cast<_ClassOrvendal*>(this));
     auto* const host = reinterpret_cast<_DatosClase*>(read.datos_clase.Get());
-    const bool answer = ComponentModule::Instance().Orvendal(host, read.suc, read.puest, read.turn);
+    const VARIANT_BOOL answer = CallComponent(host, read.suc, read.puest, read.turn);
     if (result) {
       VariantInit(result);
       V_VT(result) = VT_BOOL;
-      V_BOOL(result) = answer ? VARIANT_TRUE : VARIANT_FALSE;
+      V_BOOL(result) = answer;
     }
     return S_OK;
   } catch (...) {
@@ -98,16 +100,26 @@ HRESULT ClassOrvendalObject::Invoke(DISPID member, REFIID iid, LCID lcid, WORD f
 
 HRESULT ClassOrvendalObject::Orvendal(_DatosClase** datos_clase, BSTR* suc, BSTR* puest, BSTR* turn,
                                       VARIANT_BOOL* result) noexcept {
-  if (!datos_clase || !suc || !puest || !turn || !result) return E_POINTER;
+  if (!datos_clase || !suc || !puest || !turn || !result) {
+    ForgetErrorInformation();  // what is left of an earlier failure does not explain this one
+    return E_POINTER;
+  }
   *result = VARIANT_FALSE;
   return Guarded(identity::kInterface, [&] {
-    // The host may let go of this object, and of its own, while the call runs.
     const ComPtr<IUnknown> self(static_cast<_ClassOrvendal*>(this));
-    const ComPtr<_DatosClase> host(*datos_clase);
-    const bool answer = ComponentModule::Instance().Orvendal(host.Get(), TextOfBstr(*suc), TextOfBstr(*puest),
-                                                             TextOfBstr(*turn));
-    *result = answer ? VARIANT_TRUE : VARIANT_FALSE;
+    *result = CallComponent(*datos_clase, TextOfBstr(*suc), TextOfBstr(*puest), TextOfBstr(*turn));
   });
+}
+
+VARIANT_BOOL ClassOrvendalObject::CallComponent(_DatosClase* host, const std::string& suc,
+                                                const std::string& puest, const std::string& turn) {
+  if (GetCurrentThreadId() != home_) {
+    ForgetErrorInformation();
+    throw ErrorOfResult(RPC_E_WRONG_THREAD);
+  }
+  const ComPtr<_DatosClase> held(host);
+  const bool answer = ComponentModule::Instance().Orvendal(held.Get(), suc, puest, turn);
+  return answer ? VARIANT_TRUE : VARIANT_FALSE;
 }
 
 HRESULT ClassOrvendalObject::InterfaceSupportsErrorInfo(REFIID iid) noexcept {

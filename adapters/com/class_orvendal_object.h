@@ -1,12 +1,17 @@
 #pragma once
 
+#include <string>
+
 #include "DllOrvendal.h"
 #include "adapters/automation/counted.h"
+
+struct _DatosClase;
 
 namespace orvendal {
 
 /// The component's one public class as COM sees it: callable by its vtable and by Invoke. It has no events,
-/// so it answers for connection points that there are none.
+/// so it answers for connection points that there are none. Its function answers RPC_E_WRONG_THREAD from
+/// another thread than the one that made the object.
 class ClassOrvendalObject final
     : public Counted<_ClassOrvendal, ISupportErrorInfo, IProvideClassInfo, IConnectionPointContainer> {
  public:
@@ -34,6 +39,12 @@ class ClassOrvendalObject final
   // IConnectionPointContainer
   HRESULT STDMETHODCALLTYPE EnumConnectionPoints(IEnumConnectionPoints** points) noexcept override;
   HRESULT STDMETHODCALLTYPE FindConnectionPoint(REFIID iid, IConnectionPoint** point) noexcept override;
+
+ private:
+  VARIANT_BOOL CallComponent(_DatosClase* host, const std::string& suc, const std::string& puest,
+                             const std::string& turn);
+
+  const DWORD home_ = GetCurrentThreadId();
 };
 
 }  // namespace orvendal

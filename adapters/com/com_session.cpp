@@ -3,13 +3,6 @@
 #include "adapters/com/com_session.h"
 
 namespace orvendal {
-namespace {
-
-double CellOf(const Value& value) {
-  return value.IsNumber() ? value.Number() : 0.0;
-}
-
-}  // namespace
 
 ComSession::ComSession(Boundary& boundary, _DatosClase* host) : boundary_(boundary), host_(host) {}
 
@@ -22,37 +15,37 @@ void ComSession::RellenarSesion(const SessionArguments& session) {
   ObjectCell object4(boundary_, session.ObjetoSesion4);
   ObjectCell form1(boundary_, session.FormHost1, ObjectRole::kForm);
   ObjectCell form2(boundary_, session.FormHost2, ObjectRole::kForm);
-  LONG width = session.AnchoBase;
-  LONG height = session.AltoBase;
-  double screen_datum = CellOf(session.DatoPantalla);
+  LongCell width(session.AnchoBase);
+  LongCell height(session.AltoBase);
+  ScreenDatumCell screen_datum(session.DatoPantalla);
   RecordsetCell general(boundary_, session.DiccGeneral);
   RecordsetCell actions(boundary_, session.DiccAcciones);
   RecordsetCell screens(boundary_, session.DiccPantallas);
-  BstrCell chain(session.CadenaSesion);
-  BstrCell branch(session.CodSucursal);
+  TextCell chain(session.CadenaSesion);
+  TextCell branch(session.CodSucursal);
 
-  CallOut call;
-  call.Answered(host->RellenarSesion(connection.InOut(), object1.InOut(), object2.InOut(), object3.InOut(),
-                                     object4.InOut(), form1.InOut(), form2.InOut(), &width, &height,
-                                     &screen_datum, general.InOut(), actions.InOut(), screens.InOut(),
-                                     chain.InOut(), branch.InOut()));
-  call.Take([&] { connection.TakeOver(session.Conexion); })
+  CallOut()
+      .Make([&] {
+        return host->RellenarSesion(connection.InOut(), object1.InOut(), object2.InOut(), object3.InOut(),
+                                    object4.InOut(), form1.InOut(), form2.InOut(), width.InOut(),
+                                    height.InOut(), screen_datum.InOut(), general.InOut(), actions.InOut(),
+                                    screens.InOut(), chain.InOut(), branch.InOut());
+      })
+      .Take([&] { connection.TakeOver(session.Conexion); })
       .Take([&] { object1.TakeOver(session.ObjetoSesion1); })
       .Take([&] { object2.TakeOver(session.ObjetoSesion2); })
       .Take([&] { object3.TakeOver(session.ObjetoSesion3); })
       .Take([&] { object4.TakeOver(session.ObjetoSesion4); })
       .Take([&] { form1.TakeOver(session.FormHost1); })
       .Take([&] { form2.TakeOver(session.FormHost2); })
-      .Take([&] {
-        session.AnchoBase = width;
-        session.AltoBase = height;
-        session.DatoPantalla = Value(screen_datum);
-      })
+      .Take([&] { width.TakeOver(session.AnchoBase); })
+      .Take([&] { height.TakeOver(session.AltoBase); })
+      .Take([&] { screen_datum.TakeOver(session.DatoPantalla); })
       .Take([&] { general.TakeOver(session.DiccGeneral); })
       .Take([&] { actions.TakeOver(session.DiccAcciones); })
       .Take([&] { screens.TakeOver(session.DiccPantallas); })
-      .Take([&] { session.CadenaSesion = chain.Text(); })
-      .Take([&] { session.CodSucursal = branch.Text(); })
+      .Take([&] { chain.TakeOver(session.CadenaSesion); })
+      .Take([&] { branch.TakeOver(session.CodSucursal); })
       .Finish();
 }
 

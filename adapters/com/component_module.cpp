@@ -38,6 +38,9 @@ struct ComponentModule::Loaded {
         boundary{*parts.windows, *parts.store, objects},
         library(boundary),
         state({*parts.windows, *parts.recordsets, library}) {}
+  ~Loaded() { CloseHandle(thread_itself); }
+  Loaded(const Loaded&) = delete;
+  Loaded& operator=(const Loaded&) = delete;
 
   /// Whether a form is loaded, or one that no longer is still has an event of its own under way. The mere
   /// instance that a failed load or a library leaves behind is none.
@@ -55,7 +58,11 @@ struct ComponentModule::Loaded {
     if (form && !known) forms.push_back(form);
   }
 
+  bool IsMine() const { return thread == GetCurrentThreadId() && !ThreadIsGone(); }
+  bool ThreadIsGone() const { return WaitForSingleObject(thread_itself, 0) == WAIT_OBJECT_0; }
+
   const DWORD thread = GetCurrentThreadId();
+  const HANDLE thread_itself = OpenThread(SYNCHRONIZE, FALSE, thread);
   ModuleParts parts;
   ObjectBridge objects;
   Boundary boundary;
@@ -71,8 +78,10 @@ ComponentModule& ComponentModule::Instance() noexcept {
 
 ComponentModule::Loaded& ComponentModule::LoadedState() {
   const std::lock_guard<std::mutex> guard(loading);
-  if (!loaded_) loaded_ = new Loaded(MakeModuleParts());
-  if (loaded_->thread != GetCurrentThreadId()) {
+  // A thread that ended has taken its windows with it, and no other may touch the references that it held:
+  // they stay, and so does the module, but the next thread begins anew.
+  if (!loaded_ || loaded_->ThreadIsGone()) loaded_ = new Loaded(MakeModuleParts());
+  if (!loaded_->IsMine()) {
     ForgetErrorInformation();
     throw ErrorOfResult(RPC_E_WRONG_THREAD);
   }
@@ -102,7 +111,7 @@ bool ComponentModule::LetGoIfUnused() noexcept {
   {
     const std::lock_guard<std::mutex> guard(loading);
     if (!loaded_) return IsFree();
-    if (loaded_->thread != GetCurrentThreadId() || loaded_->HasLivingForm()) return false;
+    if (!loaded_->IsMine() || loaded_->HasLivingForm()) return false;
     dropped = std::exchange(loaded_, nullptr);
   }
   const HMODULE pin = dropped->pin;

@@ -11,7 +11,7 @@ struct _DatosClase;
 namespace orvendal {
 
 /// The component's state in this process, made by the first call of Orvendal and kept until nothing needs the
-/// module any more. It belongs to the thread that made it.
+/// module any more. It belongs to the thread that made it; when that has ended, the next one has its own.
 class ComponentModule {
  public:
   static ComponentModule& Instance() noexcept;

@@ -13,9 +13,7 @@ VARIANT_BOOL FlagOf(bool value) {
 /// A call without anything by reference.
 template <typename Call>
 void CallPlainly(Call&& plain) {
-  CallOut call;
-  call.Answered(plain());
-  call.Finish();
+  CallOut().Make(std::forward<Call>(plain)).Finish();
 }
 
 }  // namespace
@@ -27,18 +25,16 @@ ComMessages::ComMessages(Boundary& boundary)
 void ComMessages::Mostrar(std::string& texto, std::int32_t& estilo, std::string& titulo,
                           std::int32_t& respuesta) {
   const ModalScope dialog(boundary_.windows);
-  BstrCell text(texto);
-  LONG style = estilo;
-  BstrCell title(titulo);
-  LONG answer = respuesta;
-  CallOut call;
-  call.Answered(object_->Mostrar(text.InOut(), &style, title.InOut(), &answer));
-  call.Take([&] {
-        texto = text.Text();
-        titulo = title.Text();
-        estilo = style;
-        respuesta = answer;
-      })
+  TextCell text(texto);
+  LongCell style(estilo);
+  TextCell title(titulo);
+  LongCell answer(respuesta);
+  CallOut()
+      .Make([&] { return object_->Mostrar(text.InOut(), style.InOut(), title.InOut(), answer.InOut()); })
+      .Take([&] { text.TakeOver(texto); })
+      .Take([&] { style.TakeOver(estilo); })
+      .Take([&] { title.TakeOver(titulo); })
+      .Take([&] { answer.TakeOver(respuesta); })
       .Finish();
 }
 
@@ -51,26 +47,27 @@ void ComSessionChange::AbrirCambio(ConnectionRef& conexion, Value& dato_pantalla
                                    std::int32_t& alto_base, std::int32_t& resultado) {
   const ModalScope dialog(boundary_.windows);
   ConnectionCell connection(boundary_, conexion);
-  double screen_datum = dato_pantalla.IsNumber() ? dato_pantalla.Number() : 0.0;
-  BstrCell branch(cod_sucursal);
-  BstrCell workstation(cod_puesto);
-  BstrCell shift(cod_turno);
-  LONG width = ancho_base;
-  LONG height = alto_base;
-  LONG outcome = resultado;
-  CallOut call;
-  call.Answered(object_->AbrirCambio(connection.InOut(), &screen_datum, branch.InOut(), workstation.InOut(),
-                                     shift.InOut(), &width, &height, &outcome));
-  call.Take([&] { connection.TakeOver(conexion); })
-      .Take([&] {
-        dato_pantalla = Value(screen_datum);
-        cod_sucursal = branch.Text();
-        cod_puesto = workstation.Text();
-        cod_turno = shift.Text();
-        ancho_base = width;
-        alto_base = height;
-        resultado = outcome;
+  ScreenDatumCell screen_datum(dato_pantalla);
+  TextCell branch(cod_sucursal);
+  TextCell workstation(cod_puesto);
+  TextCell shift(cod_turno);
+  LongCell width(ancho_base);
+  LongCell height(alto_base);
+  LongCell outcome(resultado);
+  CallOut()
+      .Make([&] {
+        return object_->AbrirCambio(connection.InOut(), screen_datum.InOut(), branch.InOut(),
+                                    workstation.InOut(), shift.InOut(), width.InOut(), height.InOut(),
+                                    outcome.InOut());
       })
+      .Take([&] { connection.TakeOver(conexion); })
+      .Take([&] { screen_datum.TakeOver(dato_pantalla); })
+      .Take([&] { branch.TakeOver(cod_sucursal); })
+      .Take([&] { workstation.TakeOver(cod_puesto); })
+      .Take([&] { shift.TakeOver(cod_turno); })
+      .Take([&] { width.TakeOver(ancho_base); })
+      .Take([&] { height.TakeOver(alto_base); })
+      .Take([&] { outcome.TakeOver(resultado); })
       .Finish();
 }
 
@@ -92,10 +89,12 @@ std::string ComProductSearch::Buscar(DatosClaseRef& datos_sesion, ObjectRef& for
   BstrCell mode(modo);
   VARIANT_BOOL flag = FlagOf(indicador);
   BstrCell code;
-  CallOut call;
-  call.Answered(object_->Buscar(session.InOut(), form.InOut(), caller.InOut(), field.InOut(), start.InOut(),
-                                mode.InOut(), &flag, code.InOut()));
-  call.Take([&] {
+  CallOut()
+      .Make([&] {
+        return object_->Buscar(session.InOut(), form.InOut(), caller.InOut(), field.InOut(), start.InOut(),
+                               mode.InOut(), &flag, code.InOut());
+      })
+      .Take([&] {
         if (session.Get() == (sent ? sent->Host() : nullptr)) return;
         datos_sesion = session ? std::make_shared<ComSession>(boundary_, session.Get()) : nullptr;
       })
@@ -148,10 +147,12 @@ void ComEmployeePicker::Nombre(const std::string& value) {
 void ComEmployeePicker::Elegir(ConnectionRef& conexion, std::string& cod_sucursal) {
   const ModalScope dialog(boundary_.windows);
   ConnectionCell connection(boundary_, conexion);
-  BstrCell branch(cod_sucursal);
-  CallOut call;
-  call.Answered(object_->Elegir(connection.InOut(), branch.InOut()));
-  call.Take([&] { connection.TakeOver(conexion); }).Take([&] { cod_sucursal = branch.Text(); }).Finish();
+  TextCell branch(cod_sucursal);
+  CallOut()
+      .Make([&] { return object_->Elegir(connection.InOut(), branch.InOut()); })
+      .Take([&] { connection.TakeOver(conexion); })
+      .Take([&] { branch.TakeOver(cod_sucursal); })
+      .Finish();
 }
 
 }  // namespace orvendal

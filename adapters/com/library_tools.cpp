@@ -13,67 +13,67 @@ int ComTools::FiltrarTecla(TextBox& caja, int key_ascii, bool opcion) {
   auto key = static_cast<SHORT>(key_ascii);
   VARIANT_BOOL option = opcion ? VARIANT_TRUE : VARIANT_FALSE;
   SHORT filtered = 0;
-  CallOut call;
-  call.Answered(object_->FiltrarTecla(box.InOut(), &key, &option, &filtered));
-  call.Finish();
+  CallOut().Make([&] { return object_->FiltrarTecla(box.InOut(), &key, &option, &filtered); }).Finish();
   return filtered;
 }
 
 void ComTools::AccionPuesto(ConnectionRef& conexion, std::string& cod_puesto) {
   const ModalScope dialog(boundary_.windows);
   ConnectionCell connection(boundary_, conexion);
-  BstrCell workstation(cod_puesto);
-  CallOut call;
-  call.Answered(object_->AccionPuesto(connection.InOut(), workstation.InOut()));
-  call.Take([&] { connection.TakeOver(conexion); }).Take([&] { cod_puesto = workstation.Text(); }).Finish();
+  TextCell workstation(cod_puesto);
+  CallOut()
+      .Make([&] { return object_->AccionPuesto(connection.InOut(), workstation.InOut()); })
+      .Take([&] { connection.TakeOver(conexion); })
+      .Take([&] { workstation.TakeOver(cod_puesto); })
+      .Finish();
 }
 
 void ComTools::LiberarForm(ObjectRef& formulario) {
   ObjectCell form(boundary_, formulario);
-  CallOut call;
-  call.Answered(object_->LiberarForm(form.InOut()));
-  call.Take([&] { form.TakeOver(formulario); }).Finish();
+  CallOut()
+      .Make([&] { return object_->LiberarForm(form.InOut()); })
+      .Take([&] { form.TakeOver(formulario); })
+      .Finish();
 }
 
 std::string ComTools::FormatoFecha(std::string& fecha, std::uint8_t opcion, std::string& modo1,
                                    std::string& modo2) {
-  BstrCell date(fecha);
+  TextCell date(fecha);
   unsigned char option = opcion;
-  BstrCell mode1(modo1);
-  BstrCell mode2(modo2);
+  TextCell mode1(modo1);
+  TextCell mode2(modo2);
   BstrCell text;
-  CallOut call;
-  call.Answered(object_->FormatoFecha(date.InOut(), &option, mode1.InOut(), mode2.InOut(), text.InOut()));
-  call.Take([&] {
-    fecha = date.Text();
-    modo1 = mode1.Text();
-    modo2 = mode2.Text();
-  });
-  call.Finish();
+  CallOut()
+      .Make([&] {
+        return object_->FormatoFecha(date.InOut(), &option, mode1.InOut(), mode2.InOut(), text.InOut());
+      })
+      .Take([&] { date.TakeOver(fecha); })
+      .Take([&] { mode1.TakeOver(modo1); })
+      .Take([&] { mode2.TakeOver(modo2); })
+      .Finish();
   return text.Text();
 }
 
 void ComTools::RegistrarSentencia(std::string& cadena_sesion, ConnectionRef& conexion,
                                   std::string& sentencia) {
-  BstrCell chain(cadena_sesion);
+  TextCell chain(cadena_sesion);
   ConnectionCell connection(boundary_, conexion);
-  BstrCell statement(sentencia);
-  CallOut call;
-  call.Answered(object_->RegistrarSentencia(chain.InOut(), connection.InOut(), statement.InOut()));
-  call.Take([&] { connection.TakeOver(conexion); })
-      .Take([&] {
-        cadena_sesion = chain.Text();
-        sentencia = statement.Text();
-      })
+  TextCell statement(sentencia);
+  CallOut()
+      .Make([&] { return object_->RegistrarSentencia(chain.InOut(), connection.InOut(), statement.InOut()); })
+      .Take([&] { connection.TakeOver(conexion); })
+      .Take([&] { chain.TakeOver(cadena_sesion); })
+      .Take([&] { statement.TakeOver(sentencia); })
       .Finish();
 }
 
 std::string ComTools::FechaHoraTexto(Date& momento) {
   DATE moment = momento.Serial();
   BstrCell text;
-  CallOut call;
-  call.Answered(object_->FechaHoraTexto(&moment, text.InOut()));
-  call.Take([&] { momento = Date::FromSerial(moment); }).Finish();
+  CallOut()
+      .Make([&] { return object_->FechaHoraTexto(&moment, text.InOut()); })
+      .Take([&] { momento = Date::FromSerial(moment); })
+      .Finish();
   return text.Text();
 }
 
@@ -84,17 +84,17 @@ ComRecalculation::ComRecalculation(Boundary& boundary)
 void ComRecalculation::RecalcularProducto(ConnectionRef& conexion, std::string& clave_sucursal,
                                           std::string& codigo, std::string& texto) {
   ConnectionCell connection(boundary_, conexion);
-  BstrCell branch(clave_sucursal);
-  BstrCell code(codigo);
-  BstrCell text(texto);
-  CallOut call;
-  call.Answered(object_->RecalcularProducto(connection.InOut(), branch.InOut(), code.InOut(), text.InOut()));
-  call.Take([&] { connection.TakeOver(conexion); })
-      .Take([&] {
-        clave_sucursal = branch.Text();
-        codigo = code.Text();
-        texto = text.Text();
+  TextCell branch(clave_sucursal);
+  TextCell code(codigo);
+  TextCell text(texto);
+  CallOut()
+      .Make([&] {
+        return object_->RecalcularProducto(connection.InOut(), branch.InOut(), code.InOut(), text.InOut());
       })
+      .Take([&] { connection.TakeOver(conexion); })
+      .Take([&] { branch.TakeOver(clave_sucursal); })
+      .Take([&] { code.TakeOver(codigo); })
+      .Take([&] { text.TakeOver(texto); })
       .Finish();
 }
 

@@ -201,6 +201,9 @@ class Factory final : public IClassFactory {
     return left;
   }
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID iid, void** object) override {
+    *object = nullptr;
+    if (FAILED(behaviour_.creation)) return behaviour_.creation;
+    if (behaviour_.makes_strangers) return MakeFake<PlainObject>()->QueryInterface(iid, object);
     return MakeFake<Class>(behaviour_)->QueryInterface(iid, object);
   }
   HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }

@@ -27,6 +27,10 @@ struct LibraryBehaviour {
   std::function<HRESULT(IDispatch** connection, BSTR* branch)> pick;
   std::function<HRESULT(IDispatch** connection, BSTR* branch, BSTR* code, BSTR* text)> recalculate;
 
+  /// What making an object answers, and whether it is an object of another class.
+  HRESULT creation = S_OK;
+  bool makes_strangers = false;
+
   bool picker_accepts = true;
   std::wstring picked_code = L"E1";
   std::wstring picked_name = L"Ana";
