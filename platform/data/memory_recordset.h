@@ -21,15 +21,15 @@ class MemoryRecordset final : public Recordset {
 
   void Open(const std::string& source, const ConnectionRef& connection, CursorType cursor, LockType lock,
             std::int32_t options) override;
-  void Close() override { state_ = kStateClosed; }
+  void Close() override;
   std::int32_t State() const override { return state_; }
-  std::int32_t EditMode() const override { return 0; }
-  bool AtEnd() const override { return at_end_; }
+  std::int32_t EditMode() const override;
+  bool AtEnd() const override;
   void MoveNext() override;
-  std::int32_t RecordCount() const override { return 1; }
+  std::int32_t RecordCount() const override;
   void Find(const std::string& criteria, std::int32_t skip_records, SearchDirection direction) override;
   void AbsolutePosition(std::int32_t position) override;
-  std::size_t FieldCount() const override { return row_.size(); }
+  std::size_t FieldCount() const override { return state_ == kStateOpen ? row_.size() : 0; }
   std::string FieldName(std::size_t index) const override { return row_[index].first; }
   void AddNew() override;
   void Collect(std::string_view name, const Value& value) override;
@@ -41,6 +41,8 @@ class MemoryRecordset final : public Recordset {
   Value FieldValue(std::size_t index) const override;
 
  private:
+  void CheckOpen() const;
+
   std::vector<NamedValue> row_;
   std::int32_t state_ = kStateOpen;
   bool at_end_ = false;
