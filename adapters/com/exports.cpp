@@ -1,6 +1,7 @@
+#include "adapters/automation/registration.h"
 #include "adapters/com/component_factory.h"
 #include "adapters/com/component_module.h"
-#include "adapters/com/registration.h"
+#include "adapters/com/identity.h"
 
 // The four entry points of an in-process server, and a DllMain that does nothing under the loader's lock.
 
@@ -15,11 +16,11 @@ HRESULT WINAPI DllCanUnloadNow() {
 }
 
 HRESULT WINAPI DllRegisterServer() {
-  return orvendal::Register();
+  return orvendal::Register(orvendal::identity::kRegistered);
 }
 
 HRESULT WINAPI DllUnregisterServer() {
-  return orvendal::Unregister();
+  return orvendal::Unregister(orvendal::identity::kRegistered);
 }
 
 BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD /*reason*/, LPVOID /*reserved*/) {

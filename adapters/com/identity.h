@@ -1,6 +1,7 @@
 #pragma once
 
 #include "adapters/automation/com_headers.h"
+#include "adapters/automation/registration.h"
 
 namespace orvendal {
 
@@ -9,7 +10,6 @@ namespace identity {
 
 inline constexpr wchar_t kProject[] = L"DllOrvendal";
 inline constexpr wchar_t kClassName[] = L"ClassOrvendal";
-inline constexpr wchar_t kProgId[] = L"DllOrvendal.ClassOrvendal";
 inline constexpr wchar_t kInterfaceName[] = L"_ClassOrvendal";
 inline constexpr wchar_t kVersion[] = L"1.0";
 inline constexpr WORD kMajor = 1;
@@ -29,6 +29,10 @@ inline constexpr GUID kFormInterface = {
 /// {E1E51C00-F9A7-4D53-88E1-DB772D140976}, the host object's.
 inline constexpr GUID kHostInterface = {
     0xE1E51C00, 0xF9A7, 0x4D53, {0x88, 0xE1, 0xDB, 0x77, 0x2D, 0x14, 0x09, 0x76}};
+
+inline constexpr RegisteredName kClasses[] = {{kClassName, kClass}};
+inline constexpr RegisteredName kInterfaces[] = {{kInterfaceName, kInterface}};
+inline constexpr ModuleIdentity kRegistered = {kProject, kVersion, kTypeLibrary, kClasses, kInterfaces};
 
 }  // namespace identity
 }  // namespace orvendal
