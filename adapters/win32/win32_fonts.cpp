@@ -1,6 +1,7 @@
 #include "adapters/win32/win32_fonts.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <string_view>
 
@@ -12,6 +13,54 @@ constexpr LONG kLightestBold = 600;
 
 int HeightInPixels(double points, int dpi) {
   return std::max(1, static_cast<int>(std::floor(points * dpi / kPointsPerInch + 0.5)));
+}
+
+// A family that not every system has, and what may stand in for it, the likest first; the system chooses
+// among those of the same sort if it has none of them.
+struct StandIns {
+  const wchar_t* name;
+  BYTE sort;
+  std::array<const wchar_t*, 5> others;
+};
+constexpr StandIns kStandIns[] = {
+    {L"Bookman Old Style",
+     VARIABLE_PITCH | FF_ROMAN,
+     {L"URW Bookman", L"Bookman URW", L"TeX Gyre Bonum", L"Century Schoolbook", L"Georgia"}},
+    {L"MS Sans Serif",
+     VARIABLE_PITCH | FF_SWISS,
+     {L"Microsoft Sans Serif", L"Arial", L"Liberation Sans", L"Nimbus Sans", L"Tahoma"}},
+};
+
+int CALLBACK NoteFace(const LOGFONTW* /*face*/, const TEXTMETRICW* /*metrics*/, DWORD /*kind*/,
+                      LPARAM parameter) noexcept {
+  *reinterpret_cast<bool*>(parameter) = true;
+  return 0;
+}
+
+void TakeFamily(LOGFONTW& wanted, std::wstring_view name) {
+  const std::size_t length = name.copy(wanted.lfFaceName, LF_FACESIZE - 1);
+  wanted.lfFaceName[length] = L'\0';
+}
+
+bool IsInstalled(HDC dc, const wchar_t* name) {
+  LOGFONTW family{};
+  family.lfCharSet = DEFAULT_CHARSET;
+  TakeFamily(family, name);
+  bool found = false;
+  EnumFontFamiliesExW(dc, &family, NoteFace, reinterpret_cast<LPARAM>(&found), 0);
+  return found;
+}
+
+void ReplaceMissingFamily(HDC dc, LOGFONTW& wanted) {
+  for (const StandIns& family : kStandIns) {
+    if (lstrcmpiW(family.name, wanted.lfFaceName) != 0) continue;
+    wanted.lfPitchAndFamily = family.sort;
+    if (IsInstalled(dc, family.name)) return;
+    const auto other = std::find_if(family.others.begin(), family.others.end(),
+                                    [&](const wchar_t* name) { return IsInstalled(dc, name); });
+    if (other != family.others.end()) TakeFamily(wanted, *other);
+    return;
+  }
 }
 
 struct BoldSearch {
@@ -65,8 +114,8 @@ const Win32Fonts::Kept& Win32Fonts::Entry(const FontSpec& spec, int dpi) {
   wanted.lfWeight = spec.weight;
   wanted.lfItalic = spec.italic ? TRUE : FALSE;
   wanted.lfCharSet = DEFAULT_CHARSET;
-  const std::wstring name = Wide(spec.name);
-  name.copy(wanted.lfFaceName, std::min<std::size_t>(name.size(), LF_FACESIZE - 1));
+  TakeFamily(wanted, Wide(spec.name));
+  ReplaceMissingFamily(dc_, wanted);
   PreferOwnBold(dc_, wanted);
   Kept kept;
   kept.font = CreateFontIndirectW(&wanted);

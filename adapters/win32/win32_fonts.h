@@ -13,7 +13,8 @@ namespace orvendal {
 /// The system's fonts for the fonts that forms name, each made once.
 ///
 /// A font is a whole number of device pixels high, the nearest to its points; so the fonts kept are bounded
-/// by the heights that occur. Measures are in pixels of the given resolution.
+/// by the heights that occur. Measures are in pixels of the given resolution. A family that is not installed
+/// is replaced by one that looks like it.
 class Win32Fonts {
  public:
   struct Measures {
