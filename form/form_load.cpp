@@ -18,7 +18,7 @@ void FrmOrvendalciales::Form_Load() {
   variables.MoviendoColumna = false;
   SetCaptions();
   DefineLineGrid();
-  FitEditor();
+  FitEditor(10);
   DefineSnapshotGrid();
   variables.ModoNuevo = false;
   LblSucursal.Tag(Session().ClaveSucursal());
@@ -35,13 +35,11 @@ void FrmOrvendalciales::SetCaptions() {
   for (Label* click_area : {&LblNuevo_1, &LblBuscar_1, &LblBorrar_1, &LblGuardar_1, &LblCancelar_1}) {
     click_area->Caption("");
   }
-  // Alone, a Null is an error; joined with blanks it gives the blanks.
   const auto read = [this](RecordsetRef& dictionary, const char* key) {
     return TextOf(Word(dictionary, key));
   };
   const auto join = [this](RecordsetRef& dictionary, const char* key) {
-    const Value value = Word(dictionary, key);
-    return value.IsNull() ? std::string() : TextOf(value);
+    return JoinedTextOf(Word(dictionary, key));
   };
   DatosComunes& session = Session();
   LblNuevo_0.Caption(read(session.DiccAcciones, "Supervisor"));
@@ -67,8 +65,8 @@ void FrmOrvendalciales::NameBranch() {
     const double right = LblSucursal.Left() + LblSucursal.Width();
     const Value word = Word(Session().DiccGeneral, "Sucursal");
     const Value name = branches->Fields("Nombre").Value();
-    LblSucursal.Caption(kBlanks + (word.IsNull() ? std::string() : TextOf(word)) + " " + LblSucursal.Tag() +
-                        " " + (name.IsNull() ? std::string() : TextOf(name)) + kBlanks);
+    LblSucursal.Caption(kBlanks + JoinedTextOf(word) + " " + LblSucursal.Tag() + " " + JoinedTextOf(name) +
+                        kBlanks);
     LblSucursal.Left(right - LblSucursal.Width());
   }
   branches->Close();
@@ -88,11 +86,7 @@ void FrmOrvendalciales::FitToScreen() {
   EscalarControles(*this, screen_width, screen_height, Session().AnchoBase, Session().AltoBase);
 
   FitDescriptionColumn();
-
-  TxtMSF.Height(MSFProductos.RowHeightMin() + 10);
-  TxtMSF.Width(MSFProductos.ColWidth(1));  // without the 10 twips of the first fit
-  TxtMSF.Left(MSFProductos.Left() + MSFProductos.ColWidth(0));
-  TxtMSF.Top(MSFProductos.Top() + MSFProductos.RowHeightMin());
+  FitEditor(0);  // without the twips of the first fit
 
   for (const ActionButton& button : Buttons()) {
     button.face.Width(button.face.Width() + 80);

@@ -175,7 +175,7 @@ class FrmOrvendalciales final : public Form {
   void SetCaptions();
   void DefineLineGrid();
   void FitDescriptionColumn();
-  void FitEditor();
+  void FitEditor(double beyond_column);
   void DefineSnapshotGrid();
   void NameBranch();
   void SetDates();
@@ -186,6 +186,8 @@ class FrmOrvendalciales final : public Form {
   DatosComunes& Session() { return state_.session; }
   const Region& UserRegion() { return Host().UserRegion(); }
   std::string TextOf(const Value& value) { return UserRegion().ToText(value); }
+  /// The text of a value that is joined with others: alone, a Null is an error; joined, it adds nothing.
+  std::string JoinedTextOf(const Value& value) { return value.IsNull() ? std::string() : TextOf(value); }
   RecordsetRef NewRecordset() { return state_.environment.recordsets.NewRecordset(); }
   /// An object variable that comes into being on first use. Who holds the result keeps the object, even if
   /// the variable is emptied meanwhile.

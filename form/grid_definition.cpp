@@ -45,9 +45,10 @@ void FrmOrvendalciales::FitDescriptionColumn() {
                                grid.ColWidth(5) - 300));
 }
 
-void FrmOrvendalciales::FitEditor() {
+// Over the description of the first line; `beyond_column` twips wider than that.
+void FrmOrvendalciales::FitEditor(double beyond_column) {
   TxtMSF.Height(MSFProductos.RowHeightMin() + 10);
-  TxtMSF.Width(MSFProductos.ColWidth(1) + 10);
+  TxtMSF.Width(MSFProductos.ColWidth(1) + beyond_column);
   TxtMSF.Left(MSFProductos.Left() + MSFProductos.ColWidth(0));
   TxtMSF.Top(MSFProductos.Top() + MSFProductos.RowHeightMin());
 }
