@@ -1,9 +1,10 @@
 #include "host/command_line.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
-#include <cstdlib>
-#include <filesystem>
+
+#include "host/default_store.h"
 
 namespace orvendal {
 namespace {
@@ -248,18 +249,6 @@ class Reader {
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments, Language system_language,
                             const std::vector<Command>& commands) {
   return Reader(LanguageAskedFor(arguments, system_language), commands).Read(arguments);
-}
-
-std::string DefaultStore() {
-  namespace fs = std::filesystem;
-  const auto folder = [](const char* variable) {
-    const char* value = std::getenv(variable);
-    const fs::path path = value == nullptr ? fs::path() : fs::path(value);
-    return path.is_absolute() ? path : fs::path();
-  };
-  fs::path data = folder("XDG_DATA_HOME");
-  if (data.empty() && !folder("HOME").empty()) data = folder("HOME") / ".local" / "share";
-  return data.empty() ? "cadena.db" : (data / "orvendal" / "cadena.db").string();
 }
 
 }  // namespace orvendal

@@ -60,7 +60,4 @@ inline constexpr int kExitWrongUse = 2;
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments, Language system_language,
                             const std::vector<Command>& commands);
 
-/// The file of the store if none is named: orvendal/cadena.db where the user's data belong.
-std::string DefaultStore();
-
 }  // namespace orvendal

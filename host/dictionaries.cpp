@@ -1,7 +1,10 @@
 #include "host/dictionaries.h"
 
 #include <memory>
+#include <span>
+#include <string>
 
+#include "host/store_rows.h"
 #include "platform/data/memory_recordset.h"
 
 namespace orvendal {
@@ -35,16 +38,24 @@ constexpr Entry kPantallas[] = {
     {"Orvendalciales", "Orvendal", "Orvendal", "Orvendal"},
 };
 
-template <std::size_t count>
-RecordsetRef MakeDictionary(const Entry (&entries)[count], Language language) {
+const char* TextIn(const Entry& entry, Language language) {
+  if (language == Language::kCatalan) return entry.catalan;
+  return language == Language::kEnglish ? entry.english : entry.spanish;
+}
+
+RecordsetRef MakeDictionary(std::span<const Entry> entries, Language language) {
   std::vector<MemoryRecordset::NamedValue> row;
-  for (const Entry& entry : entries) {
-    const char* text = entry.spanish;
-    if (language == Language::kCatalan) text = entry.catalan;
-    if (language == Language::kEnglish) text = entry.english;
-    row.emplace_back(entry.key, text);
-  }
+  for (const Entry& entry : entries) row.emplace_back(entry.key, TextIn(entry, language));
   return std::make_shared<MemoryRecordset>(std::move(row));
+}
+
+std::string DictionaryStatement(std::span<const Entry> entries, Language language) {
+  std::string statement;
+  for (const Entry& entry : entries) {
+    statement += statement.empty() ? "SELECT " : ", ";
+    statement += SqlText(TextIn(entry, language)) + " AS [" + entry.key + "]";
+  }
+  return statement;
 }
 
 }  // namespace
@@ -52,6 +63,14 @@ RecordsetRef MakeDictionary(const Entry (&entries)[count], Language language) {
 Dictionaries MakeDictionaries(Language language) {
   return {MakeDictionary(kGeneral, language), MakeDictionary(kAcciones, language),
           MakeDictionary(kPantallas, language)};
+}
+
+Dictionaries SelectDictionaries(RecordsetFactory& recordsets, const ConnectionRef& connection,
+                                Language language) {
+  const auto select = [&](std::span<const Entry> entries) {
+    return ReadRows(recordsets, connection, DictionaryStatement(entries, language));
+  };
+  return {select(kGeneral), select(kAcciones), select(kPantallas)};
 }
 
 }  // namespace orvendal

@@ -15,4 +15,9 @@ struct Dictionaries {
 /// New ones, each standing on its row.
 Dictionaries MakeDictionaries(Language language);
 
+/// The same as recordsets of a store, for hosts whose dictionaries go where only the store's own are known:
+/// each is the one record of a statement without a table.
+Dictionaries SelectDictionaries(RecordsetFactory& recordsets, const ConnectionRef& connection,
+                                Language language);
+
 }  // namespace orvendal

@@ -17,13 +17,13 @@ namespace orvendal {
 struct HostContext {
   WindowHost& window_host;
   MessagePresenter& messages;
-  const Words& words;
+  std::reference_wrapper<const Words> words;
   /// For the library's own statements, which nobody watches.
   RecordsetFactory& recordsets;
 
   /// The open connection of the application.
   ConnectionRef connection;
-  /// Opens the store anew; raises StoreUnavailable.
+  /// Opens the store anew; raises StoreUnavailable. Empty where the host cannot.
   std::function<ConnectionRef()> reopen_store;
   /// The store as it is named to the user.
   std::string store_name;

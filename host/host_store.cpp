@@ -13,6 +13,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Texts are UTF-8 on every system.
+fs::path PathOf(const std::string& utf8) {
+  return std::u8string(utf8.begin(), utf8.end());
+}
+std::string TextOf(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
 constexpr const char* kInMemory = ":memory:";
 constexpr std::array kTables = {"Sucursales",  "Empleados",    "Productos",
                                 "Referencias", "ProdSucStock", "HistOrvendalcial"};
@@ -50,12 +59,12 @@ std::string_view ReasonOfCode(int code, const Words& words) {
 
 StoreUnavailable Explain(const StoreSettings& settings, const RuntimeError& error, bool may_make) {
   const Words& words = settings.words;
-  const fs::path file(settings.path);
+  const fs::path file = PathOf(settings.path);
   std::error_code ignored;
   if (settings.path != kInMemory) {
     const fs::path folder = file.parent_path();
     if (!folder.empty() && !fs::is_directory(folder, ignored)) {
-      return StoreUnavailable(Fill(words.folder_missing, {folder.string()}));
+      return StoreUnavailable(Fill(words.folder_missing, {TextOf(folder)}));
     }
     if (fs::is_directory(file, ignored))
       return StoreUnavailable(Fill(words.store_is_folder, {settings.path}));

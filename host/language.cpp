@@ -12,7 +12,7 @@ std::optional<Language> LanguageNamed(std::string_view name) {
 }
 
 Language LanguageOfLocale(std::string_view locale) {
-  const std::string_view name = locale.substr(0, locale.find_first_of("_.@"));
+  const std::string_view name = locale.substr(0, locale.find_first_of("_-.@"));
   return LanguageNamed(name).value_or(Language::kSpanish);
 }
 

@@ -11,6 +11,7 @@
 #include "component/class_orvendal.h"
 #include "form/frm_orvendalciales.h"
 #include "host/day_lines.h"
+#include "host/default_store.h"
 #include "host/host_store.h"
 #include "host/sample_session.h"
 #include "host/stand_in_library.h"

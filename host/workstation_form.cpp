@@ -56,6 +56,7 @@ void WorkstationForm::ApplyDesign() {
   DesignButton(CmdReconectar, words.reconnect,
                {right - 2 * kButtonWidth - kGap, buttons_top, kButtonWidth, kButtonHeight}, 0);
   DesignButton(CmdCerrar, words.close, {right - kButtonWidth, buttons_top, kButtonWidth, kButtonHeight}, 1);
+  CmdReconectar.Enabled(static_cast<bool>(context_.reopen_store));
   ShowValues(words.store_open);
 }
 
@@ -91,7 +92,7 @@ void WorkstationForm::Reconnect() {
     return;
   }
   context_.connection = store_;
-  ShowValues(context_.words.store_opened_anew);
+  ShowValues(context_.words.get().store_opened_anew);
 }
 
 }  // namespace orvendal

@@ -1,0 +1,107 @@
+#include "host/windows/library/library_objects.h"
+
+#include "host/quantity_filter.h"
+#include "host/windows/library/in_out.h"
+#include "host/windows/library/library_state.h"
+#include "host/windows/library/object_property.h"
+
+namespace orvendal {
+
+ToolsObject::ToolsObject() noexcept : DualObject(__uuidof(_Herramientas), __uuidof(::Herramientas)) {}
+
+HRESULT ToolsObject::FiltrarTecla(IDispatch** caja, SHORT* key_ascii, VARIANT_BOOL* opcion,
+                                  SHORT* tecla) noexcept {
+  return Do([&] {
+    for (const void* place : {static_cast<void*>(caja), static_cast<void*>(key_ascii),
+                              static_cast<void*>(opcion), static_cast<void*>(tecla)}) {
+      RequireReference(place);
+    }
+    const ComPtr<IDispatch> box(*caja);
+    const EditedText text{TextProperty(box.Get(), L"Text"),
+                          static_cast<int>(LongProperty(box.Get(), L"SelStart")),
+                          static_cast<int>(LongProperty(box.Get(), L"SelLength"))};
+    const QuantityKey filtered =
+        FilterQuantityKey(text, *key_ascii, LibraryState::Of().Windows(), *opcion != VARIANT_FALSE);
+    if (filtered.instead) SetTextProperty(box.Get(), L"SelText", *filtered.instead);
+    *tecla = static_cast<SHORT>(filtered.key);
+  });
+}
+
+HRESULT ToolsObject::AccionPuesto(IDispatch** conexion, BSTR* cod_puesto) noexcept {
+  return Do([&] {
+    ConnectionInOut connection(conexion);
+    TextInOut workstation(cod_puesto);
+    LibraryState::Of().Library().NewHerramientas()->AccionPuesto(connection.connection, workstation.text);
+    connection.Give();
+    workstation.Give();
+  });
+}
+
+HRESULT ToolsObject::LiberarForm(IDispatch** formulario) noexcept {
+  return Do([&] {
+    RequireReference(formulario);
+    Replace(*formulario, {});
+  });
+}
+
+HRESULT ToolsObject::FormatoFecha(BSTR* fecha, unsigned char* opcion, BSTR* modo1, BSTR* modo2,
+                                  BSTR* texto) noexcept {
+  return Do([&] {
+    RequireReference(opcion);
+    TextInOut date(fecha);
+    TextInOut first_mode(modo1);
+    TextInOut second_mode(modo2);
+    GiveText(texto, LibraryState::Of().Library().NewHerramientas()->FormatoFecha(
+                        date.text, *opcion, first_mode.text, second_mode.text));
+  });
+}
+
+HRESULT ToolsObject::RegistrarSentencia(BSTR* cadena_sesion, IDispatch** conexion, BSTR* sentencia) noexcept {
+  return Do([&] {
+    TextInOut session(cadena_sesion);
+    ConnectionInOut connection(conexion);
+    TextInOut statement(sentencia);
+    LibraryState::Of().Library().NewHerramientas()->RegistrarSentencia(session.text, connection.connection,
+                                                                       statement.text);
+  });
+}
+
+HRESULT ToolsObject::FechaHoraTexto(DATE* momento, BSTR* texto) noexcept {
+  return Do([&] {
+    RequireReference(momento);
+    Date moment = Date::FromSerial(*momento);
+    GiveText(texto, LibraryState::Of().Library().NewHerramientas()->FechaHoraTexto(moment));
+  });
+}
+
+RecalculationObject::RecalculationObject() noexcept
+    : DualObject(__uuidof(_Recalculo), __uuidof(::Recalculo)) {}
+
+HRESULT RecalculationObject::RecalcularProducto(IDispatch** conexion, BSTR* clave_sucursal, BSTR* codigo,
+                                                BSTR* texto) noexcept {
+  return Do([&] {
+    ConnectionInOut connection(conexion);
+    TextInOut branch(clave_sucursal);
+    TextInOut code(codigo);
+    TextInOut text(texto);
+    LibraryState::Of().Library().NewRecalculo()->RecalcularProducto(connection.connection, branch.text,
+                                                                    code.text, text.text);
+  });
+}
+
+MessagesObject::MessagesObject() noexcept : DualObject(__uuidof(_Mensajes), __uuidof(::Mensajes)) {}
+
+HRESULT MessagesObject::Mostrar(BSTR* texto, LONG* estilo, BSTR* titulo, LONG* respuesta) noexcept {
+  return Do([&] {
+    RequireReference(estilo);
+    RequireReference(respuesta);
+    TextInOut text(texto);
+    TextInOut title(titulo);
+    std::int32_t style = *estilo;
+    std::int32_t answer = 0;
+    LibraryState::Of().Library().NewMensajes()->Mostrar(text.text, style, title.text, answer);
+    *respuesta = answer;
+  });
+}
+
+}  // namespace orvendal

@@ -1,0 +1,141 @@
+#include "host/windows/library/library_state.h"
+
+#include <filesystem>
+
+#include "adapters/ado/ado_identity.h"
+#include "adapters/ado/ado_wrappers.h"
+#include "adapters/automation/bstr.h"
+#include "adapters/automation/com_ptr.h"
+#include "adapters/automation/error_boundary.h"
+#include "adapters/automation/module_lifetime.h"
+#include "adapters/win32/module_use.h"
+#include "data_objects.h"
+#include "host/default_store.h"
+#include "host/host_store.h"
+
+namespace orvendal {
+namespace {
+
+LibraryState* state = nullptr;  // a plain pointer: nothing may run when the process unmaps the module
+
+Language LanguageOfUser() {
+  wchar_t name[LOCALE_NAME_MAX_LENGTH] = L"";
+  GetUserDefaultLocaleName(name, LOCALE_NAME_MAX_LENGTH);
+  return LanguageOfLocale(Utf8Text(name));
+}
+
+std::filesystem::path PathOf(const std::string& utf8) {
+  return std::u8string(utf8.begin(), utf8.end());
+}
+
+Win32HostOptions NamedHost() {
+  Win32HostOptions options;
+  options.application_title = "Orvendal";
+  return options;
+}
+
+/// A new object of ADO's, opened.
+ConnectionRef OpenedConnection(const std::string& connection_string) {
+  constexpr std::int32_t kCannotCreate = 429;
+  ComPtr<::_Connection> connection;
+  if (FAILED(CoCreateInstance(ado::kConnectionClass, nullptr, CLSCTX_INPROC_SERVER, ado::kConnection,
+                              connection.ReceiveVoid()))) {
+    throw RuntimeError(kCannotCreate);
+  }
+  const BstrCell text(connection_string);
+  const BstrCell nothing("");
+  ForgetErrorInformation();
+  Check(connection->Open(text.Get(), nothing.Get(), nothing.Get(), kCommandUnspecified));
+  return WrapConnection(connection.Get());
+}
+
+}  // namespace
+
+/// The system's own boxes, in front of whatever window of this thread the user is in.
+class LibraryState::BoxMessages final : public MessagePresenter {
+ public:
+  explicit BoxMessages(Win32WindowHost& windows) : windows_(windows) {}
+  std::int32_t Present(const std::string& text, std::int32_t style, const std::string& title) override {
+    return windows_.ShowMessage(text, style, title);
+  }
+
+ private:
+  Win32WindowHost& windows_;
+};
+
+LibraryState::LibraryState()
+    : windows_(NamedHost()),
+      messages_(std::make_unique<BoxMessages>(windows_)),
+      language_(LanguageOfUser()),
+      context_{windows_,    *messages_, WordsOf(language_),
+               recordsets_, nullptr,    nullptr,
+               "",          "",         "1",
+               "1",         15360,      11520,
+               0.0,         {}} {}
+
+LibraryState::~LibraryState() = default;
+
+bool LibraryState::IsMine() const {
+  return thread_ == GetCurrentThreadId();
+}
+
+LibraryState& LibraryState::Of() {
+  if (state == nullptr) state = new LibraryState;
+  if (!state->IsMine()) {
+    ForgetErrorInformation();
+    throw ErrorOfResult(RPC_E_WRONG_THREAD);
+  }
+  return *state;
+}
+
+bool LibraryState::LetGoIfUnused() noexcept {
+  if (!module_lifetime::IsFree()) return false;
+  if (state != nullptr && !state->IsMine()) return false;
+  {
+    // A connection that goes may ask again whether the module can.
+    const module_lifetime::Hold hold;
+    delete std::exchange(state, nullptr);
+  }
+  return module_lifetime::IsFree() && !ModuleIsInUse();
+}
+
+void LibraryState::SetLanguage(Language language) {
+  language_ = language;
+  context_.words = WordsOf(language);
+}
+
+void LibraryState::OpenConnection(const std::string& connection_string) {
+  context_.connection = OpenedConnection(connection_string);
+  context_.store_name = connection_string;
+  context_.reopen_store = [connection_string]() -> ConnectionRef {
+    try {
+      return OpenedConnection(connection_string);
+    } catch (const RuntimeError& error) {
+      throw StoreUnavailable(error.Description());
+    }
+  };
+}
+
+void LibraryState::OpenStore(std::string file, const std::string& provider) {
+  if (file.empty()) {
+    file = DefaultStore();
+    std::error_code ignored;
+    std::filesystem::create_directories(PathOf(file).parent_path(), ignored);
+  }
+  const std::u8string absolute = std::filesystem::absolute(PathOf(file)).u8string();
+  const std::string path(absolute.begin(), absolute.end());
+  // Made, and looked at, by the store's own means: they know why a file cannot be used.
+  OpenOrMakeStore({path, Dialect::kSqlServer, windows_.UserRegion(), context_.words},
+                  windows_.SystemClock().Today())
+      ->Close();
+  OpenConnection("Provider=" + provider + ";Data Source=\"" + path + "\"");
+  context_.store_name = path;
+}
+
+void LibraryState::UseConnection(ConnectionRef connection) {
+  context_.connection = std::move(connection);
+  context_.store_name.clear();
+  context_.reopen_store = nullptr;
+}
+
+}  // namespace orvendal

@@ -1,0 +1,169 @@
+#include "host/windows/library/session_object.h"
+
+#include "adapters/ado/ado_wrappers.h"
+#include "host/windows/library/in_out.h"
+#include "host/windows/library/library_state.h"
+#include "host/windows/library/message_loop.h"
+
+namespace orvendal {
+namespace {
+
+constexpr std::int32_t kInvalidPropertyValue = 380;
+
+const char* ProviderOf(const std::string& dialect) {
+  return dialect == "jet" ? "Microsoft.Jet.OLEDB.4.0" : "SQLOLEDB.1";
+}
+
+const char* NameOf(Language language) {
+  if (language == Language::kCatalan) return "ca";
+  return language == Language::kEnglish ? "en" : "es";
+}
+
+void GiveLong(LONG* place, std::int32_t number) {
+  RequireReference(place);
+  *place = number;
+}
+
+template <typename Reference>
+void ReplaceByStores(IDispatch** place, const Reference& reference) {
+  RequireReference(place);
+  Replace(*place, ComPtr<IDispatch>(Unwrap(reference)));
+}
+
+HostContext& Session() {
+  return LibraryState::Of().Context();
+}
+
+}  // namespace
+
+SessionObject::SessionObject() noexcept : DualObject(__uuidof(_SampleSession), __uuidof(::DatosClase)) {}
+
+HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** /*objeto1*/, IDispatch** /*objeto2*/,
+                                      IDispatch** /*objeto3*/, IDispatch** /*objeto4*/, IDispatch** /*form1*/,
+                                      IDispatch** /*form2*/, LONG* ancho_base, LONG* alto_base,
+                                      double* dato_pantalla, IDispatch** general, IDispatch** acciones,
+                                      IDispatch** pantallas, BSTR* cadena_sesion,
+                                      BSTR* cod_sucursal) noexcept {
+  return Do([&] {
+    LibraryState& state = LibraryState::Of();
+    HostContext& session = state.Context();
+    RequireReference(dato_pantalla);
+    TextInOut text(cadena_sesion);
+    TextInOut branch(cod_sucursal);
+    if (!session.connection) state.OpenStore("", ProviderOf(dialect_));
+    session.dictionaries = SelectDictionaries(session.recordsets, session.connection, state.GetLanguage());
+    if (!branch_.empty()) branch.text = branch_;
+    session.sucursal = branch.text;
+    text.text = SessionText(session);
+
+    ReplaceByStores(conexion, session.connection);
+    GiveLong(ancho_base, session.ancho_base);
+    GiveLong(alto_base, session.alto_base);
+    *dato_pantalla = session.dato_pantalla.Number();
+    ReplaceByStores(general, session.dictionaries.general);
+    ReplaceByStores(acciones, session.dictionaries.acciones);
+    ReplaceByStores(pantallas, session.dictionaries.pantallas);
+    text.Give();
+    branch.Give();
+  });
+}
+
+HRESULT SessionObject::get_Dialect(BSTR* value) noexcept {
+  return Do([&] { GiveText(value, dialect_); });
+}
+
+HRESULT SessionObject::put_Dialect(BSTR value) noexcept {
+  return Do([&] {
+    const std::string dialect = TextOfBstr(value);
+    if (dialect != "jet" && dialect != "sqlserver") throw RuntimeError(kInvalidPropertyValue);
+    dialect_ = dialect;
+  });
+}
+
+HRESULT SessionObject::OpenStore(BSTR file) noexcept {
+  return Do([&] { LibraryState::Of().OpenStore(TextOfBstr(file), ProviderOf(dialect_)); });
+}
+
+HRESULT SessionObject::OpenConnection(BSTR connection_string) noexcept {
+  return Do([&] { LibraryState::Of().OpenConnection(TextOfBstr(connection_string)); });
+}
+
+HRESULT SessionObject::get_Connection(IDispatch** value) noexcept {
+  return Do([&] {
+    RequireReference(value);
+    *value = ComPtr<IDispatch>(Unwrap(Session().connection)).Detach();
+  });
+}
+
+HRESULT SessionObject::putref_Connection(IDispatch* value) noexcept {
+  return Do([&] { LibraryState::Of().UseConnection(WrapConnection(value)); });
+}
+
+HRESULT SessionObject::get_StoreName(BSTR* value) noexcept {
+  return Do([&] { GiveText(value, Session().store_name); });
+}
+
+HRESULT SessionObject::get_Language(BSTR* value) noexcept {
+  return Do([&] { GiveText(value, NameOf(LibraryState::Of().GetLanguage())); });
+}
+
+HRESULT SessionObject::put_Language(BSTR value) noexcept {
+  return Do([&] {
+    const std::optional<Language> language = LanguageNamed(TextOfBstr(value));
+    if (!language) throw RuntimeError(kInvalidPropertyValue);
+    LibraryState::Of().SetLanguage(*language);
+  });
+}
+
+HRESULT SessionObject::get_BaseWidth(LONG* value) noexcept {
+  return Do([&] { GiveLong(value, Session().ancho_base); });
+}
+
+HRESULT SessionObject::put_BaseWidth(LONG value) noexcept {
+  return Do([&] { Session().ancho_base = value; });
+}
+
+HRESULT SessionObject::get_BaseHeight(LONG* value) noexcept {
+  return Do([&] { GiveLong(value, Session().alto_base); });
+}
+
+HRESULT SessionObject::put_BaseHeight(LONG value) noexcept {
+  return Do([&] { Session().alto_base = value; });
+}
+
+HRESULT SessionObject::get_Branch(BSTR* value) noexcept {
+  return Do([&] { GiveText(value, branch_); });
+}
+
+HRESULT SessionObject::put_Branch(BSTR value) noexcept {
+  return Do([&] { branch_ = TextOfBstr(value); });
+}
+
+HRESULT SessionObject::get_Workstation(BSTR* value) noexcept {
+  return Do([&] { GiveText(value, Session().puesto); });
+}
+
+HRESULT SessionObject::put_Workstation(BSTR value) noexcept {
+  return Do([&] { Session().puesto = TextOfBstr(value); });
+}
+
+HRESULT SessionObject::get_Shift(BSTR* value) noexcept {
+  return Do([&] { GiveText(value, Session().turno); });
+}
+
+HRESULT SessionObject::put_Shift(BSTR value) noexcept {
+  return Do([&] { Session().turno = TextOfBstr(value); });
+}
+
+HRESULT SessionObject::Pump(LONG milliseconds) noexcept {
+  return Do([&] { PumpMessages(milliseconds); });
+}
+
+HRESULT SessionObject::get_ScreenIsOpen(VARIANT_BOOL* value) noexcept {
+  return Do([&] {
+    RequireReference(value);
+    *value = HasScreen() ? VARIANT_TRUE : VARIANT_FALSE;
+  });
+}
+
+}  // namespace orvendal
