@@ -188,11 +188,12 @@ void SqliteRecordset::MovePrevious() {
   Contents& contents = Opened();
   PostPending(contents);
   if (AtStart()) throw AdoError(ado_error::kEitherBofOrEof);
-  if (OnRow(contents) && !contents.on_posted_row) {
-    StandOn(contents, contents.position - 1);
-  } else {
+  if (!OnRow(contents)) return MoveLast();
+  if (contents.on_posted_row) {
+    // It is the last row of those that are read now.
     MoveLast();
   }
+  StandOn(contents, contents.position - 1);
 }
 
 void SqliteRecordset::MoveLast() {

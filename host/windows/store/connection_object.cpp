@@ -46,9 +46,9 @@ ConnectionObject::~ConnectionObject() {
 }
 
 ComPtr<ConnectionObject> ConnectionObject::Behind(IUnknown* object) {
-  ComPtr<ConnectionObject> own;
-  if (object) object->QueryInterface(kOwnConnection, own.ReceiveVoid());
-  return own;
+  void* own = nullptr;
+  if (!object || FAILED(object->QueryInterface(kOwnConnection, &own))) return {};
+  return ComPtr<ConnectionObject>::Adopt(static_cast<ConnectionObject*>(own));
 }
 
 HRESULT ConnectionObject::QueryInterface(REFIID iid, void** object) noexcept {

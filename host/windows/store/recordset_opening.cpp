@@ -103,6 +103,7 @@ HRESULT RecordsetObject::get_State(LONG* result) noexcept {
 // A connection, the text of one that is then the recordset's own, or nothing.
 void RecordsetObject::ConnectTo(const VARIANT& connection) {
   RequireClosed();
+  if (V_VT(&connection) == VT_EMPTY || V_VT(&connection) == VT_NULL) return connection_.Reset();
   ComPtr<IUnknown> object;
   if (SUCCEEDED(ReadObject(connection, object))) {
     ComPtr<ConnectionObject> own = ConnectionObject::Behind(object.Get());

@@ -87,6 +87,16 @@ TEST_P(Moving, MovingPostsTheNewRow) {
   EXPECT_EQ(Native("SELECT COUNT(*) FROM Sucursales"), "4");
 }
 
+TEST_P(Moving, BeforeARowJustAddedStandsTheLastOfTheOthers) {
+  const auto recordset = Open(rows, CursorType::kDynamic);
+  recordset->AddNew();
+  recordset->Assign(0, "04");
+  recordset->Update();
+  EXPECT_EQ(Branch(*recordset), "04");
+  recordset->MovePrevious();
+  EXPECT_EQ(Branch(*recordset), "03");
+}
+
 TEST_P(Moving, FieldsHaveTheTypesOfTheirColumns) {
   const auto table = Open(TableStatement(), CursorType::kDynamic);
   EXPECT_EQ(table->FieldType(table->FieldIndex("Fecha")).kind, sqlite::ColumnKind::kDate);

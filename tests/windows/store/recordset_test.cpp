@@ -303,6 +303,7 @@ TEST_P(RecordsetOfStore, WithoutAnOpenConnectionItIsRefused) {
   EXPECT_EQ(recordset->Open(Arg(rows), Arg(closed.Get()), kStatic, kReadOnly, -1), AdoFailure(3709));
   EXPECT_EQ(recordset->Open(Arg(rows), Arg(static_cast<IDispatch*>(nullptr)), kStatic, kReadOnly, -1),
             AdoFailure(3709));
+  EXPECT_EQ(recordset->Open(Arg(rows), Arg::Null(), kStatic, kReadOnly, -1), AdoFailure(3709));
   EXPECT_EQ(recordset->Open(Arg(rows), Arg(recordset.Get()), kStatic, kReadOnly, -1), AdoFailure(3001));
   EXPECT_EQ(recordset->Open(Arg(rows), Arg(Connected().Get()), 9, kReadOnly, -1), AdoFailure(3001));
   EXPECT_EQ(StateOf(recordset.Get()), 0);
