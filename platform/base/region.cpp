@@ -69,6 +69,41 @@ std::optional<Date> DateOf(const Numeral& year, const Numeral& month, const Nume
   return Date::FromDayNumber(Date(full_year, month.value, day.value).DayNumber(), seconds);
 }
 
+using DateParts = std::array<Numeral, 3>;
+
+// Reads "16/11/2026" into its three numbers; where they end, or nothing if the text does not begin so.
+std::optional<std::size_t> ReadDateParts(std::string_view text, char own_separator, DateParts& parts) {
+  std::size_t at = 0;
+  for (Numeral& part : parts) {
+    if (&part != parts.data()) {
+      const char separator = at < text.size() ? text[at] : '\0';
+      if (separator != '/' && separator != '-' && separator != '.' && separator != own_separator) {
+        return std::nullopt;
+      }
+      ++at;
+    }
+    while (at < text.size() && IsDigit(text[at]) && part.digits < 4) {
+      part.value = part.value * 10 + (text[at++] - '0');
+      ++part.digits;
+    }
+    if (part.digits == 0) return std::nullopt;
+  }
+  return at;
+}
+
+// The order first that the region writes, else the one that makes a date of it.
+std::optional<Date> DateOf(const DateParts& parts, DateOrder order, std::int32_t seconds) {
+  if (parts[0].digits > 2) return DateOf(parts[0], parts[1], parts[2], seconds);
+  if (parts[1].digits > 2) return std::nullopt;
+  if (order == DateOrder::kYearMonthDay && parts[2].digits <= 2) {
+    return DateOf(parts[0], parts[1], parts[2], seconds);
+  }
+  const std::optional<Date> day_first = DateOf(parts[2], parts[1], parts[0], seconds);
+  const std::optional<Date> month_first = DateOf(parts[2], parts[0], parts[1], seconds);
+  if (order == DateOrder::kDayMonthYear) return day_first ? day_first : month_first;
+  return month_first ? month_first : day_first;
+}
+
 }  // namespace
 
 Region Region::MakeSpanish() {
@@ -250,49 +285,14 @@ std::optional<double> Region::ParseNumber(std::string_view text) const {
 
 std::optional<Date> Region::ParseDate(std::string_view text) const {
   const std::string trimmed = Trim(text);
-  std::array<Numeral, 3> parts;
-  std::size_t at = 0;
-  for (std::size_t i = 0; i < 3; ++i) {
-    while (at < trimmed.size() && IsDigit(trimmed[at]) && parts[i].digits < 4) {
-      parts[i].value = parts[i].value * 10 + (trimmed[at++] - '0');
-      ++parts[i].digits;
-    }
-    if (parts[i].digits == 0) return std::nullopt;
-    if (i == 2) break;
-    if (at >= trimmed.size()) return std::nullopt;
-    if (i == 0 && trimmed[at] == ':') {
-      const std::optional<std::int32_t> seconds = ParseTime(trimmed);
-      if (!seconds) return std::nullopt;
-      return Date::FromDayNumber(0, *seconds);
-    }
-    const char separator = trimmed[at++];
-    if (separator != '/' && separator != '-' && separator != '.' && separator != date_separator_) {
-      return std::nullopt;
-    }
-  }
-
-  std::int32_t seconds = 0;
-  if (at < trimmed.size()) {
-    if (trimmed[at] != ' ' && trimmed[at] != 'T') return std::nullopt;
-    const std::optional<std::int32_t> time = ParseTime(Trim(std::string_view(trimmed).substr(at + 1)));
-    if (!time) return std::nullopt;
-    seconds = *time;
-  }
-
-  if (parts[0].digits > 2) return DateOf(parts[0], parts[1], parts[2], seconds);
-  if (parts[1].digits > 2) return std::nullopt;
-  const std::optional<Date> day_first = DateOf(parts[2], parts[1], parts[0], seconds);
-  const std::optional<Date> month_first = DateOf(parts[2], parts[0], parts[1], seconds);
-  switch (date_order_) {
-    case DateOrder::kDayMonthYear:
-      return day_first ? day_first : month_first;
-    case DateOrder::kMonthDayYear:
-      return month_first ? month_first : day_first;
-    case DateOrder::kYearMonthDay:
-      if (parts[2].digits <= 2) return DateOf(parts[0], parts[1], parts[2], seconds);
-      return month_first ? month_first : day_first;
-  }
-  return std::nullopt;
+  if (const std::optional<std::int32_t> time = ParseTime(trimmed)) return Date::FromDayNumber(0, *time);
+  DateParts parts;
+  const std::optional<std::size_t> end = ReadDateParts(trimmed, date_separator_, parts);
+  if (!end) return std::nullopt;
+  if (*end == trimmed.size()) return DateOf(parts, date_order_, 0);
+  if (trimmed[*end] != ' ' && trimmed[*end] != 'T') return std::nullopt;
+  const std::optional<std::int32_t> time = ParseTime(Trim(std::string_view(trimmed).substr(*end + 1)));
+  return time ? DateOf(parts, date_order_, *time) : std::nullopt;
 }
 
 std::int32_t RoundToLong(double number) {

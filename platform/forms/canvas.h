@@ -22,7 +22,7 @@ struct Bitmap {
   std::vector<std::uint8_t> pixels;
 };
 
-/// What an adapter paints with. Positions are twips, relative to the origin that PushOrigin moved; the
+/// What an adapter paints with. Positions are twips, relative to the origin that Push moved; the
 /// adapter rounds edges to its device's pixels, so that equal edges meet. Nothing is painted outside the
 /// current clip.
 class Canvas {

@@ -197,6 +197,10 @@ class MSFlexGrid final : public Control {
     int row = 0;
     int top_row = 0;
   };
+  struct Spot {
+    int row = 0;
+    int column = 0;
+  };
   /// Tells, after a handler ran, whether the grid is still the one that it was before.
   struct Moment {
     bool loaded = false;
@@ -241,6 +245,7 @@ class MSFlexGrid final : public Control {
   void DragCells(Point local);
   void DragThumb(Point local);
   int VisibleColumnFrom(int column, int step) const;
+  std::optional<Spot> SpotForKey(int key_code, bool to_corner, Spot from) const;
 
   // Painting (ms_flex_grid_paint.cpp).
   void PaintCells(Canvas& canvas, const View& view) const;

@@ -152,54 +152,59 @@ int MSFlexGrid::VisibleColumnFrom(int column, int step) const {
   return -1;
 }
 
-bool MSFlexGrid::KeyDownDefault(int key_code, int shift) {
-  const bool extends = (shift & shift_mask::kShift) != 0;
-  const bool to_corner = (shift & shift_mask::kControl) != 0;
-  const int first_row = fixed_rows_;
-  const int last_row = Rows() - 1;
-  if (last_row < first_row || (shift & shift_mask::kAlt) != 0) return false;
-
-  int row = extends ? row_selection_ : row_;
-  int column = extends ? column_selection_ : column_;
+// The cell that a key leads to from `from`, by rows and visible columns; nothing for any other key.
+std::optional<MSFlexGrid::Spot> MSFlexGrid::SpotForKey(int key_code, bool to_corner, Spot from) const {
+  Spot to = from;
+  const auto go_to_column = [&to](int column) {
+    if (column >= 0) to.column = column;
+  };
   switch (key_code) {
     case key::kUp:
-      --row;
+      --to.row;
       break;
     case key::kDown:
-      ++row;
+      ++to.row;
       break;
     case key::kPageUp:
-      row -= PageRows(Measure());
+      to.row -= PageRows(Measure());
       break;
     case key::kPageDown:
-      row += PageRows(Measure());
+      to.row += PageRows(Measure());
       break;
     case key::kLeft:
-    case key::kRight: {
-      const int next = VisibleColumnFrom(column, key_code == key::kLeft ? -1 : 1);
-      if (next >= 0) column = next;
+      go_to_column(VisibleColumnFrom(from.column, -1));
       break;
-    }
+    case key::kRight:
+      go_to_column(VisibleColumnFrom(from.column, 1));
+      break;
     case key::kHome:
-    case key::kEnd: {
-      const bool is_home = key_code == key::kHome;
-      const int edge = is_home ? VisibleColumnFrom(fixed_columns_ - 1, 1) : VisibleColumnFrom(Cols(), -1);
-      if (edge >= 0) column = edge;
-      if (to_corner) row = is_home ? first_row : last_row;
+      go_to_column(VisibleColumnFrom(fixed_columns_ - 1, 1));
+      if (to_corner) to.row = fixed_rows_;
       break;
-    }
+    case key::kEnd:
+      go_to_column(VisibleColumnFrom(Cols(), -1));
+      if (to_corner) to.row = Rows() - 1;
+      break;
     default:
-      return false;
+      return std::nullopt;
   }
-  row = std::clamp(row, first_row, last_row);
-  column = std::max(column, fixed_columns_);
+  return Spot{std::clamp(to.row, fixed_rows_, Rows() - 1), std::max(to.column, fixed_columns_)};
+}
+
+bool MSFlexGrid::KeyDownDefault(int key_code, int shift) {
+  if (Rows() <= fixed_rows_ || (shift & shift_mask::kAlt) != 0) return false;
+  const bool extends = (shift & shift_mask::kShift) != 0;
+  const bool to_corner = (shift & shift_mask::kControl) != 0;
+  const Spot from = extends ? Spot{row_selection_, column_selection_} : Spot{row_, column_};
+  const std::optional<Spot> to = SpotForKey(key_code, to_corner, from);
+  if (!to) return false;
   if (extends) {
-    SelectTo(row, column);
-    BringIntoView(row, column);
+    SelectTo(to->row, to->column);
+    BringIntoView(to->row, to->column);
     return false;
   }
   const Moment before = Now();
-  ChangeCursor(row, column);
+  ChangeCursor(to->row, to->column);
   if (IsStill(before)) BringIntoView(row_, column_);
   return false;
 }
