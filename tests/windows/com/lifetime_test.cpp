@@ -43,6 +43,18 @@ TEST_F(LifetimeTest, TheFactoryAndItsLocksKeepTheModule) {
   EXPECT_TRUE(CanGo());
 }
 
+TEST_F(LifetimeTest, AnUnlockTooManyTakesTheModuleFromNobody) {
+  ComPtr<IClassFactory> factory = Factory();
+  EXPECT_EQ(factory->LockServer(FALSE), E_UNEXPECTED);
+  factory->LockServer(TRUE);
+  EXPECT_EQ(factory->LockServer(FALSE), S_OK);
+  EXPECT_EQ(factory->LockServer(FALSE), E_UNEXPECTED);
+  factory.Reset();
+  EXPECT_FALSE(CanGo()) << "the object is still there";
+  component.Reset();
+  EXPECT_TRUE(CanGo());
+}
+
 TEST_F(LifetimeTest, AnOpenFormKeepsTheModule) {
   Open();
   component.Reset();

@@ -1,4 +1,6 @@
 #include <cstring>
+#include <string>
+#include <vector>
 
 #include "DllOrvendal.h"
 #include "adapters/automation/com_ptr.h"
@@ -45,6 +47,23 @@ TEST_F(ModuleTest, CarriesItsVersionInSpanish) {
   ASSERT_TRUE(VerQueryValueW(block.data(), L"\\StringFileInfo\\0C0A04B0\\FileVersion",
                              reinterpret_cast<void**>(&text), &size));
   EXPECT_STREQ(text, L"1.00.0067");
+}
+
+TEST_F(ModuleTest, ExportsTheFourEntryPointsOfAServerAndNothingElse) {
+  const LoadedDll dll;
+  const auto* const base = reinterpret_cast<const BYTE*>(dll.Module());
+  const auto* const dos = reinterpret_cast<const IMAGE_DOS_HEADER*>(base);
+  const auto* const headers = reinterpret_cast<const IMAGE_NT_HEADERS*>(base + dos->e_lfanew);
+  const auto* const exports = reinterpret_cast<const IMAGE_EXPORT_DIRECTORY*>(
+      base + headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_EXPORT].VirtualAddress);
+  const auto* const names = reinterpret_cast<const DWORD*>(base + exports->AddressOfNames);
+  std::vector<std::string> found;
+  for (DWORD index = 0; index < exports->NumberOfNames; ++index) {
+    found.emplace_back(reinterpret_cast<const char*>(base + names[index]));
+  }
+  EXPECT_EQ(exports->NumberOfFunctions, 4U);
+  EXPECT_EQ(found, (std::vector<std::string>{"DllCanUnloadNow", "DllGetClassObject", "DllRegisterServer",
+                                             "DllUnregisterServer"}));
 }
 
 TEST_F(ModuleTest, GoesWhenNothingOfItIsInUse) {

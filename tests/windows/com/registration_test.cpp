@@ -87,6 +87,19 @@ TEST_F(RegistrationTest, RemovalTakesWhatOthersAddedBelowItsKeys) {
   EXPECT_EQ(SnapshotOfClasses(), before);
 }
 
+TEST_F(RegistrationTest, ARegistrationThatFailsHalfWayIsTakenBack) {
+  const RegistrySnapshot before = SnapshotOfClasses();
+  // Below a key that is not kept, none that is kept can be made.
+  HKEY key = nullptr;
+  ASSERT_EQ(RegCreateKeyExW(HKEY_CLASSES_ROOT, kInterfaceKey.c_str(), 0, nullptr, REG_OPTION_VOLATILE,
+                            KEY_WRITE, nullptr, &key, nullptr),
+            ERROR_SUCCESS);
+  RegCloseKey(key);
+  EXPECT_EQ(dll.Call("DllRegisterServer"), HRESULT_FROM_WIN32(ERROR_CHILD_MUST_BE_VOLATILE));
+  EXPECT_EQ(SnapshotOfClasses(), before);
+  EXPECT_EQ(dll.Call("DllRegisterServer"), S_OK);
+}
+
 TEST_F(RegistrationTest, ASecondRegistrationChangesNothing) {
   dll.Call("DllRegisterServer");
   const RegistrySnapshot once = SnapshotOfClasses();

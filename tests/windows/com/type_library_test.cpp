@@ -26,6 +26,22 @@ class TypeLibraryTest : public testing::Test {
     return name.Text();
   }
 
+  /// Identifier and version of the library that `info` comes from.
+  static std::string HomeOf(ITypeInfo* info) {
+    ComPtr<ITypeLib> home;
+    UINT index = 0;
+    TLIBATTR* attributes = nullptr;
+    if (FAILED(info->GetContainingTypeLib(home.Receive(), &index)) || FAILED(home->GetLibAttr(&attributes))) {
+      return "(none)";
+    }
+    wchar_t guid[40] = L"";
+    StringFromGUID2(attributes->guid, guid, 40);
+    const std::string text = Utf8Text(guid) + " " + std::to_string(attributes->wMajorVerNum) + "." +
+                             std::to_string(attributes->wMinorVerNum);
+    home->ReleaseTLibAttr(attributes);
+    return text;
+  }
+
   ComPtr<ITypeLib> library;
 };
 
@@ -130,9 +146,28 @@ TEST_F(TypeLibraryTest, TheFirstArgumentIsTheMakersInterface) {
   ASSERT_EQ(session->GetTypeAttr(&session_attributes), S_OK);
   EXPECT_TRUE(session_attributes->guid == identity::kHostInterface);
   session->ReleaseTypeAttr(session_attributes);
+  EXPECT_EQ(HomeOf(session.Get()), "{C3B44D13-E60F-11D8-9EF6-0000393BB290} 1.0");
   info->ReleaseFuncDesc(function);
   const GUID contract_guid = {0xC3B44D13, 0xE60F, 0x11D8, {0x9E, 0xF6, 0x00, 0x00, 0x39, 0x3B, 0xB2, 0x90}};
   UnRegisterTypeLib(contract_guid, 1, 0, 0, sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32);
+}
+
+TEST_F(TypeLibraryTest, TheInterfaceDerivesFromTheSystemsOwnDispatch) {
+  const ComPtr<ITypeInfo> info = InfoOf(identity::kInterface);
+  HREFTYPE reference = 0;
+  ComPtr<ITypeInfo> base;
+  ASSERT_EQ(info->GetRefTypeOfImplType(0, &reference), S_OK);
+  ASSERT_EQ(info->GetRefTypeInfo(reference, base.Receive()), S_OK);
+  EXPECT_EQ(NameOf(base.Get()), "IDispatch");
+  EXPECT_EQ(HomeOf(base.Get()), "{00020430-0000-0000-C000-000000000046} 2.0");
+}
+
+TEST_F(TypeLibraryTest, NothingOfItIsBoundToALanguage) {
+  TLIBATTR* attributes = nullptr;
+  ASSERT_EQ(library->GetLibAttr(&attributes), S_OK);
+  EXPECT_EQ(attributes->lcid, 0U);
+  EXPECT_EQ(attributes->syskind, sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32);
+  library->ReleaseTLibAttr(attributes);
 }
 
 TEST_F(TypeLibraryTest, TheObjectGivesItsDescriptions) {
