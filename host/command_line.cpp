@@ -97,7 +97,7 @@ Language LanguageAskedFor(const std::vector<std::string>& arguments, Language sy
 
 class Reader {
  public:
-  Reader(Language language, const std::vector<Command>& commands)
+  Reader(Language language, const std::vector<Command>& commands, OfferedOptions offered)
       : words_(WordsOf(language)), commands_(commands), app_(std::string(words_.help_purpose), "orvendal") {
     line_.options.language = language;
     app_.allow_extras();
@@ -109,12 +109,14 @@ class Reader {
     Add("--puesto", options.puesto, words_.help_workstation, "PUESTO");
     Add("--turno", options.turno, words_.help_shift, "TURNO");
     Add("--idioma", typed_.language, words_.help_language, "es|ca|en");
-    Add("--region", typed_.region, words_.help_region, "REGION");
+    if (offered.region) Add("--region", typed_.region, words_.help_region, "REGION");
     Add("--base", typed_.base, words_.help_base, "ANCHOxALTO");
-    Add("--pantalla", typed_.display, words_.help_display, "ANCHOxALTO");
+    if (offered.display) Add("--pantalla", typed_.display, words_.help_display, "ANCHOxALTO");
     store_option_ = Add("--db", typed_.store, Fill(words_.help_store, {DefaultStore()}), "FICHERO");
     Add("--dialecto", typed_.dialect, words_.help_dialect, "sqlserver|jet");
-    picture_option_ = Add("--captura", options.picture, words_.help_picture, "FICHERO.png");
+    if (offered.picture) {
+      picture_option_ = Add("--captura", options.picture, words_.help_picture, "FICHERO.png");
+    }
     for (const Command& command : commands_) AddCommand(command);
   }
 
@@ -184,26 +186,31 @@ class Reader {
     throw WrongUse{Fill(words_.bad_value, {option, value, allowed})};
   }
 
+  bool Given(const char* name) const {
+    const CLI::Option* const option = app_.get_option_no_throw(name);
+    return option != nullptr && option->count() > 0;
+  }
+
   void Interpret() {
     Options& options = line_.options;
-    if (app_.count("--idioma") > 0 && !LanguageNamed(typed_.language)) {
+    if (Given("--idioma") && !LanguageNamed(typed_.language)) {
       BadValue("--idioma", typed_.language, kLanguages);
     }
-    if (app_.count("--region") > 0) {
+    if (Given("--region")) {
       options.region = Region::Find(typed_.region);
       if (options.region == nullptr) BadValue("--region", typed_.region, kRegions);
     }
-    if (app_.count("--base") > 0) {
+    if (Given("--base")) {
       const std::optional<PixelSize> base = ParseBase(typed_.base);
       if (!base) BadValue("--base", typed_.base, kBaseExample);
       options.base_width = base->width;
       options.base_height = base->height;
     }
-    if (app_.count("--pantalla") > 0) {
+    if (Given("--pantalla")) {
       options.display = ParseDisplay(typed_.display);
       if (!options.display) BadValue("--pantalla", typed_.display, kSizeExample);
     }
-    if (app_.count("--dialecto") > 0) {
+    if (Given("--dialecto")) {
       if (typed_.dialect == "jet") {
         options.dialect = Dialect::kJet;
       } else if (typed_.dialect != "sqlserver") {
@@ -211,7 +218,7 @@ class Reader {
       }
     }
     RefuseEmpty(store_option_, typed_.store);
-    RefuseEmpty(picture_option_, options.picture);
+    if (picture_option_ != nullptr) RefuseEmpty(picture_option_, options.picture);
     if (store_option_->count() > 0) options.store = typed_.store;
   }
 
@@ -247,8 +254,8 @@ class Reader {
 }  // namespace
 
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments, Language system_language,
-                            const std::vector<Command>& commands) {
-  return Reader(LanguageAskedFor(arguments, system_language), commands).Read(arguments);
+                            const std::vector<Command>& commands, OfferedOptions offered) {
+  return Reader(LanguageAskedFor(arguments, system_language), commands, offered).Read(arguments);
 }
 
 }  // namespace orvendal

@@ -55,9 +55,16 @@ struct CommandLine {
 inline constexpr int kExitFailure = 1;
 inline constexpr int kExitWrongUse = 2;
 
+/// Options that some programs have no use for.
+struct OfferedOptions {
+  bool region = true;
+  bool display = true;
+  bool picture = true;
+};
+
 /// Reads the words after the program's name. Help and errors are in the language asked for, else in
 /// `system_language`; wrong use gives one line and kExitWrongUse. `commands` outlives the result.
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments, Language system_language,
-                            const std::vector<Command>& commands);
+                            const std::vector<Command>& commands, OfferedOptions offered = {});
 
 }  // namespace orvendal

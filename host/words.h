@@ -57,7 +57,8 @@ struct Words {
   std::string_view store_other;    // %2 is what the engine says
 
   // Errors of the program.
-  std::string_view error;  // %1 number, %2 description
+  std::string_view error;         // %1 number, %2 description
+  std::string_view part_missing;  // %1 is the file
   std::string_view no_display;
   std::string_view picture_not_written;  // %1 is the file
   std::string_view unknown_option;       // %1

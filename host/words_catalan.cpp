@@ -41,6 +41,7 @@ const Words& CatalanWords() {
       .store_foreign = "La base de dades %1 no és d’aquest programa: li falta la taula %2.",
       .store_other = "No es pot obrir la base de dades %1: %2",
       .error = "Error %1: %2",
+      .part_missing = "No es pot carregar %1. Ha de ser a la mateixa carpeta que el programa.",
       .no_display = "No hi ha pantalla. Amb --captura FITXER.png es desa una imatge sense pantalla.",
       .picture_not_written = "No es pot escriure la imatge %1.",
       .unknown_option = "No existeix l’opció %1.",

@@ -41,6 +41,7 @@ const Words& EnglishWords() {
       .store_foreign = "The database %1 does not belong to this program: it lacks the table %2.",
       .store_other = "The database %1 cannot be opened: %2",
       .error = "Error %1: %2",
+      .part_missing = "%1 cannot be loaded. It has to be in the same folder as the program.",
       .no_display = "There is no display. With --captura FILE.png a picture is saved without one.",
       .picture_not_written = "The picture %1 cannot be written.",
       .unknown_option = "There is no option %1.",

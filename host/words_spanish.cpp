@@ -41,6 +41,7 @@ const Words& SpanishWords() {
       .store_foreign = "La base de datos %1 no es de este programa: le falta la tabla %2.",
       .store_other = "No se puede abrir la base de datos %1: %2",
       .error = "Error %1: %2",
+      .part_missing = "No se puede cargar %1. Debe estar en la misma carpeta que el programa.",
       .no_display = "No hay pantalla. Con --captura FICHERO.png se guarda una imagen sin ella.",
       .picture_not_written = "No se puede escribir la imagen %1.",
       .unknown_option = "No existe la opción %1.",

@@ -1,0 +1,36 @@
+#include <windows.h>
+
+#include <shellapi.h>
+
+#include "adapters/win32/windows_api.h"
+#include "host/command_line.h"
+#include "host/windows/program/sample_program.h"
+
+namespace {
+
+std::vector<std::string> WordsOfCommandLine() {
+  int count = 0;
+  wchar_t** const words = CommandLineToArgvW(GetCommandLineW(), &count);
+  std::vector<std::string> arguments;
+  for (int index = 1; index < count; ++index) arguments.push_back(orvendal::Utf8(words[index]));
+  LocalFree(words);
+  return arguments;
+}
+
+orvendal::Language LanguageOfUser() {
+  wchar_t name[LOCALE_NAME_MAX_LENGTH] = L"";
+  GetUserDefaultLocaleName(name, LOCALE_NAME_MAX_LENGTH);
+  return orvendal::LanguageOfLocale(orvendal::Utf8(name));
+}
+
+}  // namespace
+
+int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*line*/, int /*show*/) {
+  using namespace orvendal;
+  // What the system knows of the user, and what belongs to a program without windows, is not asked for here.
+  const OfferedOptions offered{.region = false, .display = false, .picture = false};
+  const CommandLine line = ReadCommandLine(WordsOfCommandLine(), LanguageOfUser(), {}, offered);
+  if (!line.output.empty()) ShowText(line.output, MB_ICONINFORMATION);
+  if (!line.errors.empty()) ShowText(line.errors, MB_ICONERROR);
+  return line.exit_code ? *line.exit_code : RunSampleProgram(line.options);
+}
