@@ -85,7 +85,7 @@ TEST_P(AddingRows, TheRowPostedIsTheLastOne) {
 TEST_P(AddingRows, ACursorThatHasReadItsRowsShowsTheNewOneAfterThem) {
   store->Execute("INSERT INTO Pruebas (Codigo) VALUES ('old')");
   const RecordsetRef recordset = NewRecordset();
-  recordset->Open("SELECT * FROM Pruebas", store, CursorType::kStatic, LockType::kOptimistic, -1);
+  recordset->Open("SELECT * FROM Pruebas", Link(), CursorType::kStatic, LockType::kOptimistic, -1);
   recordset->AddNew();
   recordset->Collect("Codigo", "A1");
   recordset->Update();
@@ -134,7 +134,7 @@ TEST_P(AddingRows, TextsAreReadByTheRegionOfTheConnection) {
   EXPECT_EQ(ErrorOfUpdate("Entero", "2,5"), 0);
   EXPECT_EQ(Stored("Entero"), "integer 2") << "halves go to the even number";
 
-  store = SqliteConnection::Open(":memory:", GetParam(), Region::English(), OpenMode::kCreate);
+  UseEmptyStore(Region::English());
   store->Execute("CREATE TABLE Pruebas (Codigo TEXT, Cantidad REAL, Dia DATETIME)");
   table = Write("SELECT * FROM Pruebas");
   EXPECT_EQ(ErrorOfUpdate("Cantidad", "2.5"), 0);

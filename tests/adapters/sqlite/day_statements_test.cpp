@@ -183,10 +183,9 @@ TEST_P(JetDays, ADatePatternTestsTheTextOfTheRegion) {
 
 TEST_P(JetDays, ADatePatternFollowsTheEnglishRegionToo) {
   Add("01", "2026-11-16 09:05:00", "P2");
-  store = nullptr;
-  store = SqliteConnection::Open(":memory:", GetParam(), Region::English(), OpenMode::kCreate);
+  UseEmptyStore(Region::English());
   CreateSchema(*store);
-  DayStatements::store->Execute("INSERT INTO Productos VALUES ('P2','Laca'),('P3','Gel')");
+  store->Execute("INSERT INTO Productos VALUES ('P2','Laca'),('P3','Gel')");
   Add("01", "2026-11-16 21:05:00", "P2");
   Add("01", "2026-01-01 00:00:00", "P3");
   EXPECT_EQ(Column(DayStatement("01", "LIKE '11/16/2026%'"), "IdProducto"), Texts{"P2"});

@@ -39,7 +39,7 @@ TEST_P(RecordsetRules, EverythingElseIsRefusedWhileClosed) {
 
 TEST_P(RecordsetRules, OpeningAnOpenOneIsRefused) {
   const RecordsetRef recordset = Read(rows);
-  EXPECT_EQ(ErrorOf([&] { recordset->Open(rows, store, CursorType::kStatic, LockType::kReadOnly, -1); }),
+  EXPECT_EQ(ErrorOf([&] { recordset->Open(rows, Link(), CursorType::kStatic, LockType::kReadOnly, -1); }),
             ado_error::kObjectOpen);
   EXPECT_EQ(recordset->RecordCount(), 3);
 }
@@ -48,8 +48,8 @@ TEST_P(RecordsetRules, AMissingOrClosedConnectionIsRefused) {
   const RecordsetRef recordset = NewRecordset();
   EXPECT_EQ(ErrorOf([&] { recordset->Open(rows, nullptr, CursorType::kStatic, LockType::kReadOnly, -1); }),
             ado_error::kInvalidConnection);
-  store->Close();
-  EXPECT_EQ(ErrorOf([&] { recordset->Open(rows, store, CursorType::kStatic, LockType::kReadOnly, -1); }),
+  CloseLink();
+  EXPECT_EQ(ErrorOf([&] { recordset->Open(rows, Link(), CursorType::kStatic, LockType::kReadOnly, -1); }),
             ado_error::kInvalidConnection);
 }
 
@@ -57,7 +57,7 @@ TEST_P(RecordsetRules, ClosingTheConnectionClosesItsRecordsets) {
   const RecordsetRef recordset = Read(rows);
   const RecordsetRef table = Write(TableStatement());
   table->AddNew();
-  store->Close();
+  CloseLink();
   EXPECT_EQ(recordset->State(), kStateClosed);
   EXPECT_EQ(table->State(), kStateClosed);
   EXPECT_EQ(ErrorOf([&] { recordset->AtEnd(); }), ado_error::kObjectClosed);
@@ -114,14 +114,14 @@ TEST_P(RecordsetRules, AStaticCursorKeepsTheRowsOfTheMomentItWasOpened) {
 
 TEST_P(RecordsetRules, AStatementWithoutRowsLeavesItClosedAndReadyForTheNext) {
   const RecordsetRef recordset = NewRecordset();
-  recordset->Open("DELETE FROM Sucursales WHERE Sucursal Like '02'", store, CursorType::kDynamic,
+  recordset->Open("DELETE FROM Sucursales WHERE Sucursal Like '02'", Link(), CursorType::kDynamic,
                   LockType::kOptimistic, -1);
   EXPECT_EQ(recordset->State(), kStateClosed);
-  recordset->Open(rows, store, CursorType::kStatic, LockType::kReadOnly, -1);
+  recordset->Open(rows, Link(), CursorType::kStatic, LockType::kReadOnly, -1);
   EXPECT_EQ(recordset->RecordCount(), 2);
   recordset->Close();
   EXPECT_EQ(recordset->State(), kStateClosed);
-  recordset->Open(rows, store, CursorType::kStatic, LockType::kReadOnly, -1);
+  recordset->Open(rows, Link(), CursorType::kStatic, LockType::kReadOnly, -1);
   EXPECT_EQ(recordset->State(), kStateOpen);
 }
 
@@ -136,10 +136,10 @@ TEST_P(RecordsetRules, ATableThatWasAlteredShowsItsNewFields) {
 
 TEST_P(RecordsetRules, AFailedOpenLeavesItClosedAndUsable) {
   const RecordsetRef recordset = NewRecordset();
-  EXPECT_NE(ErrorOf([&] { recordset->Open("SELECT", store, CursorType::kStatic, LockType::kReadOnly, -1); }),
+  EXPECT_NE(ErrorOf([&] { recordset->Open("SELECT", Link(), CursorType::kStatic, LockType::kReadOnly, -1); }),
             0);
   EXPECT_EQ(recordset->State(), kStateClosed);
-  recordset->Open(rows, store, CursorType::kStatic, LockType::kReadOnly, -1);
+  recordset->Open(rows, Link(), CursorType::kStatic, LockType::kReadOnly, -1);
   EXPECT_EQ(recordset->RecordCount(), 3);
 }
 

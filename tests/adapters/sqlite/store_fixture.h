@@ -94,25 +94,47 @@ inline std::string DescriptionOf(const std::function<void()>& action) {
   return {};
 }
 
-/// An empty sample store in memory, in each dialect, read and written under es-ES.
+/// What tests of recordsets stand on; each program that runs them brings its own.
+class StoreUnderTest {
+ public:
+  virtual ~StoreUnderTest() = default;
+  /// The tables themselves, beneath what is tested.
+  virtual std::shared_ptr<SqliteConnection> Tables() = 0;
+  virtual ConnectionRef Link() = 0;
+  virtual void CloseLink() = 0;
+  virtual RecordsetRef NewRecordset() = 0;
+};
+/// One without tables.
+std::unique_ptr<StoreUnderTest> MakeStoreUnderTest(Dialect dialect, const Region& region);
+
+/// An empty sample store, in each dialect, read and written under es-ES.
 class StoreTest : public ::testing::TestWithParam<Dialect> {
  protected:
   void SetUp() override {
-    store = SqliteConnection::Open(":memory:", GetParam(), Region::Spanish(), OpenMode::kCreate);
+    UseEmptyStore(Region::Spanish());
     CreateSchema(*store);
+  }
+  /// From here on another one, without tables.
+  void UseEmptyStore(const Region& region) {
+    store.reset();
+    under_test_.reset();
+    under_test_ = MakeStoreUnderTest(GetParam(), region);
+    store = under_test_->Tables();
   }
 
   bool SqlServer() const { return GetParam() == Dialect::kSqlServer; }
-  RecordsetRef NewRecordset() { return factory.NewRecordset(); }
+  ConnectionRef Link() { return under_test_->Link(); }
+  void CloseLink() { under_test_->CloseLink(); }
+  RecordsetRef NewRecordset() { return under_test_->NewRecordset(); }
 
   RecordsetRef Read(const std::string& statement) {
     RecordsetRef recordset = NewRecordset();
-    recordset->Open(statement, store, CursorType::kStatic, LockType::kReadOnly, kCommandUnspecified);
+    recordset->Open(statement, Link(), CursorType::kStatic, LockType::kReadOnly, kCommandUnspecified);
     return recordset;
   }
   RecordsetRef Write(const std::string& statement) {
     RecordsetRef recordset = NewRecordset();
-    recordset->Open(statement, store, CursorType::kDynamic, LockType::kOptimistic, kCommandUnspecified);
+    recordset->Open(statement, Link(), CursorType::kDynamic, LockType::kOptimistic, kCommandUnspecified);
     return recordset;
   }
   /// The texts of a field, row by row.
@@ -130,8 +152,10 @@ class StoreTest : public ::testing::TestWithParam<Dialect> {
     return statement.Step() ? statement.TextAt(0) : std::string("no row");
   }
 
-  SqliteRecordsetFactory factory;
-  std::shared_ptr<SqliteConnection> store;
+  std::shared_ptr<SqliteConnection> store;  // the tables
+
+ private:
+  std::unique_ptr<StoreUnderTest> under_test_;
 };
 
 using Texts = std::vector<std::string>;
