@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "component/datos_comunes.h"
 #include "platform/data/recordset.h"
@@ -51,6 +52,9 @@ struct ComponentState {
   LibraryGlobals globals;
   /// The global instance of the form; empty before the first call and after the library has cleared it.
   std::shared_ptr<FrmOrvendalciales> form;
+  /// Forms that are still loaded after the library has put something else into `form`: a window does not go
+  /// because nobody names it.
+  std::vector<std::shared_ptr<FrmOrvendalciales>> unnamed_forms;
 };
 
 }  // namespace orvendal

@@ -56,6 +56,7 @@ void FrmOrvendalciales::Form_Unload(int& /*Cancel*/) {
   ObjectRef form = state_.form;
   state_.globals.HerramientasGlobal().LiberarForm(form);
   TakeGlobalForm(form);
+  std::erase(state_.unnamed_forms, shared_from_this());
 }
 
 void FrmOrvendalciales::TimerCBarra_Timer() {

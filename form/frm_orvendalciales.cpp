@@ -1,5 +1,7 @@
 #include "form/frm_orvendalciales.h"
 
+#include <utility>
+
 #include "screen/control_catalogue.h"
 
 namespace orvendal {
@@ -61,7 +63,8 @@ std::shared_ptr<FrmOrvendalciales> FrmOrvendalciales::GlobalForm() {
 void FrmOrvendalciales::TakeGlobalForm(const ObjectRef& form) {
   std::shared_ptr<FrmOrvendalciales> taken = std::dynamic_pointer_cast<FrmOrvendalciales>(form);
   if (form && !taken) throw RuntimeError(error_number::kTypeMismatch);
-  state_.form = std::move(taken);
+  const std::shared_ptr<FrmOrvendalciales> before = std::exchange(state_.form, taken);
+  if (before && before != taken && before->IsLoaded()) state_.unnamed_forms.push_back(before);
 }
 
 }  // namespace orvendal

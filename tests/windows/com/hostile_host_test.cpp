@@ -247,6 +247,22 @@ TEST_F(HostileHostTest, ASearchThatPutsAStrangerInPlaceOfTheFormIsError13) {
   EXPECT_EQ(stranger->References(), 1U);
 }
 
+TEST_F(HostileHostTest, ASearchThatClearsTheFormLeavesTheScreenUsable) {
+  behaviour.search = [&](_DatosClase**, IDispatch** given, BSTR*, BSTR*, BSTR*, BSTR*, VARIANT_BOOL*, BSTR*) {
+    Replace<IDispatch>(given, nullptr);
+    return S_OK;
+  };
+  Open();
+  OpenEditor();
+  hands().Type("NADA\n");
+  EXPECT_EQ(Reported(), 0);
+  form().TxtMSF.Text("");
+  hands().Type("P1\n5\n");
+  EXPECT_EQ(form().MSFProductos.TextMatrix(1, 3), "5");
+  component.Reset();
+  EXPECT_FALSE(CanModuleGo()) << "its window is still there";
+}
+
 TEST_F(HostileHostTest, NoOperationOfTheLibraryCanTakeTheModuleAwayFromUnderItself) {
   int asked = 0;
   const auto ask = [&] {
