@@ -110,6 +110,15 @@ TEST_F(CalendarPanelTest, ClosesWithTheFocusOnAnOpenEditor) {
   }
 }
 
+TEST_F(CalendarPanelTest, ClosesByTheKeyEvenWhereTheGridCannotHaveTheFocus) {
+  OpenPanel();
+  form().MSFProductos.Enabled(false);
+  form().Calendario.OnLostFocus = nullptr;  // only the key closes it now
+  screen.Key(key::kEscape);
+  EXPECT_FALSE(PanelIsOpen());
+  EXPECT_EQ(TakeErrors(screen), Texts{"5: Invalid procedure call or argument"});
+}
+
 TEST_F(CalendarPanelTest, ClosesOnADoubleClick) {
   OpenPanel();
   const Rect bounds = form().Calendario.Bounds();

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_report.h"
+#include "tests/support/stored_counts.h"
 
 namespace orvendal {
 namespace {
@@ -27,12 +28,7 @@ class DateSelectionTest : public testing::TestWithParam<Setting> {
   }
   FrmOrvendalciales& form() { return screen.form(); }
   std::string Text(Date day) { return GetParam().region->ToText(day); }
-  std::string StoredOn(const std::string& day) {
-    return screen.Sql(
-        "SELECT COALESCE(GROUP_CONCAT(IdProducto, ' '), '') FROM (SELECT IdProducto FROM "
-        "HistOrvendalcial WHERE Fecha LIKE '" +
-        day + "%' ORDER BY rowid)");
-  }
+  std::string StoredOn(const std::string& day) { return StoredCodesOn(screen, day); }
   void TypeLine() {
     screen.EnterLine("P1", "5");
     screen.Key(key::kEscape);
@@ -102,6 +98,14 @@ TEST_P(DateSelectionTest, TheDayIsLoadedByTheSaveAndASecondTime) {
   for (const std::string& statement : TakeStatements(screen))
     loads += statement.starts_with("SELECT HistOrvendalcial.IdSucursal") ? 1 : 0;
   EXPECT_EQ(loads, 2);
+}
+
+TEST_P(DateSelectionTest, TheDateBoxShowsTheNewDayOnceItsLinesAreAskedFor) {
+  std::string shown;
+  screen.recordsets.OnOpen([&](const OpenedStatement&) { shown = form().MkFecha.Text(); });
+  PickDay(screen, kOther);
+  screen.recordsets.OnOpen({});
+  EXPECT_EQ(shown, Text(kOther));
 }
 
 TEST_P(DateSelectionTest, NoDropsTheLinesAndShowsTheNewDay) {

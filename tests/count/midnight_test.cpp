@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_report.h"
+#include "tests/support/stored_counts.h"
 
 namespace orvendal {
 namespace {
@@ -19,12 +20,7 @@ class MidnightTest : public testing::TestWithParam<Dialect> {
     screen.clock.Set(Date(2026, 11, 16, 23, 59, 59));
   }
   void Strike() { screen.clock.Set(Date(2026, 11, 17, 0, 0, 1)); }
-  std::string StoredOn(const std::string& day) {
-    return screen.Sql(
-        "SELECT COALESCE(GROUP_CONCAT(IdProducto, ' '), '') FROM (SELECT IdProducto FROM "
-        "HistOrvendalcial WHERE Fecha LIKE '" +
-        day + "%' ORDER BY rowid)");
-  }
+  std::string StoredOn(const std::string& day) { return StoredCodesOn(screen, day); }
   FormDriver screen{GetParam()};
 };
 

@@ -135,7 +135,8 @@ TEST_F(NewCountTest, AnEmptyNameLeavesTheBoxEnabledAndStillEntersTheMode) {
 }
 
 TEST_F(NewCountTest, TheGridHasTheFocusBeforeTheModeIsMarkedAndTheBarSet) {
-  screen.Open();
+  screen.OpenWithStylist();
+  form().PicDatos.SetFocus();
   std::string buttons;
   bool marked = true;
   bool shows_day_box = false;
@@ -148,7 +149,7 @@ TEST_F(NewCountTest, TheGridHasTheFocusBeforeTheModeIsMarkedAndTheBarSet) {
     shows_day_box = form().MkFecha.Visible();
   });
   screen.Click("LblNuevo");
-  EXPECT_EQ(buttons, kBotonesEnReposo);
+  EXPECT_EQ(buttons, kBotonesConLineas);
   EXPECT_FALSE(marked);
   EXPECT_TRUE(shows_day_box);
   EXPECT_TRUE(form().LblSupervisor.Visible());

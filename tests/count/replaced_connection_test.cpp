@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_report.h"
+#include "tests/support/stored_counts.h"
 #include "tests/support/title_bar.h"
 
 namespace orvendal {
@@ -20,10 +21,7 @@ class ReplacedConnectionTest : public testing::TestWithParam<Dialect> {
     Forget(here);
   }
   static std::string Stored(FormDriver& store, const std::string& branch = "01") {
-    return store.Sql(
-        "SELECT COALESCE(GROUP_CONCAT(IdProducto, ' '), '') FROM (SELECT IdProducto FROM "
-        "HistOrvendalcial WHERE IdSucursal = '" +
-        branch + "' ORDER BY rowid)");
+    return StoredCodesIn(store, branch);
   }
   void ReplaceByF2() {
     here.library.ReplaceConnection("AbrirCambio", there.connection);

@@ -245,6 +245,17 @@ TEST_P(SaveCountTest, TheFirstEmptyCodeEndsTheLines) {
   EXPECT_EQ(Stored("P10", "COUNT(*)"), "1");
 }
 
+TEST_P(SaveCountTest, ACodeOfBlanksEndsTheSnapshot) {
+  screen.AddCounts(3);
+  screen.OpenWithStylist();
+  screen.form().MSFProductos1.TextMatrix(2, kCode, "  ");
+  screen.form().MSFProductos1.TextMatrix(3, kCode, "P40");
+  Forget(screen);
+  screen.Click("LblGuardar");
+  EXPECT_EQ(TakeCalls(screen, "RecalculoGlobal"),
+            (Texts{Recalculation("P10"), Recalculation("P11"), Recalculation("P12")}));
+}
+
 TEST_P(SaveCountTest, OtherDaysAndBranchesStay) {
   screen.AddCount("P1", 1, 2, "E1", "2026-11-15");
   screen.AddCount("P1", 1, 2, "E1", "2026-11-16", "02");

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_report.h"
+#include "tests/support/stored_counts.h"
 
 namespace orvendal {
 namespace {
@@ -20,11 +21,7 @@ class SaveFailureTest : public testing::TestWithParam<Dialect> {
     screen.EnterLine("P1", "5");
     Forget(screen);
   }
-  std::string StoredCodes() {
-    return screen.Sql(
-        "SELECT COALESCE(GROUP_CONCAT(IdProducto, ' '), '') FROM (SELECT IdProducto FROM "
-        "HistOrvendalcial ORDER BY rowid)");
-  }
+  std::string StoredCodes() { return testing_support::StoredCodes(screen); }
   /// What holds after the `Update` of a row failed, whatever its number.
   void ExpectStoppedAtSecondRow() {
     EXPECT_TRUE(TakeErrors(screen).empty());

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_report.h"
+#include "tests/support/stored_counts.h"
 #include "tests/support/title_bar.h"
 
 namespace orvendal {
@@ -18,12 +19,7 @@ class SecondCallTest : public testing::TestWithParam<Dialect> {
     screen.EnterLine("P1", "5");
     Forget(screen);
   }
-  std::string StoredIn(const std::string& branch) {
-    return screen.Sql(
-        "SELECT COALESCE(GROUP_CONCAT(IdProducto, ' '), '') FROM (SELECT IdProducto FROM "
-        "HistOrvendalcial WHERE IdSucursal = '" +
-        branch + "' ORDER BY rowid)");
-  }
+  std::string StoredIn(const std::string& branch) { return StoredCodesIn(screen, branch); }
   FormDriver screen{GetParam()};
 };
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_report.h"
+#include "tests/support/stored_counts.h"
 
 namespace orvendal {
 namespace {
@@ -60,12 +61,7 @@ class SupervisorModeTest : public testing::TestWithParam<Dialect> {
     EXPECT_EQ(form().TxtCodigo.Text(), "E2");
     EXPECT_FALSE(form().variables.FlagSupervisor);
   }
-  std::string StoredOn(const std::string& day) {
-    return screen.Sql(
-        "SELECT COALESCE(GROUP_CONCAT(IdProducto, ' '), '') FROM (SELECT IdProducto FROM "
-        "HistOrvendalcial WHERE Fecha LIKE '" +
-        day + "%' ORDER BY rowid)");
-  }
+  std::string StoredOn(const std::string& day) { return StoredCodesOn(screen, day); }
   FormDriver screen{GetParam()};
 };
 

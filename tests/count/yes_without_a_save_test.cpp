@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_report.h"
+#include "tests/support/stored_counts.h"
 #include "tests/support/title_bar.h"
 
 namespace orvendal {
@@ -32,12 +33,7 @@ class YesWithoutASaveTest : public testing::TestWithParam<Dialect> {
     form().TxtEmpleado.Text("");
     form().TxtCodigo.Text("");
   }
-  std::string StoredOn(const std::string& day) {
-    return screen.Sql(
-        "SELECT COALESCE(GROUP_CONCAT(IdProducto, ' '), '') FROM (SELECT IdProducto FROM "
-        "HistOrvendalcial WHERE Fecha LIKE '" +
-        day + "%' ORDER BY rowid)");
-  }
+  std::string StoredOn(const std::string& day) { return StoredCodesOn(screen, day); }
   void ExpectNewDay() {
     EXPECT_EQ(screen.Codes(), Texts{"P20"});
     EXPECT_EQ(form().MkFecha.Text(), "20/11/2026");
