@@ -163,20 +163,20 @@ void DesignLeaveSupervisor(Control& control) {
   Hide(control);
 }
 
-void DesignTitle(Control& control, const char* caption) {
+void DesignTitle(Control& control) {
   control.BackColor(palette::kSand);
   control.ForeColor(palette::kMaroon);
   control.Font().Spec(TitleFont());
-  As<Label>(control).Design(caption, true, true);
+  As<Label>(control).Design("", true, true);
 }
 
-void DesignFieldLabel(Control& control, const char* caption) {
+void DesignFieldLabel(Control& control) {
   control.BackColor(palette::kLavender);
   control.ForeColor(system_color::kWindowText);
   control.BorderStyle(1);
   control.Appearance(Appearance::kFlat);
   control.Font().Spec(TextFont());
-  As<Label>(control).Design(caption, false, true);
+  As<Label>(control).Design("", false, true);
 }
 
 void DesignGroupFrame(Control& control) {
@@ -184,10 +184,10 @@ void DesignGroupFrame(Control& control) {
   As<Shape>(control).BorderWidth(2);
 }
 
-void DesignSupervisorMark(Control& control) {
+void DesignMark(Control& control) {
   control.ForeColor(palette::kMaroon);
   control.Font().Spec(Bookman(12, true));
-  As<Label>(control).Design("Supervisor", true, false);
+  As<Label>(control).Design("", true, false);
   Hide(control);
 }
 
@@ -200,12 +200,12 @@ void DesignBar(Control& control) {
 }
 
 void DesignClickArea(Control& control) {
-  As<Label>(control).Design("Label4", false, false);
+  As<Label>(control).Design("", false, false);
 }
 
-void DesignCaption(Control& control, const char* caption) {
+void DesignCaption(Control& control) {
   control.Font().Spec(Bookman(14.25));
-  As<Label>(control).Design(caption, true, false);
+  As<Label>(control).Design("", true, false);
 }
 
 void DesignRim(Control& control) {
@@ -242,85 +242,25 @@ constexpr CatalogueRow kRows[] = {
     {"MSFProductos1", -1, Kind::kMSFlexGrid, kData, {1200, 6960, 13095, 1125}, 6, DesignSnapshotGrid},
     {"MSFProductos", -1, Kind::kMSFlexGrid, kData, {1200, 2400, 13095, 6285}, 10, DesignLineGrid},
     {"BtnAnuloSuper", -1, Kind::kBoton, kData, {11400, 960, 2775, 495}, 28, DesignLeaveSupervisor},
-    {"LblEntrada",
-     -1,
-     Kind::kLabel,
-     kData,
-     {1320, 1890, 2835, 285},
-     11,
-     [](Control& control) { DesignTitle(control, "  Orvendal  "); }},
-    {"LblSucursal",
-     -1,
-     Kind::kLabel,
-     kData,
-     {11280, 450, 2805, 285},
-     12,
-     [](Control& control) { DesignTitle(control, ""); }},
-    {"LblDatos",
-     -1,
-     Kind::kLabel,
-     kData,
-     {1320, 450, 2280, 285},
-     13,
-     [](Control& control) { DesignTitle(control, "  Datos de Interés  "); }},
+    {"LblEntrada", -1, Kind::kLabel, kData, {1320, 1890, 2835, 285}, 11, DesignTitle, "  Orvendal  "},
+    {"LblSucursal", -1, Kind::kLabel, kData, {11280, 450, 2805, 285}, 12, DesignTitle},
+    {"LblDatos", -1, Kind::kLabel, kData, {1320, 450, 2280, 285}, 13, DesignTitle, "  Datos de Interés  "},
     {"Shape1", -1, Kind::kShape, kData, {720, 2040, 14055, 7095}, -1, DesignGroupFrame},
-    {"LblFecha",
-     -1,
-     Kind::kLabel,
-     kData,
-     {1200, 1080, 1065, 360},
-     15,
-     [](Control& control) { DesignFieldLabel(control, " Fecha: "); }},
-    {"LblEmpleado",
-     -1,
-     Kind::kLabel,
-     kData,
-     {5280, 1080, 1300, 360},
-     14,
-     [](Control& control) { DesignFieldLabel(control, " Estilista:"); }},
+    {"LblFecha", -1, Kind::kLabel, kData, {1200, 1080, 1065, 360}, 15, DesignFieldLabel, " Fecha: "},
+    {"LblEmpleado", -1, Kind::kLabel, kData, {5280, 1080, 1300, 360}, 14, DesignFieldLabel, " Estilista:"},
     {"DivCliente", -1, Kind::kShape, kData, {720, 600, 14055, 1095}, -1, DesignGroupFrame},
-    {"LblGuardar", 1, Kind::kLabel, kServices, {12600, 120, 2085, 735}, 19, DesignClickArea},
-    {"LblBorrar", 1, Kind::kLabel, kServices, {9600, 120, 2085, 735}, 20, DesignClickArea},
-    {"LblNuevo", 1, Kind::kLabel, kServices, {720, 120, 1965, 735}, 21, DesignClickArea},
-    {"LblSupervisor", -1, Kind::kLabel, kServices, {6960, 1005, 1380, 285}, 16, DesignSupervisorMark},
-    {"LblCancelar",
-     0,
-     Kind::kLabel,
-     kServices,
-     {6960, 300, 1275, 330},
-     26,
-     [](Control& control) { DesignCaption(control, "Cancelar"); }},
-    {"LblGuardar",
-     0,
-     Kind::kLabel,
-     kServices,
-     {13065, 300, 1185, 330},
-     25,
-     [](Control& control) { DesignCaption(control, "Guardar"); }},
-    {"LblBorrar",
-     0,
-     Kind::kLabel,
-     kServices,
-     {9720, 300, 1845, 330},
-     24,
-     [](Control& control) { DesignCaption(control, "Borrar Línea"); }},
-    {"LblBuscar",
-     0,
-     Kind::kLabel,
-     kServices,
-     {4065, 300, 1005, 330},
-     23,
-     [](Control& control) { DesignCaption(control, "Buscar"); }},
-    {"LblNuevo",
-     0,
-     Kind::kLabel,
-     kServices,
-     {960, 300, 1560, 330},
-     22,
-     [](Control& control) { DesignCaption(control, "Supervisor"); }},
+    {"LblGuardar", 1, Kind::kLabel, kServices, {12600, 120, 2085, 735}, 19, DesignClickArea, "Label4"},
+    {"LblBorrar", 1, Kind::kLabel, kServices, {9600, 120, 2085, 735}, 20, DesignClickArea, "Label4"},
+    {"LblNuevo", 1, Kind::kLabel, kServices, {720, 120, 1965, 735}, 21, DesignClickArea, "Label4"},
+    {"LblSupervisor", -1, Kind::kLabel, kServices, {6960, 1005, 1380, 285}, 16, DesignMark, "Supervisor"},
+    {"LblCancelar", 0, Kind::kLabel, kServices, {6960, 300, 1275, 330}, 26, DesignCaption, "Cancelar"},
+    {"LblGuardar", 0, Kind::kLabel, kServices, {13065, 300, 1185, 330}, 25, DesignCaption, "Guardar"},
+    {"LblBorrar", 0, Kind::kLabel, kServices, {9720, 300, 1845, 330}, 24, DesignCaption, "Borrar Línea"},
+    {"LblBuscar", 0, Kind::kLabel, kServices, {4065, 300, 1005, 330}, 23, DesignCaption, "Buscar"},
+    {"LblNuevo", 0, Kind::kLabel, kServices, {960, 300, 1560, 330}, 22, DesignCaption, "Supervisor"},
     {"DivOrden", -1, Kind::kShape, kServices, {240, 960, 14890, 495}, -1, DesignBar},
-    {"LblCancelar", 1, Kind::kLabel, kServices, {6600, 120, 1965, 735}, 18, DesignClickArea},
-    {"LblBuscar", 1, Kind::kLabel, kServices, {3600, 120, 1965, 735}, 17, DesignClickArea},
+    {"LblCancelar", 1, Kind::kLabel, kServices, {6600, 120, 1965, 735}, 18, DesignClickArea, "Label4"},
+    {"LblBuscar", 1, Kind::kLabel, kServices, {3600, 120, 1965, 735}, 17, DesignClickArea, "Label4"},
     {"DivNuevo", 1, Kind::kShape, kServices, {810, 210, 1785, 570}, -1, DesignFace},
     {"DivNuevo", 0, Kind::kShape, kServices, {720, 120, 1965, 735}, -1, DesignRim},
     {"DivBuscar", 1, Kind::kShape, kServices, {3690, 210, 1785, 570}, -1, DesignFace},
@@ -354,7 +294,11 @@ void ApplyCatalogue(Form& form) {
     Control* control = form.FindControl(row.FullName());
     if (control == nullptr || control->Kind() != row.kind)
       throw std::logic_error("the form lacks " + row.FullName());
-    if (row.design != nullptr) row.design(*control);
+    row.design(*control);
+    if (row.caption != nullptr) {
+      auto& label = As<Label>(*control);
+      label.Design(row.caption, label.AutoSize(), label.Opaque());
+    }
     control->Move(row.place.left, row.place.top, row.place.width, row.place.height);
     control->TabIndex(row.tab_index);
   }

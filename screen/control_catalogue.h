@@ -15,7 +15,8 @@ struct CatalogueRow {
   const char* container;  // "" for the form
   Rect place;
   int tab_index;                     // -1: none
-  void (*design)(Control& control);  // the properties beyond those above; nullptr if all have their defaults
+  void (*design)(Control& control);  // the properties beyond those of the row
+  const char* caption = nullptr;     // of a label
 
   std::string FullName() const;
 };

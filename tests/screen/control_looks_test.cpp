@@ -100,6 +100,7 @@ TEST_F(ControlLooksTest, TitleLabels) {
   }
   EXPECT_EQ(form.LblEntrada.Caption(), "  Orvendal  ");
   EXPECT_EQ(form.LblDatos.Caption(), "  Datos de Interés  ");
+  EXPECT_EQ(form.LblSucursal.Caption(), "");
 }
 
 TEST_F(ControlLooksTest, FieldLabels) {
@@ -109,6 +110,7 @@ TEST_F(ControlLooksTest, FieldLabels) {
     EXPECT_EQ(label->BorderStyle(), 1) << label->Name();
     EXPECT_EQ(label->Appearance(), Appearance::kFlat) << label->Name();
     EXPECT_FALSE(label->AutoSize()) << label->Name();
+    EXPECT_TRUE(label->Opaque()) << label->Name();
     EXPECT_EQ(label->Font().Spec(), kTextFont) << label->Name();
   }
   EXPECT_EQ(form.LblFecha.Caption(), " Fecha: ");
