@@ -71,6 +71,24 @@ TEST_F(LooksOnWindows, AWindowThatSomebodyMadeLargerShowsTheDesktopAroundTheForm
   EXPECT_EQ(PixelOf(Window(), 20, 330), GetSysColor(COLOR_BACKGROUND));
 }
 
+TEST_F(LooksOnWindows, ADisplayOfAnotherResolutionMakesTheWindowLargerWhereTheSystemSays) {
+  constexpr UINT kDpiChanged = 0x02E0;
+  form->border_style = 3;
+  ShowForm();
+  const RECT suggested{120, 90, 800, 600};
+  SendMessageW(Window(), kDpiChanged, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&suggested));
+  Pump();
+  RECT inside{}, outside{};
+  GetClientRect(Window(), &inside);
+  GetWindowRect(Window(), &outside);
+  EXPECT_EQ(inside.right, 600);
+  EXPECT_EQ(inside.bottom, 450);
+  EXPECT_EQ(outside.left, 120);
+  EXPECT_EQ(outside.top, 90);
+  EXPECT_EQ(PixelOf(Window(), 299, 149), RGB(255, 0, 0));
+  EXPECT_EQ(PixelOf(Window(), 300, 149), RGB(0, 0, 255));
+}
+
 // Pixels as threads of the system count them; older systems know one way only.
 using Context = HANDLE;
 Context Mark(std::intptr_t number) {

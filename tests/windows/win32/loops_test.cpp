@@ -179,6 +179,32 @@ TEST_F(LoopsOnWindows, AProgramThatQuitsUnderTwoDialogsEndsBothAndQuits) {
   EXPECT_TRUE(IsWindowEnabled(Window()));
 }
 
+TEST_F(LoopsOnWindows, WhateverAHandlerThrowsStaysInTheWindow) {
+  ShowForm();
+  form->OnKeyDown = [](int&, int) { throw 42; };
+  form->OnKeyPress = [](int&) { throw std::bad_alloc(); };
+  form->left.OnMouseMove = [](int, int, double, double) { throw std::string("text"); };
+  form->left.OnMouseDown = [](int, int, double, double) { throw RuntimeError(9); };
+  form->OnCloseRequest = [] { throw nullptr; };
+  SendMessageW(Window(), WM_KEYDOWN, 'A', 1);
+  SendMessageW(Window(), WM_CHAR, 'a', 1);
+  SendMessageW(Window(), WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+  SendMessageW(Window(), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+  SendMessageW(Window(), WM_CLOSE, 0, 0);
+  std::vector<int> numbers;
+  for (const RuntimeError& error : errors) numbers.push_back(error.Number());
+  EXPECT_EQ(numbers, (std::vector<int>{51, 51, 51, 9, 51}));
+  form->left.OnPaint = [] { throw 42; };
+  form->left.Color({0, 255, 0});
+  Pump();
+  form->left.OnPaint = nullptr;
+  form->OnKeyDown = nullptr;
+  form->OnKeyPress = nullptr;
+  form->box.SetFocus();
+  Key('B');
+  EXPECT_EQ(form->box.Text(), "b");
+}
+
 TEST_F(LoopsOnWindows, ASessionThatEndsIsNotHeldUp) {
   ShowForm();
   EXPECT_NE(SendMessageW(Window(), WM_QUERYENDSESSION, 0, 0), 0);

@@ -225,6 +225,19 @@ class PicturesOnWindows : public ::testing::Test {
   }
 };
 
+// The screen names a family that few systems have.
+TEST_F(PicturesOnWindows, TheLettersTakeTheRoomThatTheScreenWasDrawnFor) {
+  for (const double points : {7.75, 9.75, 12.0, 14.25}) {
+    const FontSpec font{"Bookman Old Style", points, 600, false};
+    for (const char* text :
+         {"Supervisor", "Borrar Línea", "Cancelar", "  Sucursal 01 Centro  ", "Cant.Actual"}) {
+      const double drawn = twin.host.TextWidth(font, text);
+      EXPECT_NEAR(real.host.TextWidth(font, text), drawn, 0.05 * drawn + kTwipsPerPixel)
+          << text << " " << points;
+    }
+  }
+}
+
 TEST_F(PicturesOnWindows, TheScreenOfEachStateIsShownInFullAndLikeTheOneWithoutADisplay) {
   Open();
   ExpectWindowShowsForm("start");

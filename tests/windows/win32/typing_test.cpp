@@ -65,6 +65,19 @@ TEST_F(TypingOnWindows, TheThirdLevelOfAKeyboardIsNeitherCtrlNorAlt) {
   EXPECT_EQ(form->log, (Log{"down 69", "press 8364"}));
 }
 
+TEST_F(TypingOnWindows, ACharacterByItsNumberComesWithTheEndOfTheMenuKey) {
+  ShowForm();
+  Post(WM_SYSKEYDOWN, VK_MENU, 0x20000001);
+  for (const WPARAM digit : {VK_NUMPAD0, VK_NUMPAD2, VK_NUMPAD2, VK_NUMPAD5}) {
+    Post(WM_SYSKEYDOWN, digit, 0x20000001);
+    Post(WM_SYSKEYUP, digit, static_cast<LPARAM>(0xE0000001));
+  }
+  Post(WM_KEYUP, VK_MENU, static_cast<LPARAM>(0xC0000001));
+  Post(WM_CHAR, L'á', 1);
+  DispatchAll();
+  EXPECT_EQ(form->box.Text(), "á");
+}
+
 TEST_F(TypingOnWindows, CtrlAndShiftAreToldWithTheKey) {
   ShowForm();
   LogKeys();
