@@ -134,6 +134,7 @@ TEST_P(AddingRows, TextsAreReadByTheRegionOfTheConnection) {
   EXPECT_EQ(ErrorOfUpdate("Entero", "2,5"), 0);
   EXPECT_EQ(Stored("Entero"), "integer 2") << "halves go to the even number";
 
+  table.reset();
   UseEmptyStore(Region::English());
   store->Execute("CREATE TABLE Pruebas (Codigo TEXT, Cantidad REAL, Dia DATETIME)");
   table = Write("SELECT * FROM Pruebas");

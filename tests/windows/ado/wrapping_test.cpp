@@ -1,9 +1,12 @@
+#include <optional>
+
 #include "adapters/ado/ado_recordset_factory.h"
 #include "adapters/automation/class_factory.h"
 #include "adapters/automation/com_ptr.h"
 #include "data_objects.h"
 #include "platform/data/memory_recordset.h"
 #include "tests/windows/ado/ado_fixture.h"
+#include "tests/windows/ado/registered_class.h"
 
 namespace orvendal::ado_testing {
 namespace {
@@ -115,33 +118,31 @@ IUnknown* MakeRecordset() noexcept {
   return made->Unknown();
 }
 
-/// ADO's Recordset class, in this process only.
-class RecordsetClass {
- public:
-  RecordsetClass(FakeProvider* provider, const GUID& answer) {
-    provider_of_class = provider;
-    answer_of_class = answer;
-    ComPtr<IUnknown> factory;
-    EXPECT_EQ(GetClassFactory(MakeRecordset, IID_IUnknown, factory.ReceiveVoid()), S_OK);
-    EXPECT_EQ(CoRegisterClassObject(ado::kRecordsetClass, factory.Get(), CLSCTX_INPROC_SERVER,
-                                    REGCLS_MULTIPLEUSE, &cookie_),
-              S_OK);
-  }
-  ~RecordsetClass() { CoRevokeClassObject(cookie_); }
-
- private:
-  DWORD cookie_ = 0;
-};
-
 class Factory : public Wrapping {
  protected:
-  Factory() { CoInitialize(nullptr); }
-  ~Factory() override { CoUninitialize(); }
+  ~Factory() override { provider_of_class = nullptr; }
+  /// ADO's Recordset class makes recordsets that answer to `answer`.
+  void Know(FakeProvider* of_class, const GUID& answer) {
+    provider_of_class = of_class;
+    answer_of_class = answer;
+    ComPtr<IUnknown> factory;
+    ASSERT_EQ(GetClassFactory(MakeRecordset, IID_IUnknown, factory.ReceiveVoid()), S_OK);
+    known_.emplace(ado::kRecordsetClass, factory.Get());
+    ASSERT_EQ(known_->Result(), S_OK);
+  }
+  void TearDown() override {
+    known_.reset();
+    Wrapping::TearDown();
+  }
   AdoRecordsetFactory factory;
+
+ private:
+  ComThread com_;
+  std::optional<RegisteredClass> known_;
 };
 
 TEST_F(Factory, EachRecordsetIsANewObjectOfAdosClass) {
-  const RecordsetClass known(&provider, ado::kRecordset);
+  Know(&provider, ado::kRecordset);
   const RecordsetRef one = factory.NewRecordset();
   const RecordsetRef other = factory.NewRecordset();
   EXPECT_NE(Unwrap(one), Unwrap(other));
@@ -151,19 +152,19 @@ TEST_F(Factory, EachRecordsetIsANewObjectOfAdosClass) {
 }
 
 TEST_F(Factory, AClassOfTheNewerIdentifiersServes) {
-  const RecordsetClass known(&provider, ado::kNewerRecordset);
+  Know(&provider, ado::kNewerRecordset);
   EXPECT_EQ(factory.NewRecordset()->State(), kStateOpen);
 }
 
 TEST_F(Factory, WhereTheClassFailsNothingCanBeCreated) {
-  const RecordsetClass known(nullptr, {});
+  Know(nullptr, {});
   const Raised raised = RaisedBy([this] { factory.NewRecordset(); });
   EXPECT_EQ(raised.number, 429);
   EXPECT_EQ(raised.description, "ActiveX component can't create object");
 }
 
 TEST_F(Factory, AClassThatMakesSomethingElseIsAnError) {
-  const RecordsetClass known(&provider, ado::kConnection);
+  Know(&provider, ado::kConnection);
   EXPECT_EQ(NumberOf([this] { factory.NewRecordset(); }), 430);
   EXPECT_EQ(RawObject::alive, 2);
 }
