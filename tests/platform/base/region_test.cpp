@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
-#include <functional>
 
 #include "platform/base/runtime_error.h"
+#include "tests/support/error_of.h"
 
 namespace orvendal {
 namespace {
@@ -17,14 +17,7 @@ const Region& English() {
   return Region::English();
 }
 
-std::int32_t ErrorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using testing_support::ErrorOf;
 
 TEST(RegionTest, NumbersAreWrittenWithTheRegionsMark) {
   EXPECT_EQ(Spanish().ToText(2.5), "2,5");

@@ -4,9 +4,12 @@
 
 #include "platform/base/runtime_error.h"
 #include "tests/platform/forms/control_stage.h"
+#include "tests/support/error_of.h"
 
 namespace orvendal::testing {
 namespace {
+
+using testing_support::ErrorOf;
 
 class ComboBoxTest : public ::testing::Test {
  protected:
@@ -14,15 +17,6 @@ class ComboBoxTest : public ::testing::Test {
     stage.Show();
     for (const char* entry : {"Tinte", "Champú", "Laca", "Champú"}) combo.AddItem(entry);
     combo.OnClick = [this] { ++clicks; };
-  }
-  template <typename Action>
-  static int ErrorOf(const Action& action) {
-    try {
-      action();
-    } catch (const RuntimeError& error) {
-      return error.Number();
-    }
-    return 0;
   }
 
   Stage stage;

@@ -7,20 +7,14 @@
 #include "platform/forms/text_box.h"
 #include "platform/forms/timer.h"
 #include "tests/platform/forms/control_stage.h"
+#include "tests/support/error_of.h"
 
 namespace orvendal::testing {
 namespace {
 
 using Log = std::vector<std::string>;
 
-std::int32_t ErrorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using testing_support::ErrorOf;
 
 /// Boxes A, B, C on the form, and D on a panel; tab order A, B, C, Panel, D.
 class FormFocusTest : public ::testing::Test {

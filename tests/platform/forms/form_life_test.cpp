@@ -3,20 +3,14 @@
 #include "platform/forms/command_button.h"
 #include "platform/forms/text_box.h"
 #include "tests/platform/forms/control_stage.h"
+#include "tests/support/error_of.h"
 
 namespace orvendal::testing {
 namespace {
 
 using Log = std::vector<std::string>;
 
-std::int32_t ErrorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using testing_support::ErrorOf;
 
 class FormLifeTest : public ::testing::Test {
  protected:

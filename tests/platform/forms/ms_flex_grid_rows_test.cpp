@@ -1,16 +1,10 @@
 #include "tests/platform/forms/ms_flex_grid_fixture.h"
+#include "tests/support/error_of.h"
 
 namespace orvendal {
 namespace {
 
-std::int32_t ErrorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using testing_support::ErrorOf;
 
 TEST_F(GridTest, AnAddedLineIsSplitAtItsTabs) {
   Grid().AddItem("100\tLaca\t\t3");
