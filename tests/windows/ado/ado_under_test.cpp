@@ -40,7 +40,8 @@ ComPtr<IUnknown> RecordsetFactoryObject() {
 std::filesystem::path NewFile() {
   static int count = 0;
   return std::filesystem::temp_directory_path() /
-         ("orvendal_ado_" + std::to_string(GetCurrentProcessId()) + "_" + std::to_string(++count) + ".db");
+         ("orvendal_ado_" + std::to_string(GetCurrentProcessId()) + "_" + std::to_string(GetTickCount64()) +
+          "_" + std::to_string(++count) + ".db");
 }
 
 class AdoUnderTest final : public StoreUnderTest {
