@@ -1,5 +1,7 @@
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #include "adapters/sqlite/sqlite_store.h"
 #include "tests/windows/store/store_client.h"
@@ -124,6 +126,28 @@ TEST_P(ConnectionOfStore, AFileThatAnotherProgramHoldsIsReported) {
   EXPECT_EQ(failure.description, "The store is locked by another program.");
   other->Execute("ROLLBACK");
   EXPECT_EQ(connection->Execute(Bstr("DELETE FROM Sucursales"), nullptr, -1, rows.Receive()), S_OK);
+}
+
+TEST_P(ConnectionOfStore, ItWaitsForAnotherProgramAsLongAsItsCommandTimeoutSays) {
+  const auto other =
+      SqliteConnection::Open(path, Dialect::kSqlServer, Region::Spanish(), OpenMode::kExisting);
+  const ComPtr<::_Connection> connection = NewConnection();
+  LONG seconds = 0;
+  EXPECT_EQ(connection->get_CommandTimeout(&seconds), S_OK);
+  EXPECT_EQ(seconds, 2);
+  EXPECT_EQ(connection->put_CommandTimeout(-1), AdoFailure(3001));
+  // Set before the opening or after it.
+  if (SqlServer()) EXPECT_EQ(connection->put_CommandTimeout(0), S_OK);
+  EXPECT_EQ(connection->Open(Bstr(ConnectionString()), nullptr, nullptr, -1), S_OK);
+  if (!SqlServer()) EXPECT_EQ(connection->put_CommandTimeout(60), S_OK);
+  other->Execute("BEGIN EXCLUSIVE");
+  std::thread release([&] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(2500));
+    other->Execute("COMMIT");
+  });
+  ComPtr<::_Recordset> rows;
+  EXPECT_EQ(connection->Execute(Bstr("DELETE FROM Sucursales"), nullptr, -1, rows.Receive()), S_OK);
+  release.join();
 }
 
 TEST_P(ConnectionOfStore, AnotherProviderIsNotFound) {

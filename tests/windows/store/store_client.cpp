@@ -25,6 +25,7 @@ StoreTest::StoreTest() {
   folder = Utf8Text(temporary) + "orvendal ñ Ω " + std::to_string(GetCurrentProcessId()) + "_" +
            std::to_string(++count);
   path = folder + "\\cadena.db";
+  std::filesystem::remove_all(PathOf(folder));  // what a process that died may have left
   std::filesystem::create_directories(PathOf(folder));
   const auto store = SqliteConnection::Open(path, Dialect::kSqlServer, Region::Spanish(), OpenMode::kCreate);
   CreateSchema(*store);
