@@ -123,7 +123,9 @@ std::string AccessibleName(const Control& control) {
   for (const auto source : {SpokenCaption, TwinCaption, CoveredColumn}) {
     if (std::string name = source(control); !name.empty()) return name;
   }
-  if (control.CanFocus() && control.Kind() != ControlKind::kPictureBox) {
+  if (control.Kind() == ControlKind::kPictureBox) {
+    if (std::string name = Trim(control.Parent().Caption()); !name.empty()) return name;
+  } else if (control.CanFocus()) {
     if (std::string name = LabelOf(control); !name.empty()) return name;
   }
   return control.FullName();

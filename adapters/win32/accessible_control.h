@@ -11,7 +11,7 @@ namespace orvendal {
 /// What assistive software is told of a control; roles and states are those of the system's accessibility.
 
 /// Its caption; else that of its twin in the same control array; else the title of the grid's column that it
-/// floats over; else the label beside or above it; else its own name.
+/// floats over; else the label beside or above it; else, for a surface, that of its form; else its own name.
 std::string AccessibleName(const Control& control);
 /// What it holds; nothing for kinds that hold nothing.
 std::optional<std::string> AccessibleValue(const Control& control);

@@ -140,6 +140,14 @@ void Win32FormWindow::PlaceWindow() {
   }
   placed_ = true;
   SetWindowPos(window_, nullptr, place.x, place.y, size.cx, size.cy, flags);
+  if (!IsFramed()) return;
+  // The frame is as wide as the display wants it, which is known now.
+  RECT inside{};
+  GetClientRect(window_, &inside);
+  const LONG wider = form.right - form.left - inside.right, higher = form.bottom - form.top - inside.bottom;
+  if (wider != 0 || higher != 0) {
+    SetWindowPos(window_, nullptr, 0, 0, size.cx + wider, size.cy + higher, flags | SWP_NOMOVE);
+  }
 }
 
 void Win32FormWindow::ApplyState() {

@@ -68,6 +68,12 @@ TEST_F(AccessibleControls, EachThatCanHaveTheFocusTakesItFromAReaderAndSaysSo) {
   }
 }
 
+TEST_F(AccessibleControls, TheSurfaceThatHasTheFocusAtFirstIsCalledAsItsWindow) {
+  const Seen surface = inside.Focus();
+  EXPECT_EQ(surface.Role(), ROLE_SYSTEM_GROUPING);
+  EXPECT_EQ(surface.Name(), L"Orvendal");
+}
+
 TEST_F(AccessibleControls, WhatCannotHaveTheFocusRefusesIt) {
   FrmOrvendalciales& form = screen.Screen();
   for (const Control* control :

@@ -71,6 +71,25 @@ TEST_F(LooksOnWindows, AWindowThatSomebodyMadeLargerShowsTheDesktopAroundTheForm
   EXPECT_EQ(PixelOf(Window(), 20, 330), GetSysColor(COLOR_BACKGROUND));
 }
 
+TEST_F(LooksOnWindows, AFrameThatTheSystemDrawsWiderTakesNothingFromTheForm) {
+  form->border_style = 3;
+  ShowForm();
+  // The system's say in what of the window is its frame: five pixels more all around.
+  static WNDPROC inner;
+  const WNDPROC wider = [](HWND window, UINT message, WPARAM wparam, LPARAM lparam) CALLBACK -> LRESULT {
+    const LRESULT result = CallWindowProcW(inner, window, message, wparam, lparam);
+    if (message == WM_NCCALCSIZE) InflateRect(reinterpret_cast<RECT*>(lparam), -5, -5);
+    return result;
+  };
+  inner =
+      reinterpret_cast<WNDPROC>(SetWindowLongPtrW(Window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(wider)));
+  form->Width(500 * kTwipsPerPixel);
+  RECT inside{};
+  GetClientRect(Window(), &inside);
+  EXPECT_EQ(inside.right, 500);
+  EXPECT_EQ(inside.bottom, 300);
+}
+
 TEST_F(LooksOnWindows, ADisplayOfAnotherResolutionMakesTheWindowLargerWhereTheSystemSays) {
   constexpr UINT kDpiChanged = 0x02E0;
   form->border_style = 3;
