@@ -13,7 +13,7 @@ HRESULT AutomationObject::QueryInterface(REFIID iid, void** object) noexcept {
     *object = static_cast<IDispatch*>(this);
   } else if (iid == IID_ISupportErrorInfo) {
     *object = static_cast<ISupportErrorInfo*>(this);
-  } else if (iid == kOrvendalObject) {
+  } else if (iid == kOrvendalObject && ComesBackAsItself()) {
     *object = static_cast<IOrvendalObject*>(this);
   } else {
     return E_NOINTERFACE;

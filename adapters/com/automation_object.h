@@ -42,6 +42,8 @@ class AutomationObject : public Counted<IDispatch, ISupportErrorInfo, IOrvendalO
   virtual bool Put(DISPID member, const AutomationCall& call) = 0;
   /// The private interface that it answers to besides; GUID_NULL for none.
   virtual GUID PrivateInterface() const { return GUID_NULL; }
+  /// Whether it becomes what it stands for again when it comes back from outside.
+  virtual bool ComesBackAsItself() const { return false; }
 
   // For tables: the member at index n has the DISPID n + 1.
   template <typename Target, std::size_t kSize>

@@ -48,9 +48,20 @@ struct ComponentModule::Loaded {
     std::erase_if(forms, [](const std::weak_ptr<Form>& form) { return form.expired(); });
     return std::any_of(forms.begin(), forms.end(), [this](const std::weak_ptr<Form>& remembered) {
       const std::shared_ptr<Form> form = remembered.lock();
-      const long own = form == state.form ? 2 : 1;  // this one, and the global reference
-      return form && (form->IsLoaded() || form.use_count() > own);
+      return form && (form->IsLoaded() || form.use_count() > 1 + NamesOf(form.get()));
     });
+  }
+  /// How many variables hold it: the global reference, and those in which a host may have put it.
+  long NamesOf(const Object* form) const {
+    const DatosComunes& session = state.session;
+    const Object* const held[] = {state.form.get(),
+                                  session.FormHost1.get(),
+                                  session.FormHost2.get(),
+                                  session.ObjetoSesion1.get(),
+                                  session.ObjetoSesion2.get(),
+                                  session.ObjetoSesion3.get(),
+                                  session.ObjetoSesion4.get()};
+    return static_cast<long>(std::count(std::begin(held), std::end(held), form));
   }
   void Remember(const std::shared_ptr<Form>& form) {
     const bool known = std::any_of(forms.begin(), forms.end(),
@@ -101,6 +112,11 @@ bool ComponentModule::Orvendal(_DatosClase* datos_clase, const std::string& suc,
   return ClassOrvendal(loaded.state).Orvendal(session, suc, puest, turn);
 }
 
+bool ComponentModule::HasState() const noexcept {
+  const std::lock_guard<std::mutex> guard(loading);
+  return loaded_ != nullptr;
+}
+
 bool ComponentModule::IsFree() const noexcept {
   return module_lifetime::IsFree() && !(still_in_use_ && still_in_use_());
 }
@@ -121,8 +137,8 @@ bool ComponentModule::LetGoIfUnused() noexcept {
     const module_lifetime::Hold hold;
     delete dropped;
   }
-  const bool free = IsFree();
-  if (pin) FreeLibrary(pin);  // the caller's own reference remains
+  const bool free = IsFree() && !HasState();  // the host may have called again while it was let go
+  if (pin) FreeLibrary(pin);                  // the caller's own reference remains
   return free;
 }
 

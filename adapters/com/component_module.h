@@ -31,6 +31,7 @@ class ComponentModule {
  private:
   struct Loaded;
   Loaded& LoadedState();
+  bool HasState() const noexcept;
   bool IsFree() const noexcept;
 
   // A plain pointer: nothing may run when the process unmaps the module.

@@ -24,6 +24,7 @@ class FormAutomation final : public AutomationObject {
   bool Get(DISPID member, const AutomationCall& call) override;
   bool Put(DISPID member, const AutomationCall& call) override;
   GUID PrivateInterface() const override;
+  bool ComesBackAsItself() const override { return true; }
 
  private:
   FormAutomation(const std::shared_ptr<AutomationRegistry>& registry, Form& form);

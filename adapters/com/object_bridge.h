@@ -43,8 +43,8 @@ class ObjectBridge {
   /// The object to hand out; empty for none.
   ComPtr<IDispatch> ToCom(const ObjectRef& object);
   ComPtr<IDispatch> ToCom(Control& control);
-  /// What came in. One of ours becomes itself again, empty if it is gone. In the role of a form, an object of
-  /// the host that answers as a form does is a HostForm.
+  /// What came in. A form of ours becomes itself again, empty if it is gone. In the role of a form, an object
+  /// of the host that answers as a form does is a HostForm.
   ObjectRef FromCom(IDispatch* object, ObjectRole role);
 
  private:

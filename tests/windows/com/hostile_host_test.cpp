@@ -1,6 +1,9 @@
+#include <functional>
 #include <new>
 
 #include "adapters/automation/bstr.h"
+#include "adapters/com/component_factory.h"
+#include "adapters/com/identity.h"
 #include "tests/windows/com/com_world.h"
 #include "tests/windows/com/invoke_client.h"
 
@@ -24,11 +27,31 @@ class HostileHostTest : public ComWorld {
     hands().ClickCell(form().MSFProductos, 1, 0);
     hands().DoubleClickCell(form().MSFProductos, 1, 0);
   }
+  /// The form as the library gets it.
+  ComPtr<IDispatch> FormObject() {
+    ComPtr<IDispatch> object;
+    behaviour.search = [&](_DatosClase**, IDispatch** given, BSTR*, BSTR*, BSTR*, BSTR*, VARIANT_BOOL*,
+                           BSTR*) {
+      object = ComPtr<IDispatch>(*given);
+      return S_OK;
+    };
+    OpenEditor();
+    hands().Type("NADA\n");
+    behaviour.search = nullptr;
+    return object;
+  }
+  HRESULT NewComponent() {
+    ComPtr<IClassFactory> factory;
+    EXPECT_EQ(GetComponentFactory(identity::kClass, IID_IClassFactory, factory.ReceiveVoid()), S_OK);
+    return factory->CreateInstance(nullptr, identity::kInterface, component.ReceiveVoid());
+  }
   /// Asks the library for F2, which is told the session's texts and sizes.
   std::string SessionAsToldToF2() const {
     hands().Key(key::kF2);
     return CallsOf("AbrirCambio").back();
   }
+
+  ComPtr<IDispatch> ours;
 };
 
 TEST_F(HostileHostTest, WhatAnInnerCallFilledIsNotUndoneByTheOuterOne) {
@@ -261,6 +284,81 @@ TEST_F(HostileHostTest, ASearchThatClearsTheFormLeavesTheScreenUsable) {
   EXPECT_EQ(form().MSFProductos.TextMatrix(1, 3), "5");
   component.Reset();
   EXPECT_FALSE(CanModuleGo()) << "its window is still there";
+}
+
+TEST_F(HostileHostTest, OurFormAsAFormOfTheHostDoesNotKeepTheModuleOnceItIsClosed) {
+  behaviour.f1 = [&](IDispatch**, BSTR*) {
+    host->fill = [&](const FillArguments& session) {
+      Replace<IDispatch>(session.form1, ours.Get());
+      Replace<IDispatch>(session.objects[0], ours.Get());
+      return S_OK;
+    };
+    return Open();
+  };
+  Open();
+  ours = FormObject();
+  hands().Key(key::kF1);
+  EXPECT_EQ(Reported(), 0);
+  ours.Reset();
+  component.Reset();
+  EXPECT_FALSE(CanModuleGo());
+  CloseForm();
+  EXPECT_TRUE(CanModuleGo());
+}
+
+TEST_F(HostileHostTest, AControlOfOursIsNoFormAndComesBackWhereItMayStand) {
+  Open();
+  ours = FormObject();
+  InvokeClient client(ours.Get());
+  ASSERT_EQ(client.Get(L"TxtEmpleado"), S_OK);
+  ComPtr<IDispatch> box(V_DISPATCH(&client.result));
+  host->fill = [&](const FillArguments& session) {
+    Replace<IDispatch>(session.form2, box.Get());
+    return S_OK;
+  };
+  EXPECT_EQ(Open(), ErrorNumber(13));
+  host->fill = [&](const FillArguments& session) {
+    Replace<IDispatch>(session.objects[1], box.Get());
+    return S_OK;
+  };
+  EXPECT_EQ(Open(), S_OK);
+  host->fill = [&](const FillArguments& session) {
+    EXPECT_EQ(*session.form2, nullptr);
+    EXPECT_EQ(*session.objects[1], box.Get());
+    Replace<IDispatch>(session.objects[1], nullptr);
+    return S_OK;
+  };
+  EXPECT_EQ(Open(), S_OK);
+  ours.Reset();
+}
+
+/// Calls the component once more when the last reference to it goes.
+class Clinger final : public FakeObject<IDispatch> {
+ public:
+  explicit Clinger(std::function<void()> at_the_end) : at_the_end_(std::move(at_the_end)) {}
+
+ private:
+  ~Clinger() override { at_the_end_(); }
+  std::function<void()> at_the_end_;
+};
+
+TEST_F(HostileHostTest, ACallWhileTheSessionIsLetGoKeepsTheModule) {
+  auto clinger = MakeFake<Clinger>([this] {
+    ASSERT_EQ(NewComponent(), S_OK);
+    EXPECT_EQ(Open(), S_OK);
+    component.Reset();
+  });
+  host->fill = [&](const FillArguments& session) {
+    FillSession(session);
+    if (clinger) Replace<IDispatch>(session.objects[0], std::exchange(clinger, {}).Get());
+    return S_OK;
+  };
+  Open();
+  CloseForm();
+  component.Reset();
+  EXPECT_FALSE(CanModuleGo()) << "a form is up again";
+  CloseForm();
+  EXPECT_TRUE(CanModuleGo());
 }
 
 TEST_F(HostileHostTest, NoOperationOfTheLibraryCanTakeTheModuleAwayFromUnderItself) {
