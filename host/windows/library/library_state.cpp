@@ -99,6 +99,10 @@ bool LibraryState::LetGoIfUnused() noexcept {
   return module_lifetime::IsFree() && !ModuleIsInUse();
 }
 
+void LibraryState::EndSession() noexcept {
+  if (state != nullptr && state->IsMine()) state->UseConnection(nullptr);
+}
+
 void LibraryState::SetLanguage(Language language) {
   language_ = language;
   context_.words = WordsOf(language);

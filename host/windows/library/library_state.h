@@ -20,6 +20,8 @@ class LibraryState {
   static LibraryState& Of();
   /// Whether the module can go: nothing keeps it and no window of it is left. Then the state is dropped.
   static bool LetGoIfUnused() noexcept;
+  /// Lets the connection of the session go, if there is one on this thread.
+  static void EndSession() noexcept;
 
   LibraryState(const LibraryState&) = delete;
   LibraryState& operator=(const LibraryState&) = delete;

@@ -1,5 +1,7 @@
 #include "host/windows/library/session_object.h"
 
+#include <atomic>
+
 #include "adapters/ado/ado_wrappers.h"
 #include "host/windows/library/in_out.h"
 #include "host/windows/library/library_state.h"
@@ -9,6 +11,8 @@ namespace orvendal {
 namespace {
 
 constexpr std::int32_t kInvalidPropertyValue = 380;
+
+std::atomic<int> session_objects{0};
 
 const char* ProviderOf(const std::string& dialect) {
   return dialect == "jet" ? "Microsoft.Jet.OLEDB.4.0" : "SQLOLEDB.1";
@@ -36,7 +40,13 @@ HostContext& Session() {
 
 }  // namespace
 
-SessionObject::SessionObject() noexcept : DualObject(__uuidof(_SampleSession), __uuidof(::DatosClase)) {}
+SessionObject::SessionObject() noexcept : DualObject(__uuidof(_SampleSession), __uuidof(::DatosClase)) {
+  ++session_objects;
+}
+
+SessionObject::~SessionObject() {
+  if (--session_objects == 0) LibraryState::EndSession();
+}
 
 HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** /*objeto1*/, IDispatch** /*objeto2*/,
                                       IDispatch** /*objeto3*/, IDispatch** /*objeto4*/, IDispatch** /*form1*/,
@@ -51,7 +61,8 @@ HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** /*objeto
     TextInOut text(cadena_sesion);
     TextInOut branch(cod_sucursal);
     if (!session.connection) state.OpenStore("", ProviderOf(dialect_));
-    session.dictionaries = SelectDictionaries(session.recordsets, session.connection, state.GetLanguage());
+    const Dictionaries dictionaries =
+        SelectDictionaries(session.recordsets, session.connection, state.GetLanguage());
     if (!branch_.empty()) branch.text = branch_;
     session.sucursal = branch.text;
     text.text = SessionText(session);
@@ -60,9 +71,9 @@ HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** /*objeto
     GiveLong(ancho_base, session.ancho_base);
     GiveLong(alto_base, session.alto_base);
     *dato_pantalla = session.dato_pantalla.Number();
-    ReplaceByStores(general, session.dictionaries.general);
-    ReplaceByStores(acciones, session.dictionaries.acciones);
-    ReplaceByStores(pantallas, session.dictionaries.pantallas);
+    ReplaceByStores(general, dictionaries.general);
+    ReplaceByStores(acciones, dictionaries.acciones);
+    ReplaceByStores(pantallas, dictionaries.pantallas);
     text.Give();
     branch.Give();
   });

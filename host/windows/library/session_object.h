@@ -6,7 +6,7 @@
 namespace orvendal {
 
 /// A session object for hosts that have none of their own, scripts above all: DatosClase. All of them stand
-/// for the one session of the library.
+/// for the one session of the library, whose connection goes with the last of them.
 class SessionObject final : public DualObject<_SampleSession> {
  public:
   SessionObject() noexcept;
@@ -46,6 +46,8 @@ class SessionObject final : public DualObject<_SampleSession> {
   bool AnswersBase(REFIID iid) const noexcept override { return iid == __uuidof(_DatosClase); }
 
  private:
+  ~SessionObject() override;
+
   std::string dialect_ = "sqlserver";
   std::string branch_;
 };
