@@ -187,6 +187,7 @@ TEST_F(HostileClientTest, AnArgumentMayLetGoOfTheObjectThatIsCalled) {
   _ClassOrvendal* const raw = component.Get();
   speaker->speak = [&](VARIANT* result) {
     component.Reset();
+    EXPECT_FALSE(CanModuleGo()) << "the object lives to the end of the call";
     V_VT(result) = VT_I4;
     V_I4(result) = 1;
     return S_OK;
