@@ -91,6 +91,25 @@ TEST_P(SaveOrderTest, TheListOfCodesIsEmptyWhenTheDeleteRuns) {
   EXPECT_EQ(codes, 0);
 }
 
+TEST_P(SaveOrderTest, TheListOfCodesIsKeptWhereTheConditionOfTheDayCannotBeMade) {
+  screen.form().CodigosaRecalcular.AddItem("P40");
+  screen.state.session.Conexion.reset();
+  screen.Click("LblGuardar");
+  EXPECT_EQ(TakeErrors(screen), Texts{"91: Object variable or With block variable not set"});
+  EXPECT_EQ(screen.form().CodigosaRecalcular.ListCount(), 1);
+}
+
+TEST_P(SaveOrderTest, TheTableIsClosedAfterTheBarIsSetWithNoTestOfItsState) {
+  // Somebody closes it while the codes of the day are gathered.
+  screen.form().CodigosaRecalcular.OnClick = [this] { screen.form().variables.RsCodigos->Close(); };
+  screen.Click("LblGuardar");
+  screen.form().CodigosaRecalcular.OnClick = nullptr;
+  EXPECT_EQ(TakeErrors(screen), Texts{"3704: Operation is not allowed when the object is closed."});
+  EXPECT_EQ(AvailableButtons(screen), kBotonesEnReposo);
+  EXPECT_EQ(screen.form().TxtEmpleado.Text(), "Ana");
+  EXPECT_EQ(screen.Sql("SELECT COUNT(*) FROM HistOrvendalcial"), "2");
+}
+
 TEST_P(SaveOrderTest, TheTableIsOpenWhileTheProductsAreRecalculated) {
   std::int32_t state_then = -1;
   std::string buttons_then;

@@ -82,6 +82,21 @@ TEST_F(LineColoursTest, FollowTheEditorByEnterAndArrows) {
   ExpectCurrent(3);
 }
 
+TEST_F(LineColoursTest, ComeAfterTheEditorWasPlaced) {
+  screen.DoubleClickCell(1, kQuantity);
+  std::string shown;
+  bool coloured = true;
+  screen.form().TxtMSF.OnChange = [&] {
+    shown = EditorText(screen);
+    coloured = IsCurrentColour(2, kCode);
+  };
+  screen.Key(key::kDown);
+  screen.form().TxtMSF.OnChange = nullptr;
+  EXPECT_EQ(shown, "2");
+  EXPECT_FALSE(coloured);
+  ExpectCurrent(2);
+}
+
 TEST_F(LineColoursTest, FollowTheGridsOwnKeys) {
   screen.ClickCell(1, kCode);
   screen.Key(key::kDown);

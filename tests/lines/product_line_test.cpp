@@ -145,6 +145,14 @@ TEST_F(ProductLineTest, ARepetitionAboveAndBelowIsFound) {
   EXPECT_EQ(screen.Codes(), (Texts{"P10", "P11", "P12", "P13"}));
 }
 
+TEST_F(ProductLineTest, ARepetitionBelowTheFirstFreeRowDoesNotCount) {
+  Open();
+  screen.form().MSFProductos.TextMatrix(6, kCode, "P1");
+  Enter(1, "P1");
+  EXPECT_TRUE(TakeMessages(screen).empty());
+  EXPECT_EQ(screen.Codes(), Texts{"P1"});
+}
+
 TEST_F(ProductLineTest, ARefusedProductIsNotReadAnyFurther) {
   Open();
   Enter(1, "P1");
