@@ -27,6 +27,22 @@ TEST_F(CancelCountTest, DropsLinesAndEditorWithNoQuestion) {
   EXPECT_EQ(AvailableButtons(screen), kBotonesConLineas);
 }
 
+TEST_F(CancelCountTest, HidesTheEditorAndSetsTheBarBeforeTheDayIsLoaded) {
+  screen.AddCounts(2);
+  screen.OpenWithStylist();
+  screen.DoubleClickCell(1, kCode);
+  bool open = true;
+  std::string buttons;
+  screen.recordsets.OnOpen([&](const OpenedStatement&) {
+    open = EditorIsOpen(screen);
+    buttons = AvailableButtons(screen);
+  });
+  screen.Click("LblCancelar");
+  screen.recordsets.OnOpen({});
+  EXPECT_FALSE(open);
+  EXPECT_EQ(buttons, kBotonesConLineas);
+}
+
 TEST_F(CancelCountTest, KeepsTheTextOfTheHiddenEditor) {
   screen.AddCounts(2);
   screen.OpenWithStylist();

@@ -44,6 +44,19 @@ TEST_F(CellEditorTest, MakesAllFiveButtonsAvailableWhenItOpens) {
   EXPECT_EQ(AvailableButtons(screen), kBotonesEnCelda);
 }
 
+TEST_F(CellEditorTest, HasTheFocusAfterTheButtonsAreAvailable) {
+  std::string buttons;
+  const std::function<void()> focused = form().TxtMSF.OnGotFocus;
+  form().TxtMSF.OnGotFocus = [&] {
+    buttons = AvailableButtons(screen);
+    focused();
+  };
+  screen.DoubleClickCell(1, kCode);
+  form().TxtMSF.OnGotFocus = focused;
+  EXPECT_EQ(buttons, kBotonesEnCelda);
+  EXPECT_TRUE(EditorTextIsSelected(screen));
+}
+
 TEST_F(CellEditorTest, LiesOverEachOfTheCellsThatMayBeEdited) {
   for (const int row : {1, 2, 3}) {
     for (const int column : {kCode, kDescription, kQuantity}) {

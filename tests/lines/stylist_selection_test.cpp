@@ -207,6 +207,17 @@ TEST_F(StylistSelectionTest, AnEmptyNameLeavesTheBoxEnabledAndTakesTheCode) {
   EXPECT_EQ(screen.Focused(), "PicDatos");
 }
 
+TEST_F(StylistSelectionTest, TheBarIsSetBeforeTheGridHasTheFocus) {
+  screen.Open();
+  screen.library.QueueEmployee({true, "E7", ""});
+  QueueCancel();
+  std::string buttons;
+  screen.library.DuringNextDialog([] {});  // the picker
+  screen.library.DuringNextDialog([&] { buttons = AvailableButtons(screen); });
+  screen.Click("TxtEmpleado");
+  EXPECT_EQ(buttons, kBotonesConLineas);
+}
+
 TEST_F(StylistSelectionTest, AChangeOfStylistTouchesNoLineThatIsThere) {
   screen.OpenWithStylist();
   screen.EnterLine("P1", "3");
