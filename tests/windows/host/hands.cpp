@@ -1,19 +1,8 @@
-// Hands for a screen in another process: hands COMMAND... in their order.
-//   window TITLE    waits for a window of the screen or its library that takes input, and turns to it
-//   gone TITLE      waits until there is none
-//   click X Y, double X Y
-//                   in the window, as if it were 1024 x 768 pixels large
-//   type TEXT       characters
-//   key NAME        return or escape
-//   close           as the title bar's button does
-// Ends with 1 if something that it waits for does not come.
+#include "tests/windows/host/hands.h"
 
 #include <windows.h>
 
-#include <cstdio>
-#include <string>
-#include <string_view>
-
+namespace orvendal {
 namespace {
 
 constexpr wchar_t kClass[] = L"OrvendalForm";
@@ -67,18 +56,14 @@ void Key(HWND window, WPARAM key) {
 
 }  // namespace
 
-int wmain(int count, wchar_t** words) {
+std::wstring UseScreen(const std::vector<std::wstring>& commands) {
   HWND window = nullptr;
-  const auto fail = [](const std::wstring& what) {
-    std::printf("hands: %ls\n", what.c_str());
-    return 1;
-  };
-  for (int at = 1; at < count; ++at) {
-    const std::wstring command = words[at];
-    const auto next = [&] { return at + 1 < count ? std::wstring(words[++at]) : std::wstring(); };
+  for (std::size_t at = 0; at < commands.size(); ++at) {
+    const std::wstring& command = commands[at];
+    const auto next = [&] { return at + 1 < commands.size() ? commands[++at] : std::wstring(); };
     if (command == L"window" || command == L"gone") {
       const std::wstring title = next();
-      if (!Await(title, command == L"window", window)) return fail(command + L" " + title);
+      if (!Await(title, command == L"window", window)) return command + L" " + title;
     } else if (command == L"click" || command == L"double") {
       const int x = std::stoi(next());
       const LPARAM place = PlaceIn(window, x, std::stoi(next()));
@@ -91,8 +76,10 @@ int wmain(int count, wchar_t** words) {
     } else if (command == L"close") {
       PostMessageW(window, WM_CLOSE, 0, 0);
     } else {
-      return fail(L"what is " + command + L"?");
+      return L"what is " + command + L"?";
     }
   }
-  return 0;
+  return {};
 }
+
+}  // namespace orvendal

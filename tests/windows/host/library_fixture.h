@@ -99,6 +99,7 @@ class LibraryTest : public testing::Test {
     store->Execute(
         "INSERT INTO Sucursales VALUES ('01', 'Centro');"
         "INSERT INTO Productos VALUES ('P1', 'Peine');"
+        "INSERT INTO Empleados VALUES ('E9', 'Zoe Puig', '01');"
         "INSERT INTO HistOrvendalcial VALUES ('01', '2026-11-16 00:00:00', 'P1', 0, 7.5, 'E1', "
         "'2026-11-16 10:00:00', '01')");
   }
