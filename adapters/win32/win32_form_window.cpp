@@ -18,12 +18,14 @@ int Round(double value) {
   return static_cast<int>(std::floor(value + 0.5));
 }
 
-RECT WorkArea() {
-  RECT area{};
-  if (!SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0)) {
-    area = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
-  }
-  return area;
+// Of the display that the window stands on; of the primary one for nullptr.
+RECT WorkAreaAround(HWND window) {
+  MONITORINFO display{};
+  display.cbSize = sizeof(display);
+  const HMONITOR nearest = window == nullptr ? MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY)
+                                             : MonitorFromWindow(window, MONITOR_DEFAULTTOPRIMARY);
+  if (GetMonitorInfoW(nearest, &display)) return display.rcWork;
+  return {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
 }
 
 }  // namespace
@@ -116,7 +118,7 @@ RECT Win32FormWindow::FormPixels() const {
 }
 
 POINT Win32FormWindow::FirstPlace(SIZE size) const {
-  const RECT screen = WorkArea();
+  const RECT screen = WorkAreaAround(owner_);
   RECT around = screen;
   if (form_.StartUpPosition() == kCenterOnOwner && owner_ != nullptr) GetWindowRect(owner_, &around);
   const LONG left = (around.left + around.right - size.cx) / 2;

@@ -33,15 +33,20 @@ struct Resources {
   bool operator==(const Resources&) const = default;
 };
 
+// Those that nobody sees and those that take messages only included.
 int WindowsOfThread() {
   int count = 0;
   EnumThreadWindows(
       GetCurrentThreadId(),
-      [](HWND window, LPARAM parameter) CALLBACK -> BOOL {
-        if (IsWindowVisible(window)) ++*reinterpret_cast<int*>(parameter);
+      [](HWND, LPARAM parameter) CALLBACK -> BOOL {
+        ++*reinterpret_cast<int*>(parameter);
         return TRUE;
       },
       reinterpret_cast<LPARAM>(&count));
+  HWND window = nullptr;
+  while ((window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr) {
+    if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId()) ++count;
+  }
   return count;
 }
 
