@@ -102,6 +102,20 @@ TEST(CommandLine, ErrorsAreInTheLanguageAskedFor) {
             "orvendal: No existeix l’opció --nada. L’ajuda és a orvendal --help.\n");
 }
 
+TEST(CommandLine, AProgramMayOfferLess) {
+  static const std::vector<Command> none;
+  const OfferedOptions offered{false, false, false};
+  for (const char* option : {"--region", "--pantalla", "--captura"}) {
+    const CommandLine line = ReadCommandLine({option, "x"}, Language::kSpanish, none, offered);
+    EXPECT_EQ(line.exit_code, kExitWrongUse) << option;
+    const std::string help = ReadCommandLine({"--help"}, Language::kSpanish, none, offered).output;
+    EXPECT_EQ(help.find(option), std::string::npos) << option;
+  }
+  const CommandLine line = ReadCommandLine({"--base", "800x600"}, Language::kSpanish, none, offered);
+  EXPECT_FALSE(line.exit_code);
+  EXPECT_EQ(line.options.base_width, 12000);
+}
+
 TEST(CommandLine, HelpTellsEveryOption) {
   for (const Language language : {Language::kSpanish, Language::kCatalan, Language::kEnglish}) {
     const CommandLine line = Read({"--help"}, language);

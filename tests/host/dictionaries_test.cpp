@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "adapters/sqlite/sqlite_store.h"
 #include "host/words.h"
 
 namespace orvendal {
@@ -25,6 +26,24 @@ TEST(Dictionaries, SpeakTheirLanguage) {
   EXPECT_EQ(MakeDictionaries(Language::kSpanish).general->Fields("Codigo").Value().Text(), "Código");
   EXPECT_EQ(MakeDictionaries(Language::kCatalan).general->Fields("Codigo").Value().Text(), "Codi");
   EXPECT_EQ(MakeDictionaries(Language::kEnglish).general->Fields("Codigo").Value().Text(), "Code");
+}
+
+TEST(Dictionaries, ComeFromAStoreOfEitherDialectToo) {
+  for (const Dialect dialect : {Dialect::kSqlServer, Dialect::kJet}) {
+    const auto store = SqliteConnection::Open(":memory:", dialect, Region::Spanish(), OpenMode::kCreate);
+    SqliteRecordsetFactory recordsets;
+    const Dictionaries selected = SelectDictionaries(recordsets, store, Language::kCatalan);
+    const Dictionaries made = MakeDictionaries(Language::kCatalan);
+    for (RecordsetRef Dictionaries::*which :
+         {&Dictionaries::general, &Dictionaries::acciones, &Dictionaries::pantallas}) {
+      const Recordset& expected = *(made.*which);
+      ASSERT_EQ((selected.*which)->FieldCount(), expected.FieldCount());
+      for (std::size_t i = 0; i < expected.FieldCount(); ++i) {
+        const std::string key = expected.FieldName(i);
+        EXPECT_EQ((selected.*which)->Fields(key).Value(), expected.Fields(key).Value()) << key;
+      }
+    }
+  }
 }
 
 TEST(Language, IsThatOfTheLocaleOrSpanish) {

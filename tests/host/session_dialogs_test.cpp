@@ -54,6 +54,18 @@ TEST_F(WorkstationPanel, ClosesByItsButton) {
   EXPECT_EQ(connection, store);
 }
 
+TEST_F(WorkstationPanel, OffersNoNewConnectionWhereTheHostHasNone) {
+  context.reopen_store = nullptr;
+  host.QueueDialog([](Form& form) {
+    EXPECT_FALSE(form.FindControl("CmdReconectar")->Enabled());
+    Robot(form).Key(key::kEscape);
+  });
+  ConnectionRef connection = store;
+  std::string workstation = "7";
+  library.NewHerramientas()->AccionPuesto(connection, workstation);
+  EXPECT_EQ(connection, store);
+}
+
 TEST_F(WorkstationPanel, ReconnectHandsTheNewConnectionBack) {
   CreateSchema(*other);
   Open([](Form& form) {
