@@ -64,7 +64,8 @@ HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** /*objeto
     const Dictionaries dictionaries =
         SelectDictionaries(session.recordsets, session.connection, state.GetLanguage());
     if (!branch_.empty()) branch.text = branch_;
-    session.sucursal = branch.text;
+    // Somebody who asks for the connection alone, as the search does, names no branch.
+    if (!branch.text.empty()) session.sucursal = branch.text;
     text.text = SessionText(session);
 
     ReplaceByStores(conexion, session.connection);

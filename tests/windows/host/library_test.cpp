@@ -88,6 +88,15 @@ TEST_F(LibraryTest, FillsTheSessionAndReplacesWhatItOwns) {
   EXPECT_EQ(WrapRecordset(screens.Get())->Fields("Orvendalciales").Value().Text(), "Orvendal");
   EXPECT_EQ(branch.Text(), "01");
   EXPECT_EQ(chain.Text(), "Sucursal=01;Puesto=7;Turno=1");
+
+  Session()->put_Branch(nullptr);
+  BstrCell no_branch;
+  ASSERT_EQ(contract->RellenarSesion(connection.InOut(), untouched[0].InOut(), untouched[1].InOut(),
+                                     untouched[2].InOut(), untouched[3].InOut(), untouched[4].InOut(),
+                                     untouched[5].InOut(), &width, &height, &on_screen, general.InOut(),
+                                     actions.InOut(), screens.InOut(), chain.InOut(), no_branch.InOut()),
+            S_OK);
+  EXPECT_EQ(chain.Text(), "Sucursal=01;Puesto=7;Turno=1");
   untouched[0].Reset();
 }
 
