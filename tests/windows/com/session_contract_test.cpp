@@ -268,6 +268,20 @@ TEST_F(SessionContractTest, WhatAFailingHostFilledSoFarStays) {
   EXPECT_EQ(Open(), S_OK);
 }
 
+TEST_F(SessionContractTest, TheTextsOfACallAreKeptEvenIfItHasNoSessionObject) {
+  Open();
+  BstrCell branch("07");
+  BstrCell station("P7");
+  BstrCell turn("T7");
+  _DatosClase* nobody = nullptr;
+  VARIANT_BOOL answer = VARIANT_TRUE;
+  EXPECT_EQ(component->Orvendal(&nobody, branch.InOut(), station.InOut(), turn.InOut(), &answer),
+            static_cast<HRESULT>(0x800A005B));
+  EXPECT_EQ(host->References(), 1U) << "the session object of before is let go";
+  hands().Key(key::kF2);
+  EXPECT_EQ(CallsOf("AbrirCambio").back(), "AbrirCambio '07' 'P7' 'T7' 15360 11520");
+}
+
 TEST_F(SessionContractTest, AHostThatCallsAgainFromItsFillingIsAnswered) {
   bool first = true;
   host->fill = [&](const FillArguments& session) {
