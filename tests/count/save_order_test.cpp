@@ -124,6 +124,14 @@ TEST_P(SaveOrderTest, TheTableIsOpenWhileTheProductsAreRecalculated) {
   EXPECT_EQ(buttons_then, kBotonesEnCelda);
 }
 
+TEST_P(SaveOrderTest, AnEditorThatOpenedMeanwhileIsClosedAtTheEnd) {
+  screen.form().CodigosaRecalcular.OnClick = [this] { screen.form().TxtMSF.Visible(true); };
+  screen.Click("LblGuardar");
+  screen.form().CodigosaRecalcular.OnClick = nullptr;
+  EXPECT_FALSE(EditorIsOpen(screen));
+  EXPECT_TRUE(TakeErrors(screen).empty());
+}
+
 TEST_P(SaveOrderTest, TheHeaderIsEmptiedBeforeTheDayIsLoadedAgain) {
   std::string name = "?";
   std::int32_t state = -1;
