@@ -17,8 +17,7 @@ RecordsetRef AdoRecordsetFactory::NewRecordset() {
   const module_lifetime::Hold hold;
   ComPtr<IUnknown> made;
   if (FAILED(CoCreateInstance(ado::kRecordsetClass, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
-                              made.ReceiveVoid())) ||
-      !made) {
+                              made.ReceiveVoid()))) {
     throw RuntimeError(kCannotCreateObject, "ActiveX component can't create object");
   }
   ComPtr<Recordset15> recordset = AdoRecordset::InterfaceOf(made.Get());

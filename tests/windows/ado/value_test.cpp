@@ -64,7 +64,9 @@ TEST_F(FieldValue, EveryKindOfNumberIsANumber) {
   EXPECT_EQ(ValueOf(Made(VT_R4, [](VARIANT& v) { V_R4(&v) = 0.1F; }), kSpanish), Value(0.1));
   EXPECT_EQ(ValueOf(Made(VT_R4, [](VARIANT& v) { V_R4(&v) = -1234.5F; }), kSpanish), Value(-1234.5));
   EXPECT_EQ(ValueOf(Eight(-999'999'999'999'999), kSpanish), Value(-999'999'999'999'999.0));
+  EXPECT_EQ(ValueOf(Eight(42), kSpanish), Value(42));
   EXPECT_EQ(ValueOf(Currency(-125'000), kSpanish), Value(-12.5));
+  EXPECT_EQ(ValueOf(Currency(125'000), kSpanish), Value(12.5));
   EXPECT_EQ(ValueOf(Decimal(125, 1), kSpanish), Value(12.5));
   EXPECT_EQ(ValueOf(Decimal(7, 0, true), kSpanish), Value(-7));
   EXPECT_EQ(ValueOf(Decimal(999'999'999'999'999, 3), kSpanish), Value(999'999'999'999.999));
