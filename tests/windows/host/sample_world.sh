@@ -3,7 +3,8 @@
 emulator=$ORVENDAL_EMULATOR
 [ "$1" != wineboot ] || exec "$emulator" "$@"
 folder=$1
-work=$(mktemp -d)
+# Beside the build, which every Wine sees.
+work=$(mktemp -d "$PWD/sample_world.XXXXXX")
 trap 'rm -rf "$work"' EXIT
 
 windows_path() {
