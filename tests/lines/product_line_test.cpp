@@ -162,6 +162,17 @@ TEST_F(ProductLineTest, ARefusedProductIsNotReadAnyFurther) {
   EXPECT_EQ(TakeStatements(screen).size(), 1U);
 }
 
+TEST_F(ProductLineTest, ADialogCancelledOnAFilledLineReadsNothingMore) {
+  screen.AddCounts(1);
+  Open();
+  const Texts before = screen.Line(1);
+  screen.library.QueueProduct("");
+  Enter(1, "xyz");
+  EXPECT_EQ(TakeStatements(screen).size(), 2U);  // the products and the references
+  EXPECT_EQ(screen.Line(1), before);
+  EXPECT_EQ(EditorText(screen), "xyz");
+}
+
 TEST_F(ProductLineTest, CodesThatDifferInCaseAreTwoProducts) {
   screen.Execute("INSERT INTO Referencias (Referencia, IdProducto) VALUES ('55', 'p1')");
   Open();
