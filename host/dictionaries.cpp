@@ -31,7 +31,7 @@ constexpr Entry kGeneral[] = {
 
 constexpr Entry kAcciones[] = {
     {"Supervisor", "Supervisor", "Supervisor", "Supervisor"},
-    {"Borrar Linea", "Borrar Línea", "Esborrar Línia", "Delete Line"},
+    {"Borrar Linea", "Borrar Línea", "Esborrar", "Delete Line"},
 };
 
 constexpr Entry kPantallas[] = {

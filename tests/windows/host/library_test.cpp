@@ -84,7 +84,7 @@ TEST_F(LibraryTest, FillsTheSessionAndReplacesWhatItOwns) {
   EXPECT_EQ(width, 12000);
   EXPECT_EQ(height, 11520);
   EXPECT_EQ(WrapRecordset(general.Get())->Fields("Codigo").Value().Text(), "Codi");
-  EXPECT_EQ(WrapRecordset(actions.Get())->Fields("Borrar Linea").Value().Text(), "Esborrar Línia");
+  EXPECT_EQ(WrapRecordset(actions.Get())->Fields("Borrar Linea").Value().Text(), "Esborrar");
   EXPECT_EQ(WrapRecordset(screens.Get())->Fields("Orvendalciales").Value().Text(), "Orvendal");
   EXPECT_EQ(branch.Text(), "01");
   EXPECT_EQ(chain.Text(), "Sucursal=01;Puesto=7;Turno=1");
