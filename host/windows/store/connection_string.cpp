@@ -13,7 +13,7 @@ constexpr std::int32_t kBadConnectionString = -2147217805;  // 80040E73
 
 [[noreturn]] void RaiseBadString() {
   throw RuntimeError(kBadConnectionString,
-                     "Format of the initialization string does not conform to the OLE DB specification.");
+                     "The connection string is not a list of Name=Value with semicolons between.");
 }
 
 std::string_view WithoutBlanks(std::string_view text) {
