@@ -75,6 +75,7 @@ run_under_wine() (
   mkdir -p "$TMPDIR"
   unset DISPLAY WAYLAND_DISPLAY
   trap 'stop_wine "$folder"' EXIT
+  echo "== $1 under Wine"
   cd "$root"
   ctest --preset "$1"
 )
