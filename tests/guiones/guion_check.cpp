@@ -1,11 +1,12 @@
-// Runs a script and compares what it shows, byte for byte, with the file that says what it should show.
+// Runs scripts and compares what each shows, byte for byte, with the file that says what it should show.
 //
-//   guion_check [--escribir] FILE.guion FILE.salida
+//   guion_check [--escribir] FILE.guion FILE.salida ...
 //
 // The first line of the script may give options: "# opciones: --dialecto jet". After what the script shows on
 // its two streams, the expected file has the exit code if it is not 0. The script runs twice, since it has to
 // show the same each time. With --escribir the file is written instead.
 
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -64,30 +65,40 @@ int Compare(const std::string& expected, const std::string& shown) {
   }
 }
 
+int Check(const std::string& script_file, const std::string& expected_file, bool write) {
+  const std::string script = ReadFile(script_file);
+  const std::string shown = Show(script);
+  if (Show(script) != shown) {
+    std::cerr << "the second run shows something else\n";
+    return 1;
+  }
+  if (write) {
+    std::ofstream(expected_file, std::ios::binary) << shown;
+    return 0;
+  }
+  return Compare(ReadFile(expected_file), shown);
+}
+
 }  // namespace
 
 int main(int argument_count, char** arguments) {
   std::vector<std::string> words(arguments + 1, arguments + argument_count);
   const bool write = !words.empty() && words[0] == "--escribir";
   if (write) words.erase(words.begin());
-  if (words.size() != 2) {
-    std::cerr << "use: guion_check [--escribir] FILE.guion FILE.salida\n";
+  if (words.empty() || words.size() % 2 != 0) {
+    std::cerr << "use: guion_check [--escribir] FILE.guion FILE.salida ...\n";
     return 2;
   }
-  try {
-    const std::string script = ReadFile(words[0]);
-    const std::string shown = Show(script);
-    if (Show(script) != shown) {
-      std::cerr << "the second run shows something else\n";
-      return 1;
+  int worst = 0;
+  for (std::size_t i = 0; i < words.size(); i += 2) {
+    int result = 2;
+    try {
+      result = Check(words[i], words[i + 1], write);
+    } catch (const std::exception& error) {
+      std::cerr << error.what() << '\n';
     }
-    if (write) {
-      std::ofstream(words[1], std::ios::binary) << shown;
-      return 0;
-    }
-    return Compare(ReadFile(words[1]), shown);
-  } catch (const std::exception& error) {
-    std::cerr << error.what() << '\n';
-    return 2;
+    if (result != 0) std::cerr << "in " << words[i] << '\n';
+    worst = std::max(worst, result);
   }
+  return worst;
 }
