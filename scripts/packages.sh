@@ -1,14 +1,12 @@
 # Sourced by the other scripts: what the build needs, and how it gets there.
 
 # What Debian calls it. fonts-urw-base35 holds the screen's letters, fonts-dejavu-core is there for all others.
-build_packages=(g++ cmake ninja-build qt6-base-dev libsqlite3-dev libcli11-dev libgtest-dev libbenchmark-dev
-  fonts-urw-base35 fonts-dejavu-core)
+build_packages=(g++ cmake ninja-build qt6-base-dev libsqlite3-dev libcli11-dev libgtest-dev fonts-urw-base35
+  fonts-dejavu-core)
 
-# To build for Windows: the compilers, the interface definitions of the system, and what fetches SQLite's sources.
+# To build for Windows: the compilers, the interface definitions of the system, and what SQLite's sources are made with.
 windows_build_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools libwine-dev libwine
-  googletest)
-# Where npm came with Node itself, Debian's package of it would be in the way.
-command -v npm >/dev/null || windows_build_packages+=(npm)
+  googletest make patch tcl8.6)
 
 # With ccache, a clone in another place finds what an earlier one compiled.
 export CCACHE_BASEDIR="${root:?}" CCACHE_NOHASHDIR=1

@@ -6,7 +6,7 @@ wine_packages=(wine wine64 xvfb xauth)
 can_build_for_windows() {
   install_missing "${windows_build_packages[@]}" || return 1
   local tool
-  for tool in {x86_64,i686}-w64-mingw32-g++-posix {x86_64,i686}-w64-mingw32-{widl,windres} npm; do
+  for tool in {x86_64,i686}-w64-mingw32-g++-posix {x86_64,i686}-w64-mingw32-{widl,windres} make patch tclsh8.6; do
     if ! command -v "$tool" >/dev/null; then
       echo "$tool is not installed" >&2
       return 1
@@ -70,9 +70,6 @@ stop_wine() {
 # Runs the tests of a preset for Windows under Wine; what they start ends with them: run_under_wine PRESET
 run_under_wine() (
   folder="$root/build/$1"
-  # Programs in a root of their own see no other temporary folder.
-  export TMPDIR="$folder/temporary"
-  mkdir -p "$TMPDIR"
   unset DISPLAY WAYLAND_DISPLAY
   trap 'stop_wine "$folder"' EXIT
   echo "== $1 under Wine"

@@ -3,7 +3,7 @@
 # machine whose own Wine has 64 bits only. Everything is mounted for this one run and for it alone, so that
 # nothing is left in the root. Needs the rights to mount and to change the root.
 # The root, in ORVENDAL_I386_ROOT, is made by scripts/i386_root, or by hand with
-#   debootstrap --arch=i386 --variant=minbase --include=wine32,wine,fonts-urw-base35 bookworm FOLDER
+#   debootstrap --arch=i386 --variant=minbase --include=wine32,wine,fonts-urw-base35 SUITE FOLDER
 # ORVENDAL_SHARED_FOLDERS are seen inside under their own paths, the build and the sources among them.
 set -eu
 root=${ORVENDAL_I386_ROOT:?}

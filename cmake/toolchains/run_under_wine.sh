@@ -7,4 +7,6 @@ mkdir -p "$prefix"
 export WINEPREFIX="$prefix"
 export WINEDEBUG="${WINEDEBUG:--all}"
 export WINEDLLOVERRIDES="${WINEDLLOVERRIDES:-mscoree,mshtml=;winedbg.exe=d}"
+# Wine 10 aborts at its start where this is set.
+unset TMPDIR
 exec timeout --kill-after=5 "${ORVENDAL_WINE_SECONDS:-120}" ${ORVENDAL_WINE:-wine} "$@"

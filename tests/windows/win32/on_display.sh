@@ -3,6 +3,10 @@
 # belongs to the display that it was started on, so it goes with the program. The display's number is the server's
 # choice, so that runs at the same time do not meet.
 set -eu
+if ! command -v Xvfb >/dev/null; then
+  echo "Xvfb is not installed, which the display is made with" >&2
+  exit 1
+fi
 ready=$(mktemp -u)
 mkfifo "$ready"
 Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$ready" >/dev/null 2>&1 &
