@@ -5,6 +5,8 @@
 #include <charconv>
 
 #include "host/default_store.h"
+#include "host/help_text.h"
+#include "host/printed_text.h"
 
 namespace orvendal {
 namespace {
@@ -84,39 +86,47 @@ std::optional<PixelSize> ParseBase(std::string_view text) {
 // The help and the errors are in the language that the same command line asks for.
 Language LanguageAskedFor(const std::vector<std::string>& arguments, Language system_language) {
   const std::string option = "--idioma";
+  Language asked_for = system_language;
   for (std::size_t i = 0; i < arguments.size(); ++i) {
     std::optional<Language> language;
     if (arguments[i] == option && i + 1 < arguments.size()) language = LanguageNamed(arguments[i + 1]);
     if (arguments[i].starts_with(option + "=")) {
       language = LanguageNamed(arguments[i].substr(option.size() + 1));
     }
-    if (language) return *language;
+    if (language) asked_for = *language;
   }
-  return system_language;
+  return asked_for;
 }
 
 class Reader {
  public:
   Reader(Language language, const std::vector<Command>& commands, OfferedOptions offered)
-      : words_(WordsOf(language)), commands_(commands), app_(std::string(words_.help_purpose), "orvendal") {
+      : words_(WordsOf(language)), commands_(commands), app_("", "orvendal") {
     line_.options.language = language;
     app_.allow_extras();
-    app_.set_help_flag("-h,--help", std::string(words_.help_help))->group(std::string(words_.help_options));
-    app_.footer(std::string(words_.help_first_run));
-    app_.formatter(std::make_shared<HelpFormatter>(words_));
+    AddHelp(app_);
     Options& options = line_.options;
-    Add("--sucursal", options.sucursal, words_.help_branch, "SUC");
-    Add("--puesto", options.puesto, words_.help_workstation, "PUESTO");
-    Add("--turno", options.turno, words_.help_shift, "TURNO");
-    Add("--idioma", typed_.language, words_.help_language, "es|ca|en");
-    if (offered.region) Add("--region", typed_.region, words_.help_region, "REGION");
-    Add("--base", typed_.base, words_.help_base, "ANCHOxALTO");
-    if (offered.display) Add("--pantalla", typed_.display, words_.help_display, "ANCHOxALTO");
-    store_option_ = Add("--db", typed_.store, Fill(words_.help_store, {DefaultStore()}), "FICHERO");
-    Add("--dialecto", typed_.dialect, words_.help_dialect, "sqlserver|jet");
-    if (offered.picture) {
-      picture_option_ = Add("--captura", options.picture, words_.help_picture, "FICHERO.png");
+    const Words& words = words_;
+    Add("--sucursal", options.sucursal, words.value_branch, words.help_branch, nullptr);
+    Add("--puesto", options.puesto, words.value_workstation, words.help_workstation, nullptr);
+    Add("--turno", options.turno, words.value_shift, words.help_shift, nullptr);
+    Add("--idioma", typed_.language, "es|ca|en", words.help_language, &Words::help_language_of_script);
+    if (offered.region) {
+      Add("--region", typed_.region, words.value_region, words.help_region, &Words::help_region);
     }
+    Add("--base", typed_.base, words.value_size, words.help_base, &Words::help_base);
+    if (offered.display) {
+      Add("--pantalla", typed_.display, words.value_size, words.help_display, &Words::help_display_of_script);
+    }
+    store_option_ = Add("--db", typed_.store, words.value_file, Fill(words.help_store, {DefaultStore()}),
+                        &Words::help_store_of_script);
+    app_.add_flag("--crear", options.create)->disable_flag_override();
+    Describe("--crear", {}, words.help_create, &Words::help_create);
+    Add("--dialecto", typed_.dialect, "sqlserver|jet", words.help_dialect, &Words::help_dialect);
+    if (offered.picture) {
+      picture_option_ = Add("--captura", options.picture, words.value_picture, words.help_picture, nullptr);
+    }
+    Describe("-h, --help", {}, words.help_help, &Words::help_help);
     for (const Command& command : commands_) AddCommand(command);
   }
 
@@ -127,7 +137,8 @@ class Reader {
       CheckExtras();
       Interpret();
     } catch (const CLI::CallForHelp&) {
-      line_.output = app_.help();
+      const Command* const command = CommandTyped();
+      line_.output = command == nullptr ? Help() : HelpOf(*command);
       line_.exit_code = 0;
     } catch (const CLI::ParseError& error) {
       Refuse(SentenceFor(error));
@@ -138,47 +149,95 @@ class Reader {
   }
 
  private:
-  class HelpFormatter final : public CLI::Formatter {
-   public:
-    explicit HelpFormatter(const Words& words) : words_(words) { column_width(32); }
-    std::string make_usage(const CLI::App* app, std::string) const override {
-      std::string usage(words_.help_usage);
-      for (const CLI::App* command : app->get_subcommands([](const CLI::App*) { return true; })) {
-        usage += "\n     orvendal " + command->get_name() + " " +
-                 command->get_option_no_throw("argument")->get_type_name();
-      }
-      return usage + "\n";
-    }
+  using OwnWord = std::string_view Words::*;
 
-   private:
-    const Words& words_;
+  // What is told of an option; with a command something else may hold, or the option has no use there.
+  struct Description {
+    std::string option;
+    std::string name;
+    std::string text;
+    OwnWord text_of_command;  // nullptr: not for commands
   };
 
-  CLI::Option* Add(const std::string& name, std::string& value, std::string_view help, const char* type) {
-    return app_.add_option(name, value, std::string(help))
-        ->type_name(type)
-        ->take_last()
-        ->group(std::string(words_.help_options));
+  void AddHelp(CLI::App& app) { app.set_help_flag("-h,--help"); }
+
+  void Describe(const std::string& option, std::string_view value, std::string_view text,
+                OwnWord of_command) {
+    const std::string name = value.empty() ? option : option + " " + std::string(value);
+    descriptions_.push_back({option, name, std::string(text), of_command});
   }
 
+  CLI::Option* Add(const std::string& name, std::string& value, std::string_view value_name,
+                   std::string_view help, OwnWord of_command) {
+    Describe(name, value_name, help, of_command);
+    return app_.add_option(name, value)->take_last();
+  }
+
+  std::string ArgumentOf(const Command& command) const { return std::string(words_.*command.argument); }
+
   void AddCommand(const Command& command) {
-    CLI::App* sub = app_.add_subcommand(command.name, std::string(words_.*command.help));
-    sub->group(std::string(words_.help_commands));
-    sub->set_help_flag("-h,--help", std::string(words_.help_help));
+    CLI::App* sub = app_.add_subcommand(command.name);
+    AddHelp(*sub);
     sub->fallthrough();
-    sub->add_option("argument", line_.argument)->type_name(command.argument);
+    sub->add_option("argument", line_.argument);
     sub->final_callback([this, sub, &command] {
       line_.command = &command;
       if (sub->count("argument") == 0) {
-        throw WrongUse{Fill(words_.argument_missing, {command.name, command.argument})};
+        throw WrongUse{Fill(words_.argument_missing, {command.name, ArgumentOf(command)})};
       }
     });
+  }
+
+  // The command whose word was typed, whatever came of it.
+  const Command* CommandTyped() const {
+    for (const Command& command : commands_) {
+      if (app_.got_subcommand(command.name)) return &command;
+    }
+    return nullptr;
+  }
+
+  std::string Help() const {
+    HelpSection options{words_.help_options, {}};
+    for (const Description& option : descriptions_) options.lines.push_back({option.name, option.text});
+    HelpSection commands{words_.help_commands, {}};
+    HelpPage page{
+        words_.help_purpose, words_.help_usage, {"orvendal " + std::string(words_.help_of_options)}, {}, {}};
+    for (const Command& command : commands_) {
+      const std::string call = command.name + " " + ArgumentOf(command);
+      page.calls.push_back("orvendal " + call + " " + std::string(words_.help_of_options));
+      commands.lines.push_back({call, std::string(words_.*command.help)});
+    }
+    page.sections = {options, commands};
+    page.notes = {words_.help_first_run, words_.help_exit_codes};
+    return HelpText(page);
+  }
+
+  std::string HelpOf(const Command& command) const {
+    HelpSection options{words_.help_options, {}};
+    for (const Description& option : descriptions_) {
+      if (option.text_of_command == nullptr) continue;
+      options.lines.push_back({option.name, std::string(words_.*option.text_of_command)});
+    }
+    const std::string call =
+        "orvendal " + command.name + " " + ArgumentOf(command) + " " + std::string(words_.help_of_options);
+    const HelpSection arguments{words_.help_arguments,
+                                {{ArgumentOf(command), std::string(words_.*command.argument_help)}}};
+    return HelpText({words_.*command.help,
+                     words_.help_usage,
+                     {call},
+                     {arguments, options},
+                     {words_.*command.exit_codes}});
   }
 
   void CheckExtras() {
     for (const std::string& extra : app_.remaining(true)) {
       const bool is_option = extra.size() > 1 && extra.front() == '-';
       throw WrongUse{Fill(is_option ? words_.unknown_option : words_.unexpected_word, {extra})};
+    }
+    if (line_.command == nullptr) return;
+    for (const Description& option : descriptions_) {
+      if (option.text_of_command != nullptr || !Given(option.option.c_str())) continue;
+      throw WrongUse{Fill(words_.option_not_for, {option.option, line_.command->name})};
     }
   }
 
@@ -193,6 +252,8 @@ class Reader {
 
   void Interpret() {
     Options& options = line_.options;
+    // A command shows the same whatever the user's language.
+    if (line_.command != nullptr && !Given("--idioma")) options.language = Language::kSpanish;
     if (Given("--idioma") && !LanguageNamed(typed_.language)) {
       BadValue("--idioma", typed_.language, kLanguages);
     }
@@ -232,19 +293,26 @@ class Reader {
     const std::string message = error.what();
     for (const CLI::Option* option : app_.get_options()) {
       const std::string name = option->get_name();
-      if (message.find(name) != std::string::npos) return Fill(words_.value_missing, {name});
+      const bool takes_value = option->get_expected_max() > 0;
+      // Of an option that takes none it is named without its dashes.
+      if (message.find(takes_value ? name : name.substr(2) + " was given") == std::string::npos) continue;
+      return Fill(takes_value ? words_.value_missing : words_.value_not_taken, {name});
     }
     return message;
   }
 
   void Refuse(const std::string& sentence) {
-    line_.errors = "orvendal: " + sentence + " " + std::string(words_.see_help) + "\n";
+    const Command* const command = CommandTyped();
+    line_.command = command;
+    const std::string help = command == nullptr ? "orvendal --help" : "orvendal " + command->name + " --help";
+    line_.errors = "orvendal: " + PrintedText(sentence) + " " + Fill(words_.see_help, {help}) + "\n";
     line_.exit_code = kExitWrongUse;
   }
 
   const Words& words_;
   const std::vector<Command>& commands_;
   CLI::App app_;
+  std::vector<Description> descriptions_;
   CLI::Option* store_option_ = nullptr;
   CLI::Option* picture_option_ = nullptr;
   Typed typed_;

@@ -28,21 +28,24 @@ struct Options {
   int base_height = 11520;  // twips
   std::optional<PixelSize> display;
   std::optional<std::string> store;
+  bool create = false;  // the store named may be made
   Dialect dialect = Dialect::kSqlServer;
   std::string picture;  // empty: open a window
 };
 
 /// A command that does something other than open the screen: a word followed by one argument. The options
-/// hold before and after it.
+/// that make sense for it hold before and after it; without one for it, the language is Spanish.
 struct Command {
   std::string name;
-  std::string argument;  // what the help calls it
+  std::string_view Words::*argument;  // what the help calls it
+  std::string_view Words::*argument_help;
   std::string_view Words::*help;
+  std::string_view Words::*exit_codes;
   std::function<int(const Options& options, const std::string& argument)> run;
 };
 
 /// The outcome of reading a command line: either there is something to do, or the program ends at once with
-/// `exit_code`, having written the texts.
+/// `exit_code`, having written the texts. With a wrong use of a command, too, `command` is the one meant.
 struct CommandLine {
   Options options;
   const Command* command = nullptr;  // nullptr: open the screen

@@ -1,5 +1,6 @@
 #include "host/day_lines.h"
 
+#include "host/printed_text.h"
 #include "platform/forms/ms_flex_grid.h"
 
 namespace orvendal {
@@ -11,7 +12,9 @@ std::string LinesOf(const Form& form, std::string_view grid_name) {
   // The first row without a code ends the lines.
   for (int row = 1; row < grid->Rows() && !grid->TextMatrix(row, 0).empty(); ++row) {
     lines += std::to_string(row);
-    for (int column = 0; column < grid->Cols(); ++column) lines += "\t" + grid->TextMatrix(row, column);
+    for (int column = 0; column < grid->Cols(); ++column) {
+      lines += "\t" + PrintedText(grid->TextMatrix(row, column));
+    }
     lines += "\n";
   }
   return lines;

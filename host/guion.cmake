@@ -8,5 +8,6 @@ add_library(orvendal_guion STATIC
   ${CMAKE_CURRENT_LIST_DIR}/guion_runner.cpp
   ${CMAKE_CURRENT_LIST_DIR}/guion_show.cpp
   ${CMAKE_CURRENT_LIST_DIR}/guion_values.cpp
-  ${CMAKE_CURRENT_LIST_DIR}/guion_world.cpp)
+  ${CMAKE_CURRENT_LIST_DIR}/guion_world.cpp
+  ${CMAKE_CURRENT_LIST_DIR}/picture_place.cpp)
 target_link_libraries(orvendal_guion PUBLIC orvendal_host orvendal_component orvendal_headless)

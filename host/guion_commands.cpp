@@ -5,6 +5,8 @@
 
 #include "host/guion_parser.h"
 #include "host/guion_show.h"
+#include "host/picture_place.h"
+#include "host/printed_text.h"
 
 namespace orvendal {
 namespace {
@@ -90,8 +92,9 @@ const std::vector<ScriptCommands::Command>& ScriptCommands::Commands() {
   return commands;
 }
 
-ScriptCommands::ScriptCommands(const Options& options, std::ostream& output, SavePicture save_picture)
-    : output_(output), save_picture_(std::move(save_picture)), world_(options) {
+ScriptCommands::ScriptCommands(const Options& options, std::ostream& output, SavePicture save_picture,
+                               std::filesystem::path folder)
+    : output_(output), save_picture_(std::move(save_picture)), folder_(std::move(folder)), world_(options) {
   world_.host.OnReport = [this](const RuntimeError& error) { PrintError(error); };
 }
 
@@ -131,10 +134,11 @@ void ScriptCommands::SetBase(const Words& words) {
 void ScriptCommands::RunSql(const Words& words) {
   try {
     std::string rest = words[0];
+    if (rest.find('\0') != std::string::npos) throw ScriptStop("la sentencia tiene un carácter nulo");
     while (!rest.empty()) {
       SqliteStatement statement(world_.Store(), rest);
-      if (!statement.HasStatement()) return;
-      while (statement.Step()) Print(JoinedRow(statement));
+      // A row that nobody sees any more is the last one.
+      while (statement.HasStatement() && output_ && statement.Step()) Print(JoinedRow(statement));
       rest = statement.Rest();
     }
   } catch (const StoreUnavailable&) {
@@ -163,9 +167,15 @@ void ScriptCommands::QueueEmployee(const Words& words) {
     world_.Dialogs().QueueEmployee({});
     return;
   }
-  SqliteStatement look(world_.Store(), "SELECT Codigo, Nombre FROM Empleados WHERE Codigo = ?1");
-  if (!look.Bind(1, words[0]).Step()) throw ScriptStop("no existe el empleado " + words[0]);
-  world_.Dialogs().QueueEmployee({true, look.TextAt(0), look.TextAt(1)});
+  try {
+    SqliteStatement look(world_.Store(), "SELECT Codigo, Nombre FROM Empleados WHERE Codigo = ?1");
+    if (!look.Bind(1, words[0]).Step()) throw ScriptStop("no existe el empleado " + words[0]);
+    world_.Dialogs().QueueEmployee({true, look.TextAt(0), look.TextAt(1)});
+  } catch (const StoreUnavailable&) {
+    throw;
+  } catch (const RuntimeError& error) {
+    throw ScriptStop("no se puede leer el empleado " + words[0] + ": " + error.Description());
+  }
 }
 
 void ScriptCommands::QueueProduct(const Words& words) {
@@ -279,8 +289,14 @@ void ScriptCommands::Expect(const Words& words) {
 
 void ScriptCommands::TakePicture(const Words& words) {
   const std::shared_ptr<FrmOrvendalciales> screen = Screen();
-  if (!save_picture_ || !save_picture_(*screen, words[0])) {
-    throw ScriptStop("no se puede escribir la imagen " + words[0]);
+  const ScriptStop not_written("no se puede escribir la imagen " + words[0]);
+  if (!save_picture_) throw not_written;
+  try {
+    PicturePlace place(words[0], folder_);
+    if (!save_picture_(*screen, place.Path())) throw not_written;
+    place.Keep();
+  } catch (const NoPlaceForPicture& reason) {
+    throw ScriptStop(reason.what());
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -16,8 +17,10 @@ using SavePicture = std::function<bool(Form& form, const std::string& path)>;
 /// The commands of a script, on a world of their own.
 class ScriptCommands {
  public:
-  /// `options` and `output` outlive the object. An empty `save_picture` refuses pictures.
-  ScriptCommands(const Options& options, std::ostream& output, SavePicture save_picture);
+  /// `options` and `output` outlive the object. An empty `save_picture` refuses pictures; `folder` is the
+  /// script's own, empty for none.
+  ScriptCommands(const Options& options, std::ostream& output, SavePicture save_picture,
+                 std::filesystem::path folder);
 
   /// Runs one line's words; none do nothing. Raises ScriptStop, and what comes out of a dialog that nobody
   /// answers.
@@ -67,6 +70,7 @@ class ScriptCommands {
 
   std::ostream& output_;
   SavePicture save_picture_;
+  std::filesystem::path folder_;
   ScriptWorld world_;
 };
 

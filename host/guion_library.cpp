@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/printed_text.h"
 #include "platform/base/region.h"
 #include "platform/forms/form.h"
 
@@ -43,32 +44,6 @@ std::string ObjectText(const ObjectRef& object) {
 }
 
 }  // namespace
-
-std::string QuotedText(const std::string& text) {
-  std::string quoted = "\"";
-  for (const char c : text) {
-    switch (c) {
-      case '"':
-        quoted += "\\\"";
-        break;
-      case '\\':
-        quoted += "\\\\";
-        break;
-      case '\r':
-        quoted += "\\r";
-        break;
-      case '\n':
-        quoted += "\\n";
-        break;
-      case '\t':
-        quoted += "\\t";
-        break;
-      default:
-        quoted += c;
-    }
-  }
-  return quoted + "\"";
-}
 
 void ScriptedLibrary::ReplaceConnection(const std::string& operation, ConnectionRef connection) {
   replacements_[operation] = std::move(connection);

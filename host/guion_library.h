@@ -114,7 +114,4 @@ class ScriptedLibrary final : public Library {
   std::vector<ShownMessage> messages_;
 };
 
-/// A text in double quotes, with quotes, backslashes, line breaks and tabs written as \" \\ \r \n \t.
-std::string QuotedText(const std::string& text);
-
 }  // namespace orvendal

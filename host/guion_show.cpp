@@ -109,20 +109,6 @@ FormProperties PropertiesOfForm(FrmOrvendalciales& form, const DatosComunes& ses
 
 }  // namespace
 
-std::string PrintedText(const std::string& text) {
-  std::string printed;
-  for (const char c : text) {
-    if (c == '\r') {
-      printed += "\\r";
-    } else if (c == '\n') {
-      printed += "\\n";
-    } else {
-      printed += c;
-    }
-  }
-  return printed;
-}
-
 Control& ControlNamed(const Form& form, const std::string& name) {
   if (Control* control = form.FindControl(name)) return *control;
   if (Control* area = form.FindControl(name + "(1)")) return *area;

@@ -7,9 +7,6 @@
 
 namespace orvendal {
 
-/// A text as a script prints it: line breaks as \r and \n.
-std::string PrintedText(const std::string& text);
-
 /// The control of that full name; of a group of two, the plain name means the click area (1). Raises
 /// ScriptStop if there is none.
 Control& ControlNamed(const Form& form, const std::string& name);

@@ -1,14 +1,13 @@
 #include "host/guion_world.h"
 
 #include "adapters/headless/robot.h"
+#include "host/chosen_store.h"
 #include "host/guion_parser.h"
 #include "host/sample_session.h"
 #include "platform/base/text.h"
 
 namespace orvendal {
 namespace {
-
-constexpr const char* kInMemory = ":memory:";
 
 // Hands in the workstation's panel. Its name is that of the form; Esc closes it.
 void UsePanel(Form& panel, bool reconnect) {
@@ -58,7 +57,7 @@ ScriptWorld::ScriptWorld(const Options& options)
                library_recordsets_,
                nullptr,
                nullptr,
-               options.store.value_or(kInMemory),
+               options.store.value_or(kStoreInMemory),
                options.sucursal,
                options.puesto,
                options.turno,
@@ -74,11 +73,12 @@ ScriptWorld::~ScriptWorld() = default;
 
 SqliteConnection& ScriptWorld::Store() {
   if (!context_.connection) {
-    const StoreSettings settings{context_.store_name, options_.dialect, *options_.region, context_.words};
-    context_.connection = OpenOrMakeStore(settings, clock.Today());
+    const ChosenStore chosen = ChooseStore(options_, kStoreInMemory, context_.words);
+    const StoreSettings settings{chosen.path, options_.dialect, *options_.region, context_.words};
+    context_.connection = OpenChosenStore(chosen, settings, clock.Today()).connection;
     // A store in memory is gone with its connection.
     context_.reopen_store = [this, settings]() -> ConnectionRef {
-      return settings.path == kInMemory ? context_.connection : OpenExistingStore(settings);
+      return settings.path == kStoreInMemory ? context_.connection : OpenExistingStore(settings);
     };
   }
   return EmbeddedStore(context_.connection);
@@ -97,26 +97,32 @@ std::shared_ptr<FrmOrvendalciales> ScriptWorld::Screen() const {
   return state_.form && state_.form->IsLoaded() ? state_.form : nullptr;
 }
 
-// A panel or dialog that nothing was prepared for is closed as it came up, with nothing changed.
+// A panel or dialog that nothing was prepared for is closed as it came up, with nothing changed. One that
+// does not come up, because the store fails, takes its answer with it.
 void ScriptWorld::AnswerDialog(const std::string& operation) {
+  std::function<void(Form&)> answer;
   if (operation == "AccionPuesto") {
     const bool reconnect = !panel_answers_.empty() && panel_answers_.front();
     if (!panel_answers_.empty()) panel_answers_.pop_front();
-    host.QueueDialog([reconnect](Form& panel) { UsePanel(panel, reconnect); });
-    return;
-  }
-  std::optional<SessionChoice> choice;
-  if (!session_answers_.empty()) {
-    choice = session_answers_.front();
-    session_answers_.pop_front();
-  }
-  host.QueueDialog([choice](Form& dialog) {
-    if (choice) {
-      ChooseSession(dialog, *choice);
-    } else {
-      Robot(dialog).Key(key::kEscape);
+    answer = [reconnect](Form& panel) { UsePanel(panel, reconnect); };
+  } else {
+    std::optional<SessionChoice> choice;
+    if (!session_answers_.empty()) {
+      choice = session_answers_.front();
+      session_answers_.pop_front();
     }
-  });
+    answer = [choice](Form& dialog) {
+      if (choice) {
+        ChooseSession(dialog, *choice);
+      } else {
+        Robot(dialog).Key(key::kEscape);
+      }
+    };
+  }
+  dialog_answer_ = std::move(answer);
+  if (host.QueuedDialogs() == 0) {
+    host.QueueDialog([this](Form& dialog) { dialog_answer_(dialog); });
+  }
 }
 
 }  // namespace orvendal

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -73,6 +74,7 @@ class ScriptWorld {
   ComponentState state_{Environment{host, recordsets, library_}};
   std::deque<bool> panel_answers_;
   std::deque<std::optional<SessionChoice>> session_answers_;
+  std::function<void(Form&)> dialog_answer_;  // of the dialog that is about to come up
 };
 
 }  // namespace orvendal

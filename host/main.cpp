@@ -1,26 +1,71 @@
+#include <csignal>
+#include <cstdlib>
+#include <exception>
 #include <iostream>
 
 #include "host/command_line.h"
+#include "host/explained_end.h"
+#include "host/guion_parser.h"
 #include "host/guion_picture.h"
 #include "host/guion_runner.h"
 #include "host/language.h"
 #include "host/program.h"
+#include "host/start_error.h"
 
-int main(int argument_count, char** arguments) {
-  using namespace orvendal;
-  const char* const name = arguments[0];
+namespace {
+
+using namespace orvendal;
+
+void WriteError(const std::string& sentence) {
+  std::cerr << ErrorLine(sentence);
+}
+
+int Run(const std::vector<std::string>& words, const char* name) {
   const auto run_script = [name](const Options& options, const std::string& script) {
-    return RunScriptFile(script, options, QtPictures(name), std::cout, std::cerr);
+    const auto body = [&] { return RunScriptFile(script, options, QtPictures(name), std::cout, std::cerr); };
+    return RunExplained(body, WordsOf(options.language), ScriptStop::kCannotGoOn, WriteError);
   };
-  const std::vector<Command> commands = {{"guion", "FICHERO", &Words::help_script, run_script}};
-
-  const std::vector<std::string> words(arguments + 1, arguments + argument_count);
-  CommandLine line = ReadCommandLine(words, LanguageOfEnvironment(), commands);
-  // A script shows the same whatever the user's language.
-  if (line.command != nullptr) line = ReadCommandLine(words, Language::kSpanish, commands);
+  const std::vector<Command> commands = {{"guion", &Words::value_file, &Words::help_script_file,
+                                          &Words::help_script, &Words::help_exit_codes_of_script,
+                                          run_script}};
+  const CommandLine line = ReadCommandLine(words, LanguageOfEnvironment(), commands);
   std::cout << line.output;
-  std::cerr << line.errors;
+  if (line.command != nullptr) {
+    std::cerr << line.errors;  // whoever runs scripts reads them
+  } else if (!line.errors.empty()) {
+    TellWhyItEnds(line.errors, WordsOf(line.options.language), name);
+  }
   if (line.exit_code) return *line.exit_code;
   if (line.command != nullptr) return line.command->run(line.options, line.argument);
   return RunProgram(line.options, name);
+}
+
+// What was shown has to have arrived.
+int Flushed(int exit_code) {
+  if (std::cout.flush() || exit_code != 0) return exit_code;
+  WriteError(std::string(WordsOf(LanguageOfEnvironment()).output_lost));
+  return kExitFailure;
+}
+
+// What gets past the boundary, such as an exception out of a function that must not throw any.
+[[noreturn]] void EndExplained() {
+  if (std::current_exception()) WriteError(SentenceForException(WordsOf(LanguageOfEnvironment())));
+  std::_Exit(kExitFailure);
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  // A reader that goes away, or a file that must not grow, is an error of writing and no sudden end.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
+  std::set_terminate(EndExplained);
+  const Words& words = WordsOf(LanguageOfEnvironment());
+  const auto body = [&] {
+    const char* const name = argument_count > 0 ? arguments[0] : "orvendal";
+    const std::vector<std::string> typed(arguments + (argument_count > 0 ? 1 : 0),
+                                         arguments + argument_count);
+    return Flushed(Run(typed, name));
+  };
+  return RunExplained(body, words, kExitFailure, WriteError);
 }

@@ -10,11 +10,15 @@
 #include "adapters/qt/qt_window_host.h"
 #include "component/class_orvendal.h"
 #include "form/frm_orvendalciales.h"
+#include "host/chosen_store.h"
 #include "host/day_lines.h"
 #include "host/default_store.h"
+#include "host/explained_end.h"
 #include "host/host_store.h"
+#include "host/printed_text.h"
 #include "host/sample_session.h"
 #include "host/stand_in_library.h"
+#include "host/start_error.h"
 #include "host/system_clock.h"
 
 namespace orvendal {
@@ -22,7 +26,6 @@ namespace {
 
 constexpr int kTwipsToPixel = 15;
 constexpr int kButtonsMask = 0xF;
-constexpr const char* kInMemory = ":memory:";
 
 // A real box, in front of the screen.
 class BoxMessages final : public MessagePresenter {
@@ -40,7 +43,7 @@ class BoxMessages final : public MessagePresenter {
 class WrittenMessages final : public MessagePresenter {
  public:
   std::int32_t Present(const std::string& text, std::int32_t style, const std::string&) override {
-    std::cerr << text << '\n';
+    std::cerr << PrintedText(text) << '\n';
     return (style & kButtonsMask) == 0 ? message::kOk : message::kCancel;
   }
 };
@@ -50,33 +53,18 @@ void DropWarnings(QtMsgType type, const QMessageLogContext&, const QString& text
   if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << text.toStdString() << '\n';
 }
 
-bool IsSet(const char* variable) {
-  const char* value = std::getenv(variable);
-  return value != nullptr && *value != '\0';
-}
-
-bool HasDisplay() {
-  return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY") || IsSet("QT_QPA_PLATFORM");
-}
-
-QtCaptions CaptionsOf(const Words& words) {
-  const auto caption = [](std::string_view text) {
-    return "&" + QString::fromUtf8(text.data(), static_cast<int>(text.size()));
-  };
-  return {caption(words.accept), caption(words.cancel), caption(words.yes), caption(words.no)};
-}
-
 std::string ErrorText(const Words& words, const RuntimeError& error) {
   return Fill(words.error, {std::to_string(error.Number()), error.Description()});
 }
 
 // The folder of the default store belongs to the program; any other folder has to be there.
-std::string StorePath(const Options& options) {
-  if (options.store) return *options.store;
-  const std::string path = DefaultStore();
+void MakeFolderOf(const std::string& store) {
   std::error_code ignored;
-  std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
-  return path;
+  std::filesystem::create_directories(std::filesystem::path(store).parent_path(), ignored);
+}
+
+QString TextOf(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 // The host application for one run.
@@ -104,14 +92,20 @@ class Program {
         library_(context_),
         state_({host_, recordsets_, library_}) {}
 
+  /// Says on standard error which store it is. Raises StoreUnavailable.
   void OpenStore() {
-    const StoreSettings settings{StorePath(options_), options_.dialect, *options_.region, words_};
-    context_.store_name =
-        settings.path == kInMemory ? settings.path : std::filesystem::absolute(settings.path).string();
-    context_.connection = OpenOrMakeStore(settings, clock_.Today());
+    const ChosenStore chosen = ChooseStore(options_, DefaultStore(), words_);
+    if (!options_.store) MakeFolderOf(chosen.path);
+    const StoreSettings settings{chosen.path, options_.dialect, *options_.region, words_};
+    const OpenedStore opened = OpenChosenStore(chosen, settings, clock_.Today());
+    std::cerr << StoreNotice(opened, chosen.path, words_);
+    // Whoever does not read that has it in the titles of the windows.
+    if (opened.sample) QApplication::setApplicationDisplayName(TextOf(words_.sample_title));
+    context_.store_name = chosen.path;
+    context_.connection = opened.connection;
     // A store in memory is gone with its connection, so that there is nothing to open anew.
     context_.reopen_store = [this, settings]() -> ConnectionRef {
-      return settings.path == kInMemory ? context_.connection : OpenExistingStore(settings);
+      return settings.path == kStoreInMemory ? context_.connection : OpenExistingStore(settings);
     };
   }
 
@@ -148,7 +142,9 @@ class Program {
       if (!host.display) {
         host.display = QSize(options_.base_width / kTwipsToPixel, options_.base_height / kTwipsToPixel);
       }
-      host.on_error = [this](const RuntimeError& error) { std::cerr << ErrorText(words_, error) << '\n'; };
+      host.on_error = [this](const RuntimeError& error) {
+        std::cerr << PrintedText(ErrorText(words_, error)) << '\n';
+      };
     }
     return host;
   }
@@ -169,11 +165,19 @@ class Program {
 
 int RunProgram(const Options& options, const char* program_name) {
   const Words& words = WordsOf(options.language);
-  const auto fail = [](const std::string& sentence) {
-    std::cerr << "orvendal: " << sentence << '\n';
+  const bool paints = !options.picture.empty();
+  const auto tell = [&](const std::string& sentence) {
+    if (paints) {
+      std::cerr << ErrorLine(sentence);
+    } else {
+      TellWhyItEnds(ErrorLine(sentence), words, program_name);
+    }
+  };
+  const auto fail = [&](const std::string& sentence) {
+    tell(sentence);
     return kExitFailure;
   };
-  if (!options.picture.empty()) {
+  if (paints) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     qInstallMessageHandler(DropWarnings);
   } else if (!HasDisplay()) {
@@ -190,19 +194,16 @@ int RunProgram(const Options& options, const char* program_name) {
   QApplication::setWindowIcon(ProgramIcon());
   QApplication::setQuitOnLastWindowClosed(false);
 
-  Program program(options, words);
-  try {
+  const auto run = [&] {
+    Program program(options, words);
     program.OpenStore();
     program.CallComponent();
-  } catch (const StoreUnavailable& error) {
-    return fail(error.Description());
-  } catch (const RuntimeError& error) {
-    return fail(ErrorText(words, error));
-  }
-  if (options.picture.empty()) return program.HasScreen() ? QApplication::exec() : 0;
-  const bool written = program.WritePicture();
-  program.UnloadScreen();
-  return written ? 0 : fail(Fill(words.picture_not_written, {options.picture}));
+    if (!paints) return program.HasScreen() ? QApplication::exec() : 0;
+    const bool written = program.WritePicture();
+    program.UnloadScreen();
+    return written ? 0 : fail(Fill(words.picture_not_written, {options.picture}));
+  };
+  return RunExplained(run, words, kExitFailure, tell);
 }
 
 }  // namespace orvendal

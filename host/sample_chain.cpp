@@ -158,6 +158,16 @@ class ChainWriter {
   std::vector<SampleProduct> products_;
 };
 
+// What a tool shows of the file says what it is, too.
+void Mark(SqliteConnection& store, Date today) {
+  const std::string table(kSampleMark);
+  store.Execute("CREATE TABLE " + table + " (Aviso TEXT NOT NULL, Dia DATETIME NOT NULL)");
+  SqliteStatement(store, "INSERT INTO " + table + " (Aviso, Dia) VALUES (?1, ?2)")
+      .Bind(1, std::string("Los datos de este fichero son inventados."))
+      .Bind(2, today.DayOnly())
+      .Run();
+}
+
 }  // namespace
 
 void FillSampleChain(SqliteConnection& store, Date today, std::uint64_t seed) {
@@ -170,6 +180,7 @@ void MakeSampleStore(SqliteConnection& store, Date today, std::uint64_t seed) {
     CreateSchema(store);
     store.Execute(JournalTable());
     FillSampleChain(store, today, seed);
+    Mark(store, today);
     store.Execute("COMMIT");
   } catch (const RuntimeError&) {
     // A full disk, for one, has ended the transaction already.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "adapters/sqlite/sqlite_store.h"
 #include "platform/base/date.h"
@@ -15,8 +16,12 @@ inline constexpr std::uint64_t kSampleSeed = 20261116;
 /// machine. It does not commit: whoever calls it has begun a transaction. Raises the store's error.
 void FillSampleChain(SqliteConnection& store, Date today, std::uint64_t seed = kSampleSeed);
 
-/// The tables, the journal of the stand-in library and the sample chain in a store that has no table yet, all
-/// or nothing. Raises the store's error.
+/// The tables, the journal of the stand-in library, the sample chain and its mark in a store that has no
+/// table yet, all or nothing. Raises the store's error.
 void MakeSampleStore(SqliteConnection& store, Date today, std::uint64_t seed = kSampleSeed);
+
+/// The table with one row that a store has which was made with the sample chain. It says so to whoever looks
+/// into the file, too; who fills the store with a chain of their own drops it.
+inline constexpr std::string_view kSampleMark = "CadenaDeMuestra";
 
 }  // namespace orvendal

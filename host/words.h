@@ -66,12 +66,28 @@ struct Words {
   std::string_view value_missing;        // %1 is the option
   std::string_view argument_missing;     // %1 is the command, %2 what it lacks
   std::string_view bad_value;            // %1 is the option, %2 the value, %3 what it takes
-  std::string_view see_help;
+  std::string_view value_not_taken;      // %1 is the option
+  std::string_view option_not_for;       // %1 is the option, %2 the command
+  std::string_view see_help;             // %1 is what to type
+  std::string_view unexpected_error;     // %1 is what is known of it
+  std::string_view no_memory;
+  std::string_view output_lost;
+
+  // Which store is open. %1 is its file.
+  std::string_view store_not_there;
+  std::string_view store_empty;
+  std::string_view current_folder_gone;
+  std::string_view store_in_use;
+  std::string_view store_just_made;
+  std::string_view sample_chain;
+  std::string_view sample_title;
 
   // The help of the command line.
   std::string_view help_purpose;
   std::string_view help_usage;
   std::string_view help_options;
+  std::string_view help_of_options;  // in the line of use
+  std::string_view help_arguments;
   std::string_view help_commands;
   std::string_view help_branch;
   std::string_view help_workstation;
@@ -84,8 +100,24 @@ struct Words {
   std::string_view help_dialect;
   std::string_view help_picture;
   std::string_view help_script;
+  std::string_view help_create;
   std::string_view help_help;
+  std::string_view help_store_of_script;
+  std::string_view help_language_of_script;
+  std::string_view help_display_of_script;
+  std::string_view help_script_file;
   std::string_view help_first_run;
+  std::string_view help_exit_codes;
+  std::string_view help_exit_codes_of_script;
+
+  // What the help calls values.
+  std::string_view value_branch;
+  std::string_view value_workstation;
+  std::string_view value_shift;
+  std::string_view value_region;
+  std::string_view value_size;
+  std::string_view value_file;
+  std::string_view value_picture;
 };
 
 /// They live for ever.

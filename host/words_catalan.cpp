@@ -49,10 +49,27 @@ const Words& CatalanWords() {
       .value_missing = "A l’opció %1 li falta el valor.",
       .argument_missing = "A l’ordre %1 li falta el %2.",
       .bad_value = "L’opció %1 no admet «%2»; val %3.",
-      .see_help = "L’ajuda és a orvendal --help.",
+      .value_not_taken = "L’opció %1 no porta cap valor.",
+      .option_not_for = "L’opció %1 no és de l’ordre %2.",
+      .see_help = "L’ajuda és a %1.",
+      .unexpected_error = "Error inesperat: %1",
+      .no_memory = "No hi ha prou memòria.",
+      .output_lost = "No es pot escriure a la sortida del programa.",
+      .store_not_there =
+          "No existeix la base de dades %1. Comproveu el nom; amb --crear se’n fa una de nova, amb una "
+          "cadena de mostra.",
+      .store_empty = "El fitxer %1 és buit. Comproveu el nom; amb --crear s’omple amb una cadena de mostra.",
+      .current_folder_gone =
+          "Ja no existeix la carpeta actual: escriviu la base de dades %1 amb la ruta completa.",
+      .store_in_use = "Base de dades: %1",
+      .store_just_made = "Base de dades nova: %1",
+      .sample_chain = "Cadena de mostra: les dades són inventades.",
+      .sample_title = "cadena de mostra",
       .help_purpose = "Obre la pantalla d’existències inicials d’una sucursal.",
-      .help_usage = "Ús: orvendal [opcions]",
+      .help_usage = "Ús:",
       .help_options = "Opcions",
+      .help_of_options = "[opcions]",
+      .help_arguments = "Arguments",
       .help_commands = "Ordres",
       .help_branch = "sucursal; compten els dos primers caràcters (01)",
       .help_workstation = "lloc de treball (1)",
@@ -61,12 +78,32 @@ const Words& CatalanWords() {
       .help_region = "com s’escriuen números i dates: es-ES, ca-ES o en-US (es-ES)",
       .help_base = "mida de referència en píxels, o en twips com 15360x11520tw (1024x768)",
       .help_display = "obre una finestra d’aquesta mida, en píxels, com si fos la pantalla sencera",
-      .help_store = "fitxer SQLite amb la base de dades (%1)",
+      .help_store = "fitxer SQLite amb la base de dades, que ha d’existir (%1)",
       .help_dialect = "proveïdor que s’imita: sqlserver o jet (sqlserver)",
       .help_picture = "sense finestra: desa una imatge de la pantalla i escriu les línies del dia",
-      .help_script = "executa un guió sobre la pantalla, sense finestra, i escriu el que mostra",
+      .help_script = "Executa un guió sobre la pantalla, sense finestra, i escriu el que mostra.",
+      .help_create = "crea la base de dades de --db si no existeix, amb la cadena de mostra",
       .help_help = "mostra aquesta ajuda",
-      .help_first_run = "Si el fitxer no existeix, es crea amb una cadena de sucursals de mostra.",
+      .help_store_of_script = "fitxer SQLite que el guió llegeix i canvia (una cadena de mostra en memòria)",
+      .help_language_of_script = "idioma dels textos de la pantalla: es, ca o en (es)",
+      .help_display_of_script = "mida de la pantalla del guió, en píxels (1024x768)",
+      .help_script_file = "guió que s’executa; docs/guion.md explica com s’escriu",
+      .help_first_run =
+          "Sense --db es fa servir una base de dades pròpia, que es crea el primer cop amb una cadena de "
+          "mostra, de dades inventades.",
+      .help_exit_codes =
+          "Codi de sortida: 0, tot bé; 1, no s’ha pogut (el motiu queda a la sortida d’errors); 2, opcions "
+          "mal escrites.",
+      .help_exit_codes_of_script =
+          "Codi de sortida: 0, el guió ha arribat al final; 1, no s’ha complert un «espera»; 2, el guió no "
+          "pot seguir o les opcions estan mal escrites.",
+      .value_branch = "SUC",
+      .value_workstation = "LLOC",
+      .value_shift = "TORN",
+      .value_region = "REGIÓ",
+      .value_size = "AMPLExALT",
+      .value_file = "FITXER",
+      .value_picture = "FITXER.png",
   };
   return words;
 }

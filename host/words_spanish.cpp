@@ -49,10 +49,28 @@ const Words& SpanishWords() {
       .value_missing = "A la opción %1 le falta su valor.",
       .argument_missing = "A la orden %1 le falta su %2.",
       .bad_value = "La opción %1 no admite «%2»; vale %3.",
-      .see_help = "La ayuda está en orvendal --help.",
+      .value_not_taken = "La opción %1 no lleva ningún valor.",
+      .option_not_for = "La opción %1 no es de la orden %2.",
+      .see_help = "La ayuda está en %1.",
+      .unexpected_error = "Error inesperado: %1",
+      .no_memory = "No hay memoria suficiente.",
+      .output_lost = "No se puede escribir en la salida del programa.",
+      .store_not_there =
+          "No existe la base de datos %1. Compruebe el nombre; con --crear se hace una nueva, con una cadena "
+          "de muestra.",
+      .store_empty =
+          "El fichero %1 está vacío. Compruebe el nombre; con --crear se llena con una cadena de muestra.",
+      .current_folder_gone =
+          "Ya no existe la carpeta actual: escriba la base de datos %1 con su ruta completa.",
+      .store_in_use = "Base de datos: %1",
+      .store_just_made = "Base de datos nueva: %1",
+      .sample_chain = "Cadena de muestra: los datos son inventados.",
+      .sample_title = "cadena de muestra",
       .help_purpose = "Abre la pantalla de existencias iniciales de una sucursal.",
-      .help_usage = "Uso: orvendal [opciones]",
+      .help_usage = "Uso:",
       .help_options = "Opciones",
+      .help_of_options = "[opciones]",
+      .help_arguments = "Argumentos",
       .help_commands = "Órdenes",
       .help_branch = "sucursal; cuentan sus dos primeros caracteres (01)",
       .help_workstation = "puesto de trabajo (1)",
@@ -61,12 +79,32 @@ const Words& SpanishWords() {
       .help_region = "cómo se escriben números y fechas: es-ES, ca-ES o en-US (es-ES)",
       .help_base = "tamaño de referencia en píxeles, o en twips como 15360x11520tw (1024x768)",
       .help_display = "abre una ventana de ese tamaño, en píxeles, como si fuera la pantalla entera",
-      .help_store = "fichero SQLite con la base de datos (%1)",
+      .help_store = "fichero SQLite con la base de datos, que ha de existir (%1)",
       .help_dialect = "proveedor que se imita: sqlserver o jet (sqlserver)",
       .help_picture = "sin ventana: guarda una imagen de la pantalla y escribe las líneas del día",
-      .help_script = "ejecuta un guion sobre la pantalla, sin ventana, y escribe lo que muestra",
+      .help_script = "Ejecuta un guion sobre la pantalla, sin ventana, y escribe lo que muestra.",
+      .help_create = "crea la base de datos de --db si no existe, con la cadena de muestra",
       .help_help = "muestra esta ayuda",
-      .help_first_run = "Si el fichero no existe, se crea con una cadena de sucursales de muestra.",
+      .help_store_of_script = "fichero SQLite que el guion lee y cambia (una cadena de muestra en memoria)",
+      .help_language_of_script = "idioma de los textos de la pantalla: es, ca o en (es)",
+      .help_display_of_script = "tamaño de la pantalla del guion, en píxeles (1024x768)",
+      .help_script_file = "guion que se ejecuta; docs/guion.md explica cómo se escribe",
+      .help_first_run =
+          "Sin --db se usa una base de datos propia, que se crea la primera vez con una cadena de muestra, "
+          "de datos inventados.",
+      .help_exit_codes =
+          "Código de salida: 0, todo bien; 1, no se ha podido (el motivo queda en la salida de errores); 2, "
+          "opciones mal escritas.",
+      .help_exit_codes_of_script =
+          "Código de salida: 0, el guion llegó al final; 1, no se cumplió un «espera»; 2, el guion no puede "
+          "seguir o las opciones están mal escritas.",
+      .value_branch = "SUC",
+      .value_workstation = "PUESTO",
+      .value_shift = "TURNO",
+      .value_region = "REGIÓN",
+      .value_size = "ANCHOxALTO",
+      .value_file = "FICHERO",
+      .value_picture = "FICHERO.png",
   };
   return words;
 }

@@ -2,6 +2,7 @@
 
 #include "host/branch_names.h"
 #include "host/host_store.h"
+#include "host/sample_mark.h"
 #include "platform/base/text.h"
 #include "platform/library/library.h"
 
@@ -14,7 +15,7 @@ constexpr double kWidth = 8100;
 constexpr double kCaptionWidth = 1800;
 constexpr int kRows = 5;
 constexpr double kRowStep = kLine + kGap;
-constexpr double kHeight = 2 * kMargin + kRows * kRowStep + kLine + kGap + kButtonHeight;
+constexpr double kHeight = 2 * kMargin + kRows * kRowStep + 2 * kLine + kGap + kButtonHeight;
 
 // The code, and the name that the store has for it.
 std::string BranchText(const HostContext& context, const ConnectionRef& store) {
@@ -53,6 +54,7 @@ void WorkstationForm::ApplyDesign() {
   const double right = Width() - kMargin;
   const double buttons_top = Height() - kMargin - kButtonHeight;
   DesignLabel(LblEstado, "", {kMargin, kMargin + kRows * kRowStep, right - kMargin, kLine});
+  DesignLabel(LblMuestra, "", {kMargin, kMargin + kRows * kRowStep + kLine, right - kMargin, kLine});
   DesignButton(CmdReconectar, words.reconnect,
                {right - 2 * kButtonWidth - kGap, buttons_top, kButtonWidth, kButtonHeight}, 0);
   DesignButton(CmdCerrar, words.close, {right - kButtonWidth, buttons_top, kButtonWidth, kButtonHeight}, 1);
@@ -78,6 +80,8 @@ void WorkstationForm::ShowValues(std::string_view state) {
     TxtProveedor.Text(store_ ? store_->Provider() : std::string());
     TxtSucursal.Text(BranchText(context_, store_));
     LblEstado.Caption(std::string(state));
+    const std::string_view sample = context_.words.get().sample_chain;
+    LblMuestra.Caption(SaysItIsMadeUp(context_.recordsets, store_) ? std::string(sample) : std::string());
   } catch (const RuntimeError& error) {
     LblEstado.Caption(error.Description());
   }

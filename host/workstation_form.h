@@ -5,7 +5,8 @@
 
 namespace orvendal {
 
-/// The panel of the workstation: branch, workstation, shift, store, provider, and whether the store answers.
+/// The panel of the workstation: branch, workstation, shift, store, provider, whether the store answers, and
+/// whether it holds the made-up chain.
 /// A button opens the store anew; if that fails, the reason is shown and the connection stays. It comes up
 /// even if the store does not answer, since that is when it is needed.
 class WorkstationForm final : public Form {
@@ -40,6 +41,7 @@ class WorkstationForm final : public Form {
   Label LblBase{*this, nullptr, "LblBase"};
   Label LblProveedor{*this, nullptr, "LblProveedor"};
   Label LblEstado{*this, nullptr, "LblEstado"};
+  Label LblMuestra{*this, nullptr, "LblMuestra"};
 };
 
 }  // namespace orvendal

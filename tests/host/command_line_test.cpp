@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sstream>
+
+#include "platform/base/text.h"
 
 namespace orvendal {
 namespace {
@@ -34,14 +37,16 @@ TEST(CommandLine, WithoutWordsOpensTheFirstBranchAtTheDesignSize) {
   EXPECT_EQ(line.options.dialect, Dialect::kSqlServer);
   EXPECT_FALSE(line.options.display);
   EXPECT_FALSE(line.options.store);
+  EXPECT_FALSE(line.options.create);
   EXPECT_EQ(line.options.picture, "");
 }
 
 TEST(CommandLine, TakesEveryOption) {
-  const Options options = Read({"--sucursal", "0523", "--puesto=9", "--turno", "T", "--idioma", "ca",
-                                "--region", "en-US", "--base", "800x600", "--pantalla", "1280x800", "--db",
-                                "x.db", "--dialecto", "jet", "--captura", "f.png"})
-                              .options;
+  const Options options =
+      Read({"--sucursal", "0523",    "--puesto=9", "--turno", "T",          "--idioma", "ca",
+            "--region",   "en-US",   "--base",     "800x600", "--pantalla", "1280x800", "--db",
+            "x.db",       "--crear", "--dialecto", "jet",     "--captura",  "f.png"})
+          .options;
   EXPECT_EQ(options.sucursal, "0523");
   EXPECT_EQ(options.puesto, "9");
   EXPECT_EQ(options.turno, "T");
@@ -53,6 +58,7 @@ TEST(CommandLine, TakesEveryOption) {
   EXPECT_EQ(options.display->width, 1280);
   EXPECT_EQ(options.display->height, 800);
   EXPECT_EQ(options.store, "x.db");
+  EXPECT_TRUE(options.create);
   EXPECT_EQ(options.dialect, Dialect::kJet);
   EXPECT_EQ(options.picture, "f.png");
 }
@@ -80,6 +86,8 @@ TEST(CommandLine, RefusesAnOptionWithoutItsValue) {
     EXPECT_EQ(Refusal({option}), "orvendal: A la opción " + std::string(option) +
                                      " le falta su valor. La ayuda está en orvendal --help.\n");
   }
+  EXPECT_EQ(Refusal({"--crear=si"}),
+            "orvendal: La opción --crear no lleva ningún valor. La ayuda está en orvendal --help.\n");
   EXPECT_NE(Refusal({"--db", ""}).find("--db le falta su valor"), std::string::npos);
 }
 
@@ -116,26 +124,22 @@ TEST(CommandLine, AProgramMayOfferLess) {
   EXPECT_EQ(line.options.base_width, 12000);
 }
 
-TEST(CommandLine, HelpTellsEveryOption) {
-  for (const Language language : {Language::kSpanish, Language::kCatalan, Language::kEnglish}) {
-    const CommandLine line = Read({"--help"}, language);
-    EXPECT_EQ(line.exit_code, 0);
-    EXPECT_EQ(line.errors, "");
-    for (const char* option : {"--sucursal", "--puesto", "--turno", "--idioma", "--region", "--base",
-                               "--pantalla", "--db", "--dialecto", "--captura", "--help"}) {
-      EXPECT_NE(line.output.find(option), std::string::npos) << option;
-    }
-    EXPECT_NE(line.output.find(WordsOf(language).help_dialect), std::string::npos);
-  }
+TEST(CommandLine, WhatWasTypedCannotSteerTheTerminalThatShowsTheRefusal) {
+  EXPECT_EQ(Refusal({"\x1b[2J"}), "orvendal: Sobra la palabra \\x1b[2J. La ayuda está en orvendal --help.\n");
+}
+
+TEST(CommandLine, OfAnOptionGivenTwiceTheLastOneCounts) {
+  EXPECT_EQ(Read({"--idioma", "en", "--idioma", "ca"}).options.language, Language::kCatalan);
 }
 
 class CommandLineWithCommand : public testing::Test {
  protected:
-  CommandLine Read(const Arguments& arguments) const {
-    return ReadCommandLine(arguments, Language::kSpanish, commands);
+  CommandLine Read(const Arguments& arguments, Language language = Language::kSpanish) const {
+    return ReadCommandLine(arguments, language, commands);
   }
-  const std::vector<Command> commands = {
-      {"guion", "FICHERO", &Words::help_picture, [](const Options&, const std::string&) { return 7; }}};
+  const std::vector<Command> commands = {{"guion", &Words::value_file, &Words::help_script_file,
+                                          &Words::help_script, &Words::help_exit_codes_of_script,
+                                          [](const Options&, const std::string&) { return 7; }}};
 };
 
 TEST_F(CommandLineWithCommand, TakesItsArgumentAndTheOptionsAroundIt) {
@@ -149,15 +153,91 @@ TEST_F(CommandLineWithCommand, TakesItsArgumentAndTheOptionsAroundIt) {
   EXPECT_EQ(line.command->run(line.options, line.argument), 7);
 }
 
-TEST_F(CommandLineWithCommand, RefusesItWithoutItsArgumentOrWithMore) {
-  EXPECT_NE(Read({"guion"}).errors.find("A la orden guion le falta su FICHERO."), std::string::npos);
+TEST_F(CommandLineWithCommand, ShowsTheSameWhateverTheUsersLanguage) {
+  EXPECT_EQ(Read({"guion", "a"}, Language::kEnglish).options.language, Language::kSpanish);
+  EXPECT_EQ(Read({"guion", "a", "--idioma", "ca"}, Language::kEnglish).options.language, Language::kCatalan);
+}
+
+TEST_F(CommandLineWithCommand, RefusesItWithoutItsArgumentOrWithMoreInTheUsersLanguage) {
+  EXPECT_EQ(Read({"guion"}).errors,
+            "orvendal: A la orden guion le falta su FICHERO. La ayuda está en orvendal guion --help.\n");
+  EXPECT_EQ(Read({"guion"}, Language::kEnglish).errors,
+            "orvendal: The command guion lacks its FILE. orvendal guion --help tells more.\n");
   EXPECT_EQ(Read({"guion"}).exit_code, kExitWrongUse);
+  EXPECT_EQ(Read({"guion"}).command, &commands[0]);
   EXPECT_NE(Read({"guion", "a", "b"}).errors.find("Sobra la palabra b"), std::string::npos);
   EXPECT_NE(Read({"guion", "a", "--nada"}).errors.find("--nada"), std::string::npos);
 }
 
-TEST_F(CommandLineWithCommand, IsInTheHelp) {
-  EXPECT_NE(Read({"--help"}).output.find("guion"), std::string::npos);
+TEST_F(CommandLineWithCommand, RefusesAnOptionThatItHasNoUseFor) {
+  for (const char* option : {"--captura", "--sucursal", "--puesto", "--turno"}) {
+    EXPECT_EQ(Read({"guion", "a", option, "x.png"}).errors,
+              "orvendal: La opción " + std::string(option) +
+                  " no es de la orden guion. La ayuda está en orvendal guion --help.\n");
+  }
+}
+
+// The options that a help lists, from its lines.
+std::vector<std::string> OptionsListed(const std::string& help) {
+  std::vector<std::string> listed;
+  std::istringstream lines(help);
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with("  -")) listed.push_back(line.substr(2, line.find(' ', 2) - 2));
+  }
+  return listed;
+}
+
+TEST_F(CommandLineWithCommand, HelpTellsEveryOptionOfTheProgramAndItsCommands) {
+  for (const Language language : {Language::kSpanish, Language::kCatalan, Language::kEnglish}) {
+    const CommandLine line = Read({"--help"}, language);
+    const Words& words = WordsOf(language);
+    EXPECT_EQ(line.exit_code, 0);
+    EXPECT_EQ(line.errors, "");
+    EXPECT_EQ(OptionsListed(line.output),
+              (std::vector<std::string>{"--sucursal", "--puesto", "--turno", "--idioma", "--region", "--base",
+                                        "--pantalla", "--db", "--crear", "--dialecto", "--captura", "-h,"}));
+    EXPECT_NE(line.output.find("\n  guion " + std::string(words.value_file)), std::string::npos);
+  }
+}
+
+TEST_F(CommandLineWithCommand, HelpOfACommandTellsHowItIsCalledAndEveryOptionThatItTakes) {
+  for (const Language language : {Language::kSpanish, Language::kCatalan, Language::kEnglish}) {
+    for (const Arguments& arguments : {Arguments{"guion", "--help"}, Arguments{"guion", "-h"},
+                                       Arguments{"guion", "a", "--help"}, Arguments{"--help", "guion"}}) {
+      const CommandLine line = Read(arguments, language);
+      const Words& words = WordsOf(language);
+      EXPECT_EQ(line.exit_code, 0);
+      EXPECT_EQ(line.errors, "");
+      EXPECT_NE(
+          line.output.find(std::string(words.help_usage) + " orvendal guion " +
+                           std::string(words.value_file) + " " + std::string(words.help_of_options) + "\n"),
+          std::string::npos)
+          << line.output;
+      EXPECT_EQ(OptionsListed(line.output),
+                (std::vector<std::string>{"--idioma", "--region", "--base", "--pantalla", "--db", "--crear",
+                                          "--dialecto", "-h,"}));
+    }
+  }
+}
+
+TEST_F(CommandLineWithCommand, HelpIsInOneLanguageAndFitsATerminal) {
+  for (const Arguments& arguments : {Arguments{"--help"}, Arguments{"guion", "--help"}}) {
+    const std::string spanish = Read(arguments, Language::kSpanish).output;
+    for (const char* english : {"Usage", "Options", "OPTIONS", "Positionals", "TEXT", "Print", "argument"}) {
+      EXPECT_EQ(spanish.find(english), std::string::npos) << english;
+    }
+    const std::string english = Read(arguments, Language::kEnglish).output;
+    for (const char* own : {"Uso", "pcion", "FICHERO", "ANCHO", "TURNO", "guion que"}) {
+      EXPECT_EQ(english.find(own), std::string::npos) << own;
+    }
+    for (const std::string& help : {spanish, english, Read(arguments, Language::kCatalan).output}) {
+      std::istringstream lines(help);
+      for (std::string line; std::getline(lines, line);) {
+        // A path is not broken.
+        EXPECT_TRUE(Len(line) <= 80 || line.find('/') != std::string::npos) << line;
+      }
+    }
+  }
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -15,11 +16,18 @@ namespace {
 class ScriptProgram : public testing::Test {
  protected:
   int Run(const std::string& words, const std::string& language = "C.UTF-8") {
-    const std::string command = "cd '" + folder.Path() +
-                                "' && env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -u LC_ALL "
+    return RunAfter("", words, language);
+  }
+  int RunIn(const std::string& place, const std::string& words) {
+    return RunAfter("cd '" + place + "' && ", words);
+  }
+  // Runs it after other commands of the shell, which begin in the folder.
+  int RunAfter(const std::string& before, const std::string& words, const std::string& language = "C.UTF-8") {
+    const std::string command = "cd '" + folder.Path() + "' && (" + before +
+                                "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -u LC_ALL "
                                 "-u LC_MESSAGES -u XDG_RUNTIME_DIR LANG=" +
                                 language + " HOME='" + folder.Path() + "' '" ORVENDAL_PROGRAM "' " + words +
-                                " >out 2>err";
+                                ") >out 2>err";
     const int status = std::system(command.c_str());
     output = Content("out");
     errors = Content("err");
@@ -67,9 +75,76 @@ TEST_F(ScriptProgram, WorksInMemoryUnlessAStoreIsNamed) {
   Write("b.guion", "sql \"SELECT count(*) FROM Empleados\"\n");
   EXPECT_EQ(Run("guion b.guion"), 0) << errors;
   EXPECT_EQ(output, "80\n");
-  EXPECT_EQ(Run("guion a.guion --db cadena.db"), 0) << errors;
+  EXPECT_EQ(Run("guion a.guion --db cadena.db --crear"), 0) << errors;
   EXPECT_EQ(Run("guion b.guion --db cadena.db --dialecto jet"), 0) << errors;
   EXPECT_EQ(output, "0\n");
+}
+
+TEST_F(ScriptProgram, AMistypedStoreIsToldAndNotMade) {
+  Write("a.guion", "sql \"SELECT 1\"\n");
+  EXPECT_EQ(Run("guion a.guion --db cadena.bd"), 2);
+  EXPECT_EQ(errors, "línea 1: No existe la base de datos " + (folder / "cadena.bd") +
+                        ". Compruebe el nombre; con --crear se hace una nueva, con una cadena de muestra.\n");
+  EXPECT_FALSE(std::filesystem::exists(folder / "cadena.bd"));
+}
+
+TEST_F(ScriptProgram, APictureNeverReplacesAFileNorLeavesTheFolders) {
+  std::filesystem::create_directory(folder / "guiones");
+  std::filesystem::create_directory(folder / "aqui");
+  Write("victima.png", "intacta");
+  Write("aqui/hay.png", "intacta");
+  std::filesystem::create_symlink("..", folder / "aqui/fuera");
+  std::filesystem::create_symlink("../nueva.png", folder / "aqui/enlace.png");
+  const std::string script = "'" + (folder / "guiones/a.guion") + "'";
+  for (const std::string& name :
+       {std::string("hay.png"), folder / "victima.png", std::string("../victima.png"),
+        std::string("fuera/victima.png"), std::string("../nueva.png"), std::string("fuera/nueva.png"),
+        std::string("enlace.png"), folder / "nueva.png", std::string("/dev/null"), std::string("nota.txt"),
+        std::string("png"), std::string("no/hay.png"), std::string("../guiones/../nueva.png")}) {
+    Write("guiones/a.guion", "orvendal 01 1 1\ncaptura \"" + name + "\"\n");
+    EXPECT_EQ(RunIn("aqui", "guion " + script), 2) << name;
+    EXPECT_NE(errors.find(name), std::string::npos) << errors;
+    EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 1) << errors;
+  }
+  EXPECT_EQ(Content("victima.png"), "intacta");
+  EXPECT_EQ(Content("aqui/hay.png"), "intacta");
+  EXPECT_FALSE(std::filesystem::exists(folder / "nueva.png"));
+  Write("guiones/a.guion", "orvendal 01 1 1\ncaptura nueva.png\ncaptura ../guiones/otra.png\ncaptura \"" +
+                               (folder / "aqui/tercera.png") + "\"\n");
+  EXPECT_EQ(RunIn("aqui", "guion " + script), 0) << errors;
+  for (const char* name : {"aqui/nueva.png", "guiones/otra.png", "aqui/tercera.png"}) {
+    EXPECT_EQ(Content(name).substr(1, 3), "PNG") << name;
+  }
+}
+
+TEST_F(ScriptProgram, WhatCannotBeShownStopsItWithOneLine) {
+  Write("a.guion", "sql \"SELECT 1\"\nsql \"SELECT 2\"\n");
+  EXPECT_EQ(Run("guion a.guion >/dev/full"), 2);
+  EXPECT_EQ(errors, "línea 1: no se puede escribir lo que muestra el guion\n");
+  Write("b.guion",
+        "sql \"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 100000) "
+        "SELECT i FROM n\"\n");
+  EXPECT_EQ(Run("guion b.guion | true"), 0);
+  EXPECT_EQ(errors, "línea 1: no se puede escribir lo que muestra el guion\n");
+}
+
+TEST_F(ScriptProgram, AScriptThatCannotBeReadIsTold) {
+  Write("a.guion", "sql \"SELECT 1\"\n");
+  for (const char* name : {"/proc/self/mem", ".", "a.guion/b"}) {
+    EXPECT_EQ(Run(std::string("guion ") + name), 2);
+    EXPECT_EQ(errors, "orvendal: no se puede leer el guion " + std::string(name) + "\n");
+  }
+}
+
+TEST_F(ScriptProgram, AFolderThatIsGoneIsTold) {
+  Write("a.guion", "orvendal 01 1 1\ncaptura p.png\n");
+  const std::string gone = "mkdir g && cd g && rmdir ../g && ";
+  EXPECT_EQ(RunAfter(gone, "guion ../a.guion"), 2);  // which is nowhere
+  EXPECT_EQ(RunAfter(gone, "guion '" + (folder / "a.guion") + "'"), 2);
+  EXPECT_EQ(errors, "línea 2: ya no existe la carpeta actual: no se puede guardar la imagen p.png\n");
+  EXPECT_EQ(RunAfter(gone, "guion '" + (folder / "a.guion") + "' --db x.db"), 2);
+  EXPECT_EQ(errors,
+            "línea 1: Ya no existe la carpeta actual: escriba la base de datos x.db con su ruta completa.\n");
 }
 
 TEST_F(ScriptProgram, GivesTheExitCodesOfScripts) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <sstream>
 
 #include "host/guion_parser.h"
@@ -20,7 +21,7 @@ class Script : public testing::Test {
     std::istringstream script(text);
     std::ostringstream shown;
     std::ostringstream told;
-    const int exit_code = RunScript(script, options, save_picture, shown, told);
+    const int exit_code = RunScript(script, options, save_picture, shown, told, script_folder);
     output = shown.str();
     errors = told.str();
     return exit_code;
@@ -36,8 +37,16 @@ class Script : public testing::Test {
     return errors.substr(number.size(), errors.size() - number.size() - 1);
   }
 
+  // Where many scripts run and none of them counts: a chain is made once only.
+  void UseStoreOnFile() {
+    options.store = store_folder / "cadena.db";
+    options.create = true;
+  }
+
+  TemporaryFolder store_folder;
   Options options;
   SavePicture save_picture;
+  std::filesystem::path script_folder;
   std::string output;
   std::string errors;
 };
@@ -161,9 +170,87 @@ TEST_F(Script, SqlShowsRowsSeparatedByTabsAndRunsSeveralStatements) {
                 "sql \"SELECT a, b FROM T ORDER BY a; SELECT count(*) FROM T\"\n"),
             0)
       << errors;
-  EXPECT_EQ(output, "1\tx\ty\n2.5\t\n2\n");
+  EXPECT_EQ(output, "1\tx\\ty\n2.5\t\n2\n");
+  EXPECT_EQ(Run("sql \";;SELECT 1;; -- nada\\n;SELECT 2;\"\n"), 0) << errors;
+  EXPECT_EQ(output, "1\n2\n");
   EXPECT_EQ(StopAt("sql \"SELECT nada FROM T\"", "").substr(0, 41),
             "la base de datos no admite la sentencia: ");
+}
+
+TEST_F(Script, WhatASqlTextHoldsIsNeverObeyedByTheTerminal) {
+  EXPECT_EQ(
+      Run("sql \"SELECT 'a' || char(27) || '[2J' || char(155) || char(8238) || char(0) || CAST(x'ff' AS "
+          "TEXT)\"\n"
+          "orvendal 02 1 1\nempleado E001 \"\x1b]0;x\x07\"\nclic MSFProductos 1 0\nmostrar "
+          "TxtEmpleado.Text\nmostrar biblioteca\n"),
+      0)
+      << errors;
+  EXPECT_TRUE(output.starts_with("a\\x1b[2J\\x9b\\u{202e}\\x00\\xff\n")) << output;
+  EXPECT_NE(output.find("TxtEmpleado.Text = \\x1b]0;x\\x07\n"), std::string::npos) << output;
+  EXPECT_EQ(output.find('\x1b'), std::string::npos);
+  EXPECT_EQ(output.find('\x07'), std::string::npos);
+}
+
+TEST_F(Script, NoReasonToStopIsObeyedByTheTerminalOrBreaksItsLine) {
+  UseStoreOnFile();
+  EXPECT_EQ(StopAt("clic \x1b[2J"), "no existe el control \\x1b[2J");
+  EXPECT_EQ(StopAt("\"una\\norden\""), "no existe la orden una\\norden");
+  EXPECT_EQ(Run("orvendal 02 1 1\nespera LblGuardar(0).Caption \"\x1b\"\n"), 1);
+  EXPECT_EQ(errors, "línea 2: se esperaba LblGuardar(0).Caption = \"\\x1b\" y es \"Guardar\"\n");
+}
+
+TEST_F(Script, ATableThatIsGoneStopsItWithASentence) {
+  EXPECT_EQ(StopAt("empleado E001", "sql \"DROP TABLE Empleados\"\n"),
+            "no se puede leer el empleado E001: no such table: Empleados");
+}
+
+TEST_F(Script, AnExceptionOfAnyKindStopsItWithASentence) {
+  const TemporaryFolder folder;
+  const auto stop = [&](std::function<void()> raise) {
+    save_picture = [raise](Form&, const std::string&) {
+      raise();
+      return true;
+    };
+    const std::string sentence = StopAt("captura \"" + (folder / "p.png") + "\"");
+    EXPECT_FALSE(std::filesystem::exists(folder / "p.png"));
+    return sentence;
+  };
+  script_folder = folder.Path();
+  UseStoreOnFile();
+  EXPECT_EQ(stop([] { throw RuntimeError(6); }), "error 6: Overflow");
+  EXPECT_EQ(stop([] { throw std::bad_alloc(); }), "no hay memoria suficiente");
+  EXPECT_EQ(stop([] { throw std::runtime_error("esto"); }), "error inesperado: esto");
+  EXPECT_EQ(stop([] { throw 1; }), "error inesperado");
+}
+
+TEST_F(Script, AReadingThatBreaksOffStopsIt) {
+  // One line, and then a disk that fails.
+  class Broken final : public std::streambuf {
+   public:
+    Broken() { setg(line_.data(), line_.data(), line_.data() + line_.size()); }
+
+   protected:
+    int_type underflow() override { throw std::runtime_error("no more of it"); }
+
+   private:
+    std::string line_ = "sql \"SELECT 1\"\nsql \"SELE";
+  };
+  Broken buffer;
+  std::istream script(&buffer);
+  std::ostringstream shown;
+  std::ostringstream told;
+  EXPECT_EQ(RunScript(script, options, nullptr, shown, told), 2);
+  EXPECT_EQ(shown.str(), "1\n");
+  EXPECT_EQ(told.str(), "línea 1: el guion no se puede leer más allá de esta línea\n");
+}
+
+TEST_F(Script, ADialogThatTheStoreKeepsFromComingUpLeavesItsAnswerToNoOther) {
+  EXPECT_EQ(Run("orvendal 02 1 1\nsql \"ALTER TABLE Sucursales RENAME TO S\"\nsesion 03 1 1\ntecla F2\n"
+                "sql \"ALTER TABLE S RENAME TO Sucursales\"\npuesto reconectar\ntecla F1\nsesion 04 1 1\n"
+                "tecla F2\nmostrar Form.CodSucursal\n"),
+            0)
+      << errors;
+  EXPECT_NE(output.find("Form.CodSucursal = 04\n"), std::string::npos) << output;
 }
 
 TEST_F(Script, LineBreaksInsideTextsShowAsEscapes) {
@@ -188,19 +275,25 @@ TEST_F(Script, ValuesReadTheSameInEveryRegion) {
 }
 
 TEST_F(Script, ThePictureIsTheScreenAsItStands) {
+  const TemporaryFolder folder;
+  script_folder = folder.Path();
+  UseStoreOnFile();
+  const std::string file = folder / "pantalla.png";
   std::string path;
   bool written = true;
-  save_picture = [&](Form& form, const std::string& file) {
+  save_picture = [&](Form& form, const std::string& place) {
     EXPECT_EQ(form.Name(), "FrmOrvendalciales");
     EXPECT_TRUE(form.IsLoaded());
-    path = file;
+    path = place;
     return written;
   };
-  EXPECT_EQ(Run("orvendal 02 1 1\ncaptura pantalla.png\n"), 0) << errors;
-  EXPECT_EQ(path, "pantalla.png");
+  EXPECT_EQ(Run("orvendal 02 1 1\ncaptura \"" + file + "\"\n"), 0) << errors;
+  EXPECT_EQ(path, file);
   EXPECT_EQ(output, "orvendal -> False\n");
+  std::filesystem::remove(file);
   written = false;
-  EXPECT_EQ(StopAt("captura pantalla.png"), "no se puede escribir la imagen pantalla.png");
+  EXPECT_EQ(StopAt("captura \"" + file + "\""), "no se puede escribir la imagen " + file);
+  EXPECT_FALSE(std::filesystem::exists(file));
   save_picture = nullptr;
   EXPECT_EQ(StopAt("captura pantalla.png"), "no se puede escribir la imagen pantalla.png");
 }
@@ -208,6 +301,11 @@ TEST_F(Script, ThePictureIsTheScreenAsItStands) {
 TEST_F(Script, AStoreOnFileKeepsWhatTheScriptDid) {
   const TemporaryFolder folder;
   options.store = folder / "cadena.db";
+  EXPECT_EQ(StopAt("orvendal 01 1 1", ""),
+            "No existe la base de datos " + (folder / "cadena.db") +
+                ". Compruebe el nombre; con --crear se hace una nueva, con una cadena de muestra.");
+  EXPECT_FALSE(std::filesystem::exists(folder / "cadena.db"));
+  options.create = true;
   EXPECT_EQ(Run("sql \"INSERT INTO Sucursales (Sucursal, Nombre) VALUES ('77', 'Prueba')\"\n"), 0) << errors;
   EXPECT_EQ(Run("orvendal 77 1 1\nmostrar LblSucursal.Caption\n"), 0) << errors;
   EXPECT_EQ(output, "orvendal -> False\nLblSucursal.Caption =   Sucursal 77 Prueba  \n");

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
+#include <map>
 #include <sstream>
 
 #include "tests/host/temporary_folder.h"
@@ -16,11 +17,14 @@ namespace {
 class Program : public testing::Test {
  protected:
   // Runs it with those words; gives the exit code.
-  int Run(const std::string& words) {
+  int Run(const std::string& words) { return RunAfter("", words); }
+  // Runs it after other commands of the shell.
+  int RunAfter(const std::string& before, const std::string& words) {
     const std::string command =
+        "(" + before +
         "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -u LC_ALL -u LC_MESSAGES "
         "LANG=C.UTF-8 XDG_DATA_HOME='" +
-        folder.Path() + "' '" ORVENDAL_PROGRAM "' " + words + " >'" + (folder / "out") + "' 2>'" +
+        folder.Path() + "' '" ORVENDAL_PROGRAM "' " + words + ") >'" + (folder / "out") + "' 2>'" +
         (folder / "err") + "'";
     const int status = std::system(command.c_str());
     output = Content("out");
@@ -42,7 +46,8 @@ class Program : public testing::Test {
 TEST_F(Program, WritesAPictureAndTheDaysLinesWithoutADisplay) {
   const std::string picture = folder / "pantalla.png";
   ASSERT_EQ(Run("--captura '" + picture + "'"), 0) << errors;
-  EXPECT_EQ(errors, "");
+  EXPECT_EQ(errors, "Base de datos nueva: " + (folder / "orvendal/cadena.db") +
+                        "\nCadena de muestra: los datos son inventados.\n");
   EXPECT_EQ(Content("pantalla.png").substr(1, 3), "PNG");
   ASSERT_FALSE(output.empty());
   const std::string first = output.substr(0, output.find('\n'));
@@ -67,7 +72,7 @@ TEST_F(Program, ABranchThatHasNotCountedTodayShowsNoLines) {
 
 TEST_F(Program, ABranchThatThereIsNotIsToldAndTheScreenStillOpens) {
   EXPECT_EQ(Run("--sucursal ZZ --captura '" + (folder / "p.png") + "'"), 0);
-  EXPECT_EQ(errors, "Error al cargar la sucursal\n");
+  EXPECT_TRUE(errors.ends_with("\nError al cargar la sucursal\n")) << errors;
 }
 
 TEST_F(Program, WrongUseIsOneLineAndExitCodeTwo) {
@@ -89,7 +94,66 @@ TEST_F(Program, AStoreThatCannotBeOpenedIsToldInPlainWords) {
 
 TEST_F(Program, APictureThatCannotBeWrittenIsToldWithExitCodeOne) {
   EXPECT_EQ(Run("--captura '" + (folder / "no/hay/p.png") + "'"), 1);
-  EXPECT_EQ(errors, "orvendal: No se puede escribir la imagen " + (folder / "no/hay/p.png") + ".\n");
+  EXPECT_TRUE(
+      errors.ends_with("\norvendal: No se puede escribir la imagen " + (folder / "no/hay/p.png") + ".\n"))
+      << errors;
+}
+
+TEST_F(Program, AMistypedStoreIsToldAndNotMade) {
+  EXPECT_EQ(Run("--db '" + (folder / "tyenda.db") + "' --captura '" + (folder / "p.png") + "'"), 1);
+  EXPECT_EQ(errors, "orvendal: No existe la base de datos " + (folder / "tyenda.db") +
+                        ". Compruebe el nombre; con --crear se hace una nueva, con una cadena de muestra.\n");
+  EXPECT_FALSE(std::filesystem::exists(folder / "tyenda.db"));
+  EXPECT_FALSE(std::filesystem::exists(folder / "p.png"));
+}
+
+TEST_F(Program, LinesThatNobodyGetsAreToldWithExitCodeOne) {
+  EXPECT_EQ(Run("--captura '" + (folder / "p.png") + "' >/dev/full"), 1);
+  EXPECT_TRUE(errors.ends_with("\norvendal: No se puede escribir en la salida del programa.\n")) << errors;
+  EXPECT_EQ(Run("--help >/dev/full"), 1);
+  EXPECT_EQ(errors, "orvendal: No se puede escribir en la salida del programa.\n");
+}
+
+TEST_F(Program, ACurrentFolderThatIsGoneIsTold) {
+  EXPECT_EQ(RunAfter("mkdir '" + (folder / "g") + "' && cd '" + (folder / "g") + "' && rmdir '" +
+                         (folder / "g") + "' && ",
+                     "--db x.db --captura '" + (folder / "p.png") + "'"),
+            1);
+  EXPECT_EQ(
+      errors,
+      "orvendal: Ya no existe la carpeta actual: escriba la base de datos x.db con su ruta completa.\n");
+}
+
+// Everything in the folder and what it holds; what changes is what was written.
+std::map<std::string, std::string> FilesOf(const std::string& place) {
+  std::map<std::string, std::string> files;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(place)) {
+    if (!entry.is_regular_file()) continue;
+    std::ifstream file(entry.path(), std::ios::binary);
+    std::ostringstream content;
+    content << file.rdbuf();
+    files[std::filesystem::relative(entry.path(), place).string()] = content.str();
+  }
+  return files;
+}
+
+TEST_F(Program, TwoScreensOnDifferentStoresShareNoFile) {
+  const std::string picture = " --captura '" + (folder / "p.png") + "'";
+  ASSERT_EQ(Run("--crear --db '" + (folder / "una.db") + "'" + picture), 0) << errors;
+  const auto names = [](const std::map<std::string, std::string>& files) {
+    std::vector<std::string> found;
+    for (const auto& [name, content] : files) found.push_back(name);
+    return found;
+  };
+  std::map<std::string, std::string> before = FilesOf(folder.Path());
+  EXPECT_EQ(names(before), (std::vector<std::string>{"err", "out", "p.png", "una.db"}));
+  ASSERT_EQ(Run("--crear --db '" + (folder / "otra.db") + "'" + picture), 0) << errors;
+  std::map<std::string, std::string> after = FilesOf(folder.Path());
+  EXPECT_EQ(names(after), (std::vector<std::string>{"err", "otra.db", "out", "p.png", "una.db"}));
+  EXPECT_EQ(after["una.db"], before["una.db"]);
+  ASSERT_EQ(Run(picture), 0) << errors;
+  EXPECT_EQ(FilesOf(folder.Path())["una.db"], before["una.db"]);
+  EXPECT_EQ(FilesOf(folder.Path())["otra.db"], after["otra.db"]);
 }
 
 TEST_F(Program, WithoutADisplayItSaysHowToGetAPicture) {

@@ -1,4 +1,5 @@
 #include "host/host_store.h"
+#include "host/sample_chain.h"
 #include "platform/forms/label.h"
 #include "platform/library/library.h"
 #include "tests/host/host_fixture.h"
@@ -44,6 +45,24 @@ TEST_F(WorkstationPanel, ShowsBranchWorkstationShiftStoreAndProvider) {
     Close(form);
   });
   EXPECT_EQ(connection, store);
+}
+
+TEST_F(WorkstationPanel, SaysWhetherTheStoreIsTheMadeUpChain) {
+  const auto notice = [](Form& form) {
+    return dynamic_cast<Label&>(*form.FindControl("LblMuestra")).Caption();
+  };
+  Open([&](Form& form) {
+    EXPECT_EQ(notice(form), "");
+    Close(form);
+  });
+  // The panel reads it anew where it reconnects.
+  MakeSampleStore(*other, Date(2026, 11, 16));
+  Open([&](Form& form) {
+    Reconnect(form);
+    EXPECT_EQ(notice(form), "Cadena de muestra: los datos son inventados.");
+    EXPECT_EQ(State(form), "Se ha abierto de nuevo la base de datos.");
+    Close(form);
+  });
 }
 
 TEST_F(WorkstationPanel, ClosesByItsButton) {

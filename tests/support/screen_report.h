@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "host/printed_text.h"
 #include "tests/support/event_log.h"
 #include "tests/support/form_driver.h"
 

@@ -1,0 +1,73 @@
+#include "host/chosen_store.h"
+
+#include <filesystem>
+
+#include "host/printed_text.h"
+#include "host/sample_mark.h"
+
+namespace orvendal {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Texts are UTF-8 on every system.
+fs::path PathOf(const std::string& utf8) {
+  return std::u8string(utf8.begin(), utf8.end());
+}
+std::string TextOf(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+bool IsThere(const std::string& path) {
+  std::error_code error;
+  return fs::exists(PathOf(path), error) || error;
+}
+
+bool IsEmpty(const std::string& path) {
+  std::error_code error;
+  return fs::is_regular_file(PathOf(path), error) && fs::file_size(PathOf(path), error) == 0;
+}
+
+bool FolderIsThere(const std::string& path) {
+  std::error_code ignored;
+  return fs::is_directory(PathOf(path).parent_path(), ignored);
+}
+
+}  // namespace
+
+ChosenStore ChooseStore(const Options& options, const std::string& otherwise, const Words& words) {
+  const std::string name = options.store.value_or(otherwise);
+  const bool may_make = options.create || name == otherwise;
+  if (name == kStoreInMemory) return {name, may_make};
+  std::error_code error;
+  const fs::path path = fs::absolute(PathOf(name), error);
+  if (error) throw StoreUnavailable(Fill(words.current_folder_gone, {name}));
+  return {TextOf(path), may_make};
+}
+
+OpenedStore OpenChosenStore(const ChosenStore& chosen, const StoreSettings& settings, Date today) {
+  const bool was_there = chosen.path != kStoreInMemory && IsThere(chosen.path);
+  if (!was_there && !chosen.may_make && (chosen.path == kStoreInMemory || FolderIsThere(chosen.path))) {
+    throw StoreUnavailable(Fill(settings.words.store_not_there, {chosen.path}));
+  }
+  const bool has_content = was_there && !IsEmpty(chosen.path);
+  if (was_there && !has_content && !chosen.may_make) {
+    throw StoreUnavailable(Fill(settings.words.store_empty, {chosen.path}));
+  }
+  OpenedStore opened;
+  opened.connection = chosen.may_make ? OpenOrMakeStore(settings, today) : OpenExistingStore(settings);
+  opened.made = !has_content;
+  SqliteRecordsetFactory recordsets;
+  opened.sample = SaysItIsMadeUp(recordsets, opened.connection);
+  return opened;
+}
+
+std::string StoreNotice(const OpenedStore& opened, const std::string& path, const Words& words) {
+  const std::string_view which = opened.made ? words.store_just_made : words.store_in_use;
+  std::string notice = Fill(which, {PrintedText(path)}) + "\n";
+  if (opened.sample) notice += std::string(words.sample_chain) + "\n";
+  return notice;
+}
+
+}  // namespace orvendal
