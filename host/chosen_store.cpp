@@ -46,18 +46,20 @@ ChosenStore ChooseStore(const Options& options, const std::string& otherwise, co
   return {TextOf(path), may_make};
 }
 
+void CheckChosenStore(const ChosenStore& chosen, const Words& words) {
+  if (chosen.may_make) return;
+  const bool in_memory = chosen.path == kStoreInMemory;
+  if (in_memory || (!IsThere(chosen.path) && FolderIsThere(chosen.path))) {
+    throw StoreUnavailable(Fill(words.store_not_there, {chosen.path}));
+  }
+  if (IsEmpty(chosen.path)) throw StoreUnavailable(Fill(words.store_empty, {chosen.path}));
+}
+
 OpenedStore OpenChosenStore(const ChosenStore& chosen, const StoreSettings& settings, Date today) {
-  const bool was_there = chosen.path != kStoreInMemory && IsThere(chosen.path);
-  if (!was_there && !chosen.may_make && (chosen.path == kStoreInMemory || FolderIsThere(chosen.path))) {
-    throw StoreUnavailable(Fill(settings.words.store_not_there, {chosen.path}));
-  }
-  const bool has_content = was_there && !IsEmpty(chosen.path);
-  if (was_there && !has_content && !chosen.may_make) {
-    throw StoreUnavailable(Fill(settings.words.store_empty, {chosen.path}));
-  }
+  CheckChosenStore(chosen, settings.words);
   OpenedStore opened;
+  opened.made = chosen.path == kStoreInMemory || !IsThere(chosen.path) || IsEmpty(chosen.path);
   opened.connection = chosen.may_make ? OpenOrMakeStore(settings, today) : OpenExistingStore(settings);
-  opened.made = !has_content;
   SqliteRecordsetFactory recordsets;
   opened.sample = SaysItIsMadeUp(recordsets, opened.connection);
   return opened;

@@ -21,6 +21,9 @@ struct ChosenStore {
 /// StoreUnavailable if the current folder, which a relative name counts from, is gone.
 ChosenStore ChooseStore(const Options& options, const std::string& otherwise, const Words& words);
 
+/// Raises StoreUnavailable if there is nothing to open and it may not be made.
+void CheckChosenStore(const ChosenStore& chosen, const Words& words);
+
 /// A store that is open, and what its user has to know of it.
 struct OpenedStore {
   std::shared_ptr<SqliteConnection> connection;

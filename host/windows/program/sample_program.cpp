@@ -9,6 +9,9 @@
 #include "adapters/automation/error_boundary.h"
 #include "adapters/automation/type_information.h"
 #include "adapters/win32/windows_api.h"
+#include "host/chosen_store.h"
+#include "host/default_store.h"
+#include "host/explained_end.h"
 #include "platform/data/ado_error.h"
 
 namespace orvendal {
@@ -34,8 +37,12 @@ ComPtr<Interface> Create(REFCLSID class_id, const char* file, const Words& words
 }
 
 /// The store named, else one beside the program, else the user's own, which has no name here.
-std::string StoreFor(const Options& options) {
-  if (options.store) return *options.store;
+std::string StoreFor(const Options& options, const Words& words) {
+  if (options.store) {
+    const ChosenStore chosen = ChooseStore(options, DefaultStore(), words);
+    CheckChosenStore(chosen, words);
+    return chosen.path;
+  }
   const std::filesystem::path beside = std::filesystem::path(OwnPath()).replace_filename("cadena.db");
   std::error_code ignored;
   return std::filesystem::is_regular_file(beside, ignored) ? Utf8Text(beside.wstring()) : std::string();
@@ -50,7 +57,7 @@ ComPtr<_SampleSession> MakeSession(const Options& options, const Words& words) {
   Check(session->put_Shift(BstrCell(options.turno).Get()));
   Check(session->put_BaseWidth(options.base_width));
   Check(session->put_BaseHeight(options.base_height));
-  Check(session->OpenStore(BstrCell(StoreFor(options)).Get()));
+  Check(session->OpenStore(BstrCell(StoreFor(options, words)).Get()));
   return session;
 }
 
@@ -98,8 +105,8 @@ int RunSampleProgram(const Options& options) {
     ShowText(plain ? error.Description()
                    : Fill(words.error, {std::to_string(error.Number()), error.Description()}),
              MB_ICONERROR);
-  } catch (const std::exception& error) {
-    ShowText(error.what(), MB_ICONERROR);
+  } catch (...) {
+    ShowText(SentenceForException(words), MB_ICONERROR);
   }
   return kExitFailure;
 }

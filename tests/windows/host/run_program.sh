@@ -5,7 +5,7 @@ set -eu
 . "${0%/*}/sample_world.sh"
 
 store=$(windows_path "$work/tienda.db")
-"$emulator" "$folder/orvendal.exe" --db "$store" --sucursal 02 --puesto 7 --turno 2 --idioma en --dialecto jet &
+"$emulator" "$folder/orvendal.exe" --db "$store" --crear --sucursal 02 --puesto 7 --turno 2 --idioma en --dialecto jet &
 program=$!
 count_with "$3"
 wait "$program"
