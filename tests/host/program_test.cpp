@@ -1,9 +1,14 @@
 // The program itself, started as a user would, on a machine without a display.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <csignal>
 #include <cstdlib>
 #include <fstream>
 #include <map>
@@ -154,6 +159,87 @@ TEST_F(Program, TwoScreensOnDifferentStoresShareNoFile) {
   ASSERT_EQ(Run(picture), 0) << errors;
   EXPECT_EQ(FilesOf(folder.Path())["una.db"], before["una.db"]);
   EXPECT_EQ(FilesOf(folder.Path())["otra.db"], after["otra.db"]);
+}
+
+// Started as a desktop does it: with a display, and no terminal on any stream.
+class ProgramFromAnIcon : public testing::Test {
+ protected:
+  ~ProgramFromAnIcon() override {
+    if (process > 0) kill(process, SIGKILL);
+    if (process > 0) waitpid(process, nullptr, 0);
+    if (stream >= 0) close(stream);
+  }
+  void Start(std::vector<const char*> words) {
+    std::array<int, 2> ends{};
+    ASSERT_EQ(pipe(ends.data()), 0);
+    process = fork();
+    if (process == 0) {
+      dup2(open("/dev/null", O_RDONLY), STDIN_FILENO);
+      dup2(ends[1], STDOUT_FILENO);
+      dup2(ends[1], STDERR_FILENO);
+      close(ends[0]);
+      close(ends[1]);
+      setenv("QT_QPA_PLATFORM", "offscreen", 1);
+      setenv("LC_ALL", "C.UTF-8", 1);
+      setenv("XDG_DATA_HOME", folder.Path().c_str(), 1);
+      words.insert(words.begin(), ORVENDAL_PROGRAM);
+      words.push_back(nullptr);
+      execv(ORVENDAL_PROGRAM, const_cast<char* const*>(words.data()));
+      std::_Exit(127);
+    }
+    close(ends[1]);
+    stream = ends[0];
+  }
+  // What it writes until there is that in it; less if it ends before.
+  std::string ReadUntil(const std::string& wanted) {
+    std::string text;
+    for (char c = 0; text.find(wanted) == std::string::npos && read(stream, &c, 1) == 1;) text += c;
+    return text;
+  }
+  // Whether it goes on, longer than a program takes that has nothing left to do. What Qt remarks is no end.
+  bool StaysUp() {
+    pollfd end{stream, POLLIN, 0};
+    char remark = 0;
+    while (poll(&end, 1, 1500) > 0) {
+      if (read(stream, &remark, 1) != 1) return false;
+    }
+    return true;
+  }
+
+  TemporaryFolder folder;
+  pid_t process = -1;
+  int stream = -1;
+};
+
+TEST_F(ProgramFromAnIcon, AStoreThatCannotBeOpenedIsToldInABoxThatStaysUntilItIsClosed) {
+  const std::string missing = folder / "no/esta.db";
+  Start({"--db", missing.c_str()});
+  const std::string sentence = "No existe la carpeta " + (folder / "no") + " de la base de datos.\n";
+  EXPECT_NE(ReadUntil(sentence).find(sentence), std::string::npos);
+  EXPECT_TRUE(StaysUp());
+}
+
+TEST_F(ProgramFromAnIcon, AnOptionThatIsWrongIsToldInABox) {
+  Start({"--nada"});
+  const std::string sentence = "No existe la opción --nada. La ayuda está en orvendal --help.\n";
+  EXPECT_NE(ReadUntil(sentence).find(sentence), std::string::npos);
+  EXPECT_TRUE(StaysUp());
+}
+
+TEST_F(ProgramFromAnIcon, WhoAsksForAPictureOrAScriptIsKeptByNoBox) {
+  const std::string missing = folder / "no/esta.db";
+  const std::string picture = folder / "p.png";
+  Start({"--db", missing.c_str(), "--captura", picture.c_str()});
+  ReadUntil("esto no sale");  // to the end
+  int status = 0;
+  EXPECT_EQ(waitpid(process, &status, 0), process);
+  EXPECT_EQ(WEXITSTATUS(status), 1);
+  close(stream);
+  Start({"guion"});
+  ReadUntil("esto no sale");
+  EXPECT_EQ(waitpid(process, &status, 0), process);
+  EXPECT_EQ(WEXITSTATUS(status), 2);
+  process = -1;
 }
 
 TEST_F(Program, WithoutADisplayItSaysHowToGetAPicture) {
