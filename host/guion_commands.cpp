@@ -1,5 +1,6 @@
 #include "host/guion_commands.h"
 
+#include <algorithm>
 #include <charconv>
 #include <map>
 
@@ -10,6 +11,8 @@
 
 namespace orvendal {
 namespace {
+
+constexpr int kMostPixels = 16384;
 
 int WholeNumber(const std::string& text) {
   int number = 0;
@@ -122,7 +125,13 @@ void ScriptCommands::CheckNoScreen(const char* command) const {
 
 void ScriptCommands::SetDisplay(const Words& words) {
   CheckNoScreen("pantalla");
-  world_.host.SetScreen(PositiveNumber(words[0]), PositiveNumber(words[1]));
+  const int width = PositiveNumber(words[0]);
+  const int height = PositiveNumber(words[1]);
+  // A larger one only eats the memory, at the latest when it is painted.
+  if (std::max(width, height) > kMostPixels) {
+    throw ScriptStop("una pantalla tiene como mucho " + std::to_string(kMostPixels) + " píxeles por lado");
+  }
+  world_.host.SetScreen(width, height);
 }
 
 void ScriptCommands::SetBase(const Words& words) {

@@ -136,6 +136,7 @@ TEST_F(Script, ClosingTheScreenTakesItAway) {
 TEST_F(Script, DisplayAndReferenceSizeComeBeforeTheCall) {
   EXPECT_EQ(StopAt("pantalla 800 600"), "pantalla va antes de orvendal");
   EXPECT_EQ(StopAt("base 15360 11520"), "base va antes de orvendal");
+  EXPECT_EQ(StopAt("pantalla 800 16385", ""), "una pantalla tiene como mucho 16384 píxeles por lado");
   EXPECT_EQ(Run("orvendal 02 1 1\nclic Barra1 cerrar\npantalla 800 600\norvendal 02 1 1\n"
                 "mostrar Form.Width\n"),
             0)
