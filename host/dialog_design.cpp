@@ -25,8 +25,9 @@ void PlaceDialog(Form& form, std::string_view title, double width, double height
   form.Caption(std::string(title));
   form.BorderStyle(kSystemFrame);
   form.StartUpPosition(kCenteredOnOwner);
-  form.Width(std::min(width, host.ScreenWidth()));
-  form.Height(std::min(height, host.ScreenHeight()));
+  const Rect room = host.RoomInFrame();
+  form.Width(std::min(width, room.width));
+  form.Height(std::min(height, room.height));
   form.Move((host.ScreenWidth() - form.Width()) / 2, (host.ScreenHeight() - form.Height()) / 2);
 }
 
@@ -61,6 +62,8 @@ void DesignGrid(MSFlexGrid& grid, const std::vector<GridColumn>& columns, const 
   grid.Move(place.left, place.top, place.width, place.height);
   grid.TabIndex(tab_index);
   grid.BackColorBkg(system_color::kWindowBackground);
+  grid.HighLight(false);
+  grid.AllowBigSelection(false);
   grid.FixedCols(0);
   grid.FixedRows(1);
   grid.Cols(static_cast<int>(columns.size()));
@@ -78,39 +81,5 @@ void DesignGrid(MSFlexGrid& grid, const std::vector<GridColumn>& columns, const 
 }
 
 }  // namespace dialog_design
-
-void RowHighlight::PaintRow(int row, ColorWord back, ColorWord fore) {
-  grid_.Row(row);
-  for (int column = 0; column < grid_.Cols(); ++column) {
-    grid_.Col(column);
-    grid_.CellBackColor(back);
-    grid_.CellForeColor(fore);
-  }
-  grid_.Col(0);
-}
-
-void RowHighlight::TakeOff() {
-  if (row_ > 0 && row_ < grid_.Rows() && !painting_) {
-    painting_ = true;
-    const int cursor = grid_.Row();
-    PaintRow(row_, 0, 0);
-    grid_.Row(cursor);
-    painting_ = false;
-  }
-  row_ = 0;
-}
-
-void RowHighlight::FollowCursor() {
-  if (painting_ || grid_.Rows() <= grid_.FixedRows()) return;
-  const int cursor = grid_.Row();
-  if (cursor != row_) {
-    TakeOff();
-    painting_ = true;
-    PaintRow(cursor, system_color::kHighlight, system_color::kHighlightText);
-    painting_ = false;
-    row_ = cursor;
-  }
-  grid_.CellTop();  // brings the cell into view
-}
 
 }  // namespace orvendal

@@ -49,6 +49,17 @@ bool BeginsLike(std::string_view text, std::string_view pattern) {
   return true;
 }
 
+// Whether `is_it` holds for one of the lines of a cell.
+template <typename Predicate>
+bool AnyLine(std::string_view cell, const Predicate& is_it) {
+  for (;;) {
+    const std::size_t end = cell.find('\n');
+    if (is_it(cell.substr(0, end))) return true;
+    if (end == std::string_view::npos) return false;
+    cell.remove_prefix(end + 1);
+  }
+}
+
 bool HasWildcard(std::string_view word) {
   return word.find_first_of("%_") != std::string_view::npos;
 }
@@ -93,8 +104,9 @@ std::vector<std::size_t> SearchList::Narrow(std::string_view text,
                          [&](std::size_t field) { return Contains(cells[field], word); });
     };
     if (!std::all_of(words.begin(), words.end(), found)) continue;
-    const bool begins = std::any_of(fields.begin(), fields.end(),
-                                    [&](std::size_t field) { return BeginsLike(cells[field], wanted); });
+    const bool begins = std::any_of(fields.begin(), fields.end(), [&](std::size_t field) {
+      return AnyLine(cells[field], [&](std::string_view line) { return BeginsLike(line, wanted); });
+    });
     hits.push_back({entries_[i].group, begins, i});
   }
   std::stable_sort(hits.begin(), hits.end(), [](const Hit& left, const Hit& right) {
@@ -104,6 +116,21 @@ std::vector<std::size_t> SearchList::Narrow(std::string_view text,
   std::vector<std::size_t> indices;
   indices.reserve(hits.size());
   for (const Hit& hit : hits) indices.push_back(hit.index);
+  return indices;
+}
+
+std::vector<std::size_t> SearchList::NamedBy(std::string_view text,
+                                             const std::vector<std::size_t>& fields) const {
+  const std::string wanted = Trim(text);
+  std::vector<std::size_t> indices;
+  for (std::size_t i = 0; !wanted.empty() && i < entries_.size(); ++i) {
+    const std::vector<std::string>& cells = entries_[i].cells;
+    const bool named = std::any_of(fields.begin(), fields.end(), [&](std::size_t field) {
+      return AnyLine(cells[field],
+                     [&](std::string_view line) { return EqualsIgnoringCase(Trim(line), wanted); });
+    });
+    if (named) indices.push_back(i);
+  }
   return indices;
 }
 

@@ -7,7 +7,8 @@
 
 namespace orvendal {
 
-/// One row that can be searched. Entries of a lower group come first, whatever is searched for.
+/// One row that can be searched. A cell can hold several texts, a line each. Entries of a lower group come
+/// first, whatever is searched for.
 struct SearchEntry {
   std::vector<std::string> cells;
   int group = 0;
@@ -27,6 +28,10 @@ class SearchList {
   /// Indices of the entries that `text` is found in, searching the cells `fields`: by group, then those with
   /// a field that begins with the text, then in the order of the list. An empty text finds all.
   std::vector<std::size_t> Narrow(std::string_view text, const std::vector<std::size_t>& fields) const;
+
+  /// Indices of the entries that have that text, but for case and blanks around, in one of the cells
+  /// `fields`.
+  std::vector<std::size_t> NamedBy(std::string_view text, const std::vector<std::size_t>& fields) const;
 
  private:
   std::vector<SearchEntry> entries_;

@@ -19,20 +19,15 @@ SessionChangeForm::SessionChangeForm(HostContext& context, std::vector<BranchNam
       context_(context),
       branches_(std::move(branches)),
       session_(std::move(session)) {
-  OnKeyPress = [this](int& key_ascii) {
+  keys_.OnKeyDown = [this](int& key_code, int) {
+    if (MSFSucursales.HasFocus() && choice_.TakeKey(key_code)) key_code = 0;
+  };
+  keys_.OnKeyPress = [this](int& key_ascii) {
     if (key_ascii == character::kEscape) Hide();
     if (key_ascii == character::kEnter) Accept();
     if (key_ascii == character::kEscape || key_ascii == character::kEnter) key_ascii = 0;
   };
-  MSFSucursales.OnRowColChange = [this] { highlight_.FollowCursor(); };
-  MSFSucursales.OnMouseDown = [this](int, int, double x, double y) {
-    int row = 0;
-    int column = 0;
-    pressed_on_row_ = MSFSucursales.CellAt({x, y}, row, column) && row >= MSFSucursales.FixedRows();
-  };
-  MSFSucursales.OnDblClick = [this] {
-    if (pressed_on_row_) Accept();
-  };
+  choice_.OnAccept = [this] { Accept(); };
   CmdAceptar.OnClick = [this] { Accept(); };
   CmdCancelar.OnClick = [this] { Hide(); };
 }
@@ -72,7 +67,7 @@ void SessionChangeForm::FillBranches() {
   }
   if (branches_.empty()) return;
   MSFSucursales.Row(current);
-  highlight_.FollowCursor();
+  choice_.FollowCursor();
 }
 
 void SessionChangeForm::Accept() {

@@ -4,7 +4,9 @@
 
 #include "host/branch_names.h"
 #include "host/dialog_design.h"
+#include "host/dialog_keys.h"
 #include "host/host_context.h"
+#include "host/row_choice.h"
 
 namespace orvendal {
 
@@ -35,7 +37,6 @@ class SessionChangeForm final : public Form {
   std::vector<BranchName> branches_;
   Session session_;
   bool accepted_ = false;
-  bool pressed_on_row_ = false;
 
   MSFlexGrid MSFSucursales{*this, nullptr, "MSFSucursales"};
   TextBox TxtPuesto{*this, nullptr, "TxtPuesto"};
@@ -44,7 +45,8 @@ class SessionChangeForm final : public Form {
   CommandButton CmdCancelar{*this, nullptr, "CmdCancelar"};
   Label LblPuesto{*this, nullptr, "LblPuesto"};
   Label LblTurno{*this, nullptr, "LblTurno"};
-  RowHighlight highlight_{MSFSucursales};
+  RowChoice choice_{MSFSucursales};
+  DialogKeys keys_{*this};
 };
 
 }  // namespace orvendal

@@ -35,6 +35,7 @@ void StandInEmployeePicker::Elegir(ConnectionRef& conexion, std::string& cod_suc
   question.title = for_supervisor_ ? words.supervisor_picker : words.employee_picker;
   question.columns = {{words.code, 1}, {words.name, 3}, {words.branch, 1}};
   question.ways = {{"", {kCode, kName}}};
+  question.names = {kCode};
   const auto form = std::make_shared<SearchListForm>(context_.window_host, words, question, employees);
   const std::optional<std::size_t> chosen = form->Ask();
   accepted_ = chosen.has_value();

@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t kCode = 0;
 constexpr std::size_t kDescription = 1;
+constexpr std::size_t kBarCodes = 2;  // not shown
 
 // Any session object tells its connection, as it tells the screen.
 ConnectionRef StoreOf(const DatosClaseRef& session) {
@@ -30,11 +31,19 @@ ConnectionRef StoreOf(const DatosClaseRef& session) {
 
 SearchList ReadProducts(const HostContext& context, const ConnectionRef& store, bool by_code) {
   const Region& region = context.window_host.UserRegion();
-  const RecordsetRef products =
-      ReadRows(context.recordsets, store, "SELECT Codigo, Descripcion FROM Productos");
+  const RecordsetRef products = ReadRows(
+      context.recordsets, store,
+      "SELECT Productos.Codigo, Productos.Descripcion, Referencias.Referencia FROM Productos "
+      "LEFT JOIN Referencias ON Referencias.IdProducto = Productos.Codigo ORDER BY Productos.Codigo");
   std::vector<SearchEntry> entries;
   for (; !products->AtEnd(); products->MoveNext()) {
-    entries.push_back({{TextOf(*products, "Codigo", region), TextOf(*products, "Descripcion", region)}, 0});
+    const std::string code = TextOf(*products, "Codigo", region);
+    const std::string bar_code = TextOf(*products, "Referencia", region);
+    if (!entries.empty() && entries.back().cells[kCode] == code) {
+      entries.back().cells[kBarCodes] += '\n' + bar_code;
+    } else {
+      entries.push_back({{code, TextOf(*products, "Descripcion", region), bar_code}, 0});
+    }
   }
   return {std::move(entries), by_code ? kCode : kDescription};
 }
@@ -51,7 +60,8 @@ std::string StandInProductSearch::Buscar(DatosClaseRef& datos_sesion, ObjectRef&
   SearchQuestion question;
   question.title = words.product_search;
   question.columns = {{words.code, 1}, {words.description, 4}};
-  question.ways = {{words.by_code, {kCode}}, {words.by_description, {kDescription}}};
+  question.ways = {{words.by_code, {kCode, kBarCodes}}, {words.by_description, {kDescription}}};
+  question.names = {kCode, kBarCodes};
   question.way = by_code ? 0 : 1;
   question.text = texto;
   const auto form = std::make_shared<SearchListForm>(context_.window_host, words, question, products);

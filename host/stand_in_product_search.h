@@ -10,7 +10,8 @@ class StandInProductSearch final : public BuscadorProductos {
  public:
   explicit StandInProductSearch(HostContext& context) : context_(context) {}
 
-  /// A modal list of all products, searched by `campo` ("Codigo", else by description) from `texto` on. The
+  /// A modal list of all products, searched by `campo` ("Codigo", which looks for bar codes
+  /// too, else by description) from `texto` on. The
   /// store is the connection that `datos_sesion` fills in: error 91 without a session, 3709 without a
   /// connection.
   std::string Buscar(DatosClaseRef& datos_sesion, ObjectRef& formulario, const std::string& llamador,

@@ -1,15 +1,20 @@
 #include "host/stand_in_tools.h"
 
 #include "host/journal.h"
-#include "host/quantity_filter.h"
 #include "host/workstation_form.h"
+#include "platform/base/text.h"
 
 namespace orvendal {
 
 int StandInTools::FiltrarTecla(TextBox& caja, int key_ascii, bool opcion) {
-  const QuantityKey filtered = FilterQuantityKey({caja.Text(), caja.SelStart(), caja.SelLength()}, key_ascii,
-                                                 context_.window_host, opcion);
+  const QuantityKey filtered = quantity_filter_.Filter({caja.Text(), caja.SelStart(), caja.SelLength()},
+                                                       key_ascii, context_.window_host, opcion);
   if (filtered.instead) caja.SelText(*filtered.instead);
+  if (filtered.shown) caja.Text(*filtered.shown);
+  if (filtered.select_all) {
+    caja.SelStart(0);
+    caja.SelLength(static_cast<int>(Len(caja.Text())));
+  }
   return filtered.key;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/host_context.h"
+#include "host/quantity_filter.h"
 #include "platform/library/library.h"
 
 namespace orvendal {
@@ -10,7 +11,7 @@ class StandInTools final : public Herramientas {
  public:
   explicit StandInTools(HostContext& context) : context_(context) {}
 
-  /// A filter for quantities; `opcion` False takes whole ones only.
+  /// A filter for quantities; `opcion` False takes whole ones only. May put the box's text right.
   int FiltrarTecla(TextBox& caja, int key_ascii, bool opcion) override;
   /// A panel that shows the workstation and can open the store anew.
   void AccionPuesto(ConnectionRef& conexion, std::string& cod_puesto) override;
@@ -28,6 +29,7 @@ class StandInTools final : public Herramientas {
 
  private:
   HostContext& context_;
+  QuantityFilter quantity_filter_;
 };
 
 }  // namespace orvendal

@@ -34,8 +34,9 @@ struct Words {
   std::string_view by_code;
   std::string_view by_description;
   std::string_view search_for;
-  std::string_view found;        // %1 of them
-  std::string_view found_first;  // %1 shown of %2
+  std::string_view found;            // %1 of them
+  std::string_view found_first;      // %1 shown of %2
+  std::string_view found_other_way;  // none by the way %1, but %3 by the way %2
 
   // The workstation's panel and the change of session.
   std::string_view workstation_panel;

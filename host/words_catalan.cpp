@@ -25,6 +25,7 @@ const Words& CatalanWords() {
       .search_for = "Cercar:",
       .found = "Trobats: %1",
       .found_first = "Es mostren els primers %1 de %2",
+      .found_other_way = "%1: cap. %2: %3.",
       .workstation_panel = "Dades del Lloc",
       .reconnect = "Reconnectar",
       .store_open = "La base de dades és oberta.",

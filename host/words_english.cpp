@@ -25,6 +25,7 @@ const Words& EnglishWords() {
       .search_for = "Search:",
       .found = "Found: %1",
       .found_first = "The first %1 of %2 are shown",
+      .found_other_way = "%1: none. %2: %3.",
       .workstation_panel = "Workstation",
       .reconnect = "Reconnect",
       .store_open = "The database is open.",

@@ -25,6 +25,7 @@ const Words& SpanishWords() {
       .search_for = "Buscar:",
       .found = "Encontrados: %1",
       .found_first = "Se muestran los primeros %1 de %2",
+      .found_other_way = "%1: ninguno. %2: %3.",
       .workstation_panel = "Datos del Puesto",
       .reconnect = "Reconectar",
       .store_open = "La base de datos está abierta.",

@@ -33,7 +33,7 @@ WorkstationForm::WorkstationForm(HostContext& context, ConnectionRef store, std:
       context_(context),
       store_(std::move(store)),
       puesto_(std::move(puesto)) {
-  OnKeyPress = [this](int& key_ascii) {
+  keys_.OnKeyPress = [this](int& key_ascii) {
     if (key_ascii != character::kEscape) return;
     key_ascii = 0;
     Hide();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/dialog_design.h"
+#include "host/dialog_keys.h"
 #include "host/host_context.h"
 
 namespace orvendal {
@@ -42,6 +43,7 @@ class WorkstationForm final : public Form {
   Label LblProveedor{*this, nullptr, "LblProveedor"};
   Label LblEstado{*this, nullptr, "LblEstado"};
   Label LblMuestra{*this, nullptr, "LblMuestra"};
+  DialogKeys keys_{*this};
 };
 
 }  // namespace orvendal

@@ -27,6 +27,15 @@ void HeadlessHost::SetScreenTwips(double width, double height) {
   screen_height_ = height;
 }
 
+void HeadlessHost::SetTakenByFrames(int width_pixels, int height_pixels) {
+  taken_width_ = width_pixels * kTwipsPerPixel;
+  taken_height_ = height_pixels * kTwipsPerPixel;
+}
+
+Rect HeadlessHost::RoomInFrame() {
+  return {0, 0, screen_width_ - taken_width_, screen_height_ - taken_height_};
+}
+
 double HeadlessHost::TextWidth(const FontSpec& font, std::string_view text) {
   const bool is_bookman = font.name.find("Bookman") != std::string::npos;
   const CharacterWidths& widths = is_bookman ? kBookmanDemiWidths : kSansWidths;

@@ -42,6 +42,8 @@ class HeadlessHost final : public WindowHost {
   /// Display in pixels of 15 twips.
   void SetScreen(int width_pixels, int height_pixels);
   void SetScreenTwips(double width, double height);
+  /// What panels and the frames of windows take of the display, in pixels.
+  void SetTakenByFrames(int width_pixels, int height_pixels);
 
   /// Runs when the next modal form is up; must leave it hidden or unloaded, else UnansweredDialog comes out.
   void QueueDialog(std::function<void(Form&)> answer) { dialogs_.push_back(std::move(answer)); }
@@ -63,6 +65,7 @@ class HeadlessHost final : public WindowHost {
   Clock& SystemClock() override { return clock_; }
   double ScreenWidth() override { return screen_width_; }
   double ScreenHeight() override { return screen_height_; }
+  Rect RoomInFrame() override;
   double TextWidth(const FontSpec& font, std::string_view text) override;
   double LineHeight(const FontSpec& font) override;
   std::unique_ptr<FormWindow> CreateFormWindow(Form& form) override;
@@ -80,6 +83,8 @@ class HeadlessHost final : public WindowHost {
   Clock& clock_;
   double screen_width_ = 15360;
   double screen_height_ = 11520;
+  double taken_width_ = 0;
+  double taken_height_ = 0;
   std::deque<std::function<void(Form&)>> dialogs_;
   std::deque<std::function<void()>> events_;
   std::map<Timer*, int> timers_;  // milliseconds since each fired last

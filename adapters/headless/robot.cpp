@@ -10,6 +10,10 @@
 namespace orvendal {
 namespace {
 
+// Milliseconds.
+constexpr int kPause = 500;
+constexpr int kBetweenKeys = 10;
+
 // "Nuevo" of "LblNuevo" and "DivNuevo": the labels and shapes of one action button share it.
 std::string ActionOf(const Control& control) {
   const bool is_member =
@@ -158,7 +162,17 @@ void Robot::ClickDay(MonthView& calendar, Date day) {
   ClickAt(middle(*place));
 }
 
+void Robot::Wait(int milliseconds) const {
+  WindowHost& host = form_.Host();
+  host.InputTime(host.InputTime() + static_cast<std::uint64_t>(milliseconds));
+}
+
 void Robot::Key(int key_code, int shift) {
+  Wait(kPause);
+  PressKey(key_code, shift);
+}
+
+void Robot::PressKey(int key_code, int shift) const {
   form_.KeyPress(key_code, shift);
   const bool control = (shift & shift_mask::kControl) != 0;
   if (key_code == key::kReturn || key_code == key::kEscape || key_code == key::kBack) {
@@ -170,14 +184,16 @@ void Robot::Key(int key_code, int shift) {
 }
 
 void Robot::Type(std::string_view text) {
+  Wait(kPause);
   for (std::size_t offset = 0; offset < text.size();) {
     const char32_t character = NextCharacter(text, offset);
+    Wait(kBetweenKeys);
     if (character == U'\n') {
-      Key(key::kReturn);
+      PressKey(key::kReturn, 0);
       continue;
     }
     if (character == U'\t') {
-      Key(key::kTab);
+      PressKey(key::kTab, 0);
       continue;
     }
     const int code = KeyCodeOf(character);

@@ -43,9 +43,9 @@ class Robot {
   void ClickAt(Point position);
   void DoubleClickAt(Point position);
 
-  /// One key by its code, with the character that it stands for.
+  /// One key by its code, with the character that it stands for, after a pause.
   void Key(int key_code, int shift = 0);
-  /// Types a text, one key after the other; a line break is Enter.
+  /// Types a text after a pause, one key after the other as fast as a bar-code reader; a line break is Enter.
   void Type(std::string_view text);
 
   Point MiddleOf(const Control& control) const;
@@ -53,6 +53,9 @@ class Robot {
   Point CellPosition(MSFlexGrid& grid, int row, int column) const;
 
  private:
+  void Wait(int milliseconds) const;
+  void PressKey(int key_code, int shift) const;
+
   Form& form_;
   ObjectRef alive_;
 };

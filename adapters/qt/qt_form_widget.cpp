@@ -214,6 +214,7 @@ void QtFormWidget::ShowCursor(CursorShape shape) {
 void QtFormWidget::keyPressEvent(QKeyEvent* event) {
   event->accept();
   if (form_ == nullptr || BroughtBack()) return;
+  host_.InputTime(InputTimeOf(*event));
   host_.Guard([&] {
     form_->KeyPress(KeyCodeOf(event->key(), event->modifiers()), ShiftOf(event->modifiers()));
     for (const char32_t character : CharactersOf(*event)) {

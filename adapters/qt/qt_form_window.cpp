@@ -63,8 +63,11 @@ QPoint QtFormWindow::FirstPlace(const QSize& size) const {
   QRect around = screen;
   if (form_.StartUpPosition() == kCenterOnOwner && owner_ != nullptr) around = owner_->geometry();
   QPoint place = around.center() - QPoint(size.width() / 2, size.height() / 2);
-  place.setX(qBound(screen.left(), place.x(), std::max(screen.left(), screen.right() - size.width())));
-  place.setY(qBound(screen.top(), place.y(), std::max(screen.top(), screen.bottom() - size.height())));
+  // The place is that of the frame's corner, and the whole frame has to be seen.
+  const QMargins frame = IsFramed() ? host_.FrameMargins() : QMargins();
+  const QSize whole = size.grownBy(frame);
+  place.setX(qBound(screen.left(), place.x(), std::max(screen.left(), screen.right() + 1 - whole.width())));
+  place.setY(qBound(screen.top(), place.y(), std::max(screen.top(), screen.bottom() + 1 - whole.height())));
   return place;
 }
 

@@ -1,6 +1,7 @@
 #include "adapters/qt/qt_keys.h"
 
 #include <QKeyEvent>
+#include <chrono>
 #include <utility>
 
 #include "platform/forms/keys.h"
@@ -112,6 +113,12 @@ int KeyCodeOf(int qt_key, Qt::KeyboardModifiers modifiers) {
   }
   const int letter = qt_key <= 0xFFFF ? KeyCodeOfCharacter(static_cast<char32_t>(qt_key)) : kInputMethodKey;
   return letter == kInputMethodKey ? kUnknownKey : letter;
+}
+
+std::uint64_t InputTimeOf(const QKeyEvent& event) {
+  if (event.timestamp() != 0) return event.timestamp();
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return static_cast<std::uint64_t>(std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
 }
 
 int ShiftOf(Qt::KeyboardModifiers modifiers) {

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <Qt>
+#include <cstdint>
 #include <vector>
 
 class QKeyEvent;
@@ -11,6 +12,9 @@ namespace orvendal {
 /// The platform's code of a key: letters, accents aside, and digits are their upper-case ASCII, others as in
 /// keys.h. A key that has none gives 255, which means nothing to anybody.
 int KeyCodeOf(int qt_key, Qt::KeyboardModifiers modifiers);
+
+/// When a key came, in milliseconds: as the window system says, or as this machine counts where it does not.
+std::uint64_t InputTimeOf(const QKeyEvent& event);
 
 /// Bits of shift_mask. The key that chooses the third level of a keyboard is neither Ctrl nor Alt.
 int ShiftOf(Qt::KeyboardModifiers modifiers);

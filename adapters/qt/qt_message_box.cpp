@@ -1,11 +1,19 @@
 #include "adapters/qt/qt_message_box.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QBasicTimer>
+#include <QKeyEvent>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QShowEvent>
+#include <QTimerEvent>
 #include <algorithm>
+#include <utility>
 #include <vector>
+
+#include "adapters/qt/qt_keys.h"
 
 namespace orvendal {
 namespace {
@@ -32,6 +40,74 @@ class FrontMessageBox final : public QMessageBox {
     activateWindow();
     if (defaultButton() != nullptr) defaultButton()->setFocus(Qt::ActiveWindowFocusReason);
   }
+};
+
+// The keys of a box before it has them.
+class AnswerKeys final : public QObject {
+ public:
+  AnswerKeys(QMessageBox& box, KeyRun& keys, const std::function<void()>& beep)
+      : box_(box), keys_(keys), beep_(beep) {
+    qApp->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool is_press = event->type() == QEvent::KeyPress;
+    if (!is_press && event->type() != QEvent::KeyRelease) return false;
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget == nullptr || widget->window() != &box_) return false;
+    // What a button or the text does not use comes to the box once more.
+    if (widget == &box_ && event == std::exchange(passed_on_, nullptr)) return false;
+    const bool taken =
+        is_press ? TakePress(*static_cast<QKeyEvent*>(event)) : IsCharacter(*static_cast<QKeyEvent*>(event));
+    passed_on_ = taken ? nullptr : event;
+    return taken;
+  }
+
+  void timerEvent(QTimerEvent* event) override {
+    if (event->timerId() != pause_.timerId()) return;
+    pause_.stop();
+    if (blank_on_ != nullptr && blank_on_->hasFocus()) blank_on_->click();
+  }
+
+ private:
+  static bool IsCharacter(const QKeyEvent& event) {
+    constexpr Qt::KeyboardModifiers kCommands = Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier;
+    return (event.modifiers() & kCommands) == 0 && !event.text().isEmpty() && event.text().at(0).isPrint();
+  }
+
+  static bool IsModifier(int key) {
+    return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
+  }
+
+  // No character is an answer by itself.
+  bool TakePress(const QKeyEvent& event) {
+    if (IsModifier(event.key()) || event.modifiers() & Qt::AltModifier) return false;
+    const std::uint64_t time = InputTimeOf(event);
+    const bool goes_on = keys_.GoesOn(time);
+    const bool is_character = IsCharacter(event);
+    const bool is_reader = keys_.IsReaderAt(time);
+    if (!goes_on) warned_ = false;
+    keys_.Add(is_character ? static_cast<char32_t>(event.text().at(0).unicode()) : U'\r', time);
+    pause_.stop();
+    if (is_character && event.key() == Qt::Key_Space && !goes_on) {
+      blank_on_ = qobject_cast<QAbstractButton*>(box_.focusWidget());
+      pause_.start(static_cast<int>(KeyRun::kShortestPause), Qt::PreciseTimer, this);
+    }
+    if (keys_.IsReaderAt(time) && !warned_) {
+      warned_ = true;
+      beep_();
+    }
+    return is_character || is_reader;
+  }
+
+  QMessageBox& box_;
+  KeyRun& keys_;
+  const std::function<void()>& beep_;
+  const QEvent* passed_on_ = nullptr;
+  QPointer<QAbstractButton> blank_on_;
+  QBasicTimer pause_;
+  bool warned_ = false;
 };
 
 std::vector<Choice> ChoicesOf(int style, const QtCaptions& captions) {
@@ -69,7 +145,7 @@ QMessageBox::Icon IconOf(int style) {
 }  // namespace
 
 int RunMessageBox(QWidget* owner, const QString& text, int style, const QString& title,
-                  const QtCaptions& captions) {
+                  const QtCaptions& captions, KeyRun& keys, const std::function<void()>& beep) {
   FrontMessageBox box(owner);
   box.setWindowTitle(title);
   box.setWindowModality(Qt::ApplicationModal);
@@ -87,6 +163,7 @@ int RunMessageBox(QWidget* owner, const QString& text, int style, const QString&
   box.setDefaultButton(buttons[wanted < buttons.size() ? wanted : 0]);
   box.setEscapeButton(buttons.back());
 
+  const AnswerKeys answer_keys(box, keys, beep);
   box.exec();
   const auto pressed = std::find(buttons.begin(), buttons.end(), box.clickedButton());
   if (pressed == buttons.end()) return choices.back().answer;

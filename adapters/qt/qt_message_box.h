@@ -1,6 +1,9 @@
 #pragma once
 
 #include <QString>
+#include <functional>
+
+#include "platform/forms/key_run.h"
 
 class QWidget;
 
@@ -39,9 +42,13 @@ inline constexpr int kNo = 7;
 
 /// Shows a modal message box in front of `owner` (which may be nullptr) until it is answered, and gives the
 /// answer. `style` is an icon plus a set of buttons; an unknown set of buttons shows one. Enter presses the
-/// first button or the one that the style makes the default, Esc the one that says no the mildest way. The
-/// text can be selected and copied. The caller holds a ModalScope.
+/// first button or the one that the style makes the default, Esc the one that says no the mildest way, Alt
+/// with its letter any. The text can be selected and copied. The caller holds a ModalScope.
+///
+/// What a bar-code reader types answers nothing: its Enter is dropped with a `beep`, and a blank presses a
+/// button only when no other key has come close behind it. `keys` are those that came before, and take the
+/// box's own.
 int RunMessageBox(QWidget* owner, const QString& text, int style, const QString& title,
-                  const QtCaptions& captions);
+                  const QtCaptions& captions, KeyRun& keys, const std::function<void()>& beep);
 
 }  // namespace orvendal

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QTimerEvent>
 #include <QWidget>
+#include <QWindow>
 #include <algorithm>
 #include <exception>
 
@@ -48,6 +49,23 @@ double QtWindowHost::ScreenWidth() {
 
 double QtWindowHost::ScreenHeight() {
   return DisplaySize().height() * kTwipsPerPixel;
+}
+
+QMargins QtWindowHost::FrameMargins() const {
+  constexpr QMargins kUsual(8, 40, 8, 8);
+  for (const QtFormWindow* window : windows_) {
+    const QWindow* handle = window->Widget().windowHandle();
+    if (handle != nullptr && window->Widget().isVisible() && !handle->frameMargins().isNull()) {
+      return handle->frameMargins();
+    }
+  }
+  return kUsual;
+}
+
+Rect QtWindowHost::RoomInFrame() {
+  const QSize room =
+      QGuiApplication::primaryScreen()->availableGeometry().marginsRemoved(FrameMargins()).size();
+  return {0, 0, room.width() * kTwipsPerPixel, room.height() * kTwipsPerPixel};
 }
 
 double QtWindowHost::TextWidth(const FontSpec& font, std::string_view text) {
@@ -171,7 +189,7 @@ int QtWindowHost::RunBox(const QString& text, int style, const QString& title) {
   const ModalScope scope(*this);
   const QPointer<QWidget> owner = FrontWindow();
   const int answer = RunMessageBox(owner, text, style, title.isEmpty() ? options_.application_title : title,
-                                   options_.captions);
+                                   options_.captions, Keys(), [this] { Beep(); });
   GiveKeyboardTo(owner);
   return answer;
 }

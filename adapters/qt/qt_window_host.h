@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMargins>
 #include <QObject>
 #include <QPointer>
 #include <QSize>
@@ -47,6 +48,7 @@ class QtWindowHost : public WindowHost {
   Clock& SystemClock() override { return clock_; }
   double ScreenWidth() override;
   double ScreenHeight() override;
+  Rect RoomInFrame() override;
   double TextWidth(const FontSpec& font, std::string_view text) override;
   double LineHeight(const FontSpec& font) override;
   std::unique_ptr<FormWindow> CreateFormWindow(Form& form) override;
@@ -65,6 +67,9 @@ class QtWindowHost : public WindowHost {
   /// What the buttons of message boxes say from now on.
   void Captions(const QtCaptions& captions) { options_.captions = captions; }
   QtFonts& Fonts() { return fonts_; }
+  /// What a frame of the system's takes around a window, in logical pixels: as it was seen around one, or
+  /// what most window managers take at most.
+  QMargins FrameMargins() const;
   /// The widget of a loaded form; nullptr without one.
   QWidget* WidgetOf(const Form& form) const;
 

@@ -76,6 +76,7 @@ void Win32FormWindow::Turn(WPARAM wparam, LPARAM place) {
 bool Win32FormWindow::KeyDown(WPARAM key_code, bool with_menu_key) {
   last_key_ = key_code;
   key_is_down_ = true;
+  host_.InputTime(static_cast<DWORD>(GetMessageTime()));
   const std::shared_ptr<Link> link = link_;
   const HWND window = window_;
   std::vector<wchar_t> units;
@@ -106,7 +107,10 @@ void Win32FormWindow::Type(wchar_t unit, bool of_a_key) {
 // for that of the key before.
 void Win32FormWindow::Enter(char32_t character, bool of_a_key) {
   const std::shared_ptr<Link> link = link_;
-  if (!of_a_key) host_.Guard([&] { form_.KeyPress(VK_PROCESSKEY, 0); });
+  if (!of_a_key) {
+    host_.InputTime(static_cast<DWORD>(GetMessageTime()));
+    host_.Guard([&] { form_.KeyPress(VK_PROCESSKEY, 0); });
+  }
   if (link->window != nullptr) host_.Guard([&] { form_.Character(character); });
 }
 

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "adapters/win32/clipboard.h"
+#include "adapters/win32/message_box_keys.h"
 #include "adapters/win32/win32_form_window.h"
 #include "adapters/win32/window_class.h"
 #include "platform/forms/form.h"
@@ -84,6 +85,17 @@ double Win32WindowHost::ScreenWidth() {
 double Win32WindowHost::ScreenHeight() {
   const DpiScope sharp(DpiContext::Sharpest());
   return GetSystemMetrics(SM_CYSCREEN) * kTwipsPerInch / dpi_;
+}
+
+Rect Win32WindowHost::RoomInFrame() {
+  const DpiScope sharp(DpiContext::Sharpest());
+  RECT free{};
+  if (!SystemParametersInfoW(SPI_GETWORKAREA, 0, &free, 0)) return {0, 0, ScreenWidth(), ScreenHeight()};
+  RECT frame{};
+  AdjustWindowRectEx(&frame, WS_POPUP | WS_CAPTION | WS_SYSMENU, FALSE, WS_EX_DLGMODALFRAME);
+  const double pixel = kTwipsPerInch / dpi_;
+  return {0, 0, (free.right - free.left - (frame.right - frame.left)) * pixel,
+          (free.bottom - free.top - (frame.bottom - frame.top)) * pixel};
 }
 
 ColorWord Win32WindowHost::SystemColor(std::uint32_t index) {
@@ -224,6 +236,7 @@ int Win32WindowHost::ShowMessage(std::string_view text, int style, std::string_v
   const HWND owner = FrontWindow();
   // The box shuts its owner by itself, and opens it before it goes.
   const std::vector<HWND> shut = ShutWindows(owner);
+  const MessageBoxKeys box_keys(Keys(), [this] { Beep(); });
   const int answer = MessageBoxW(owner, wide_text.c_str(), wide_title.c_str(), static_cast<UINT>(style));
   OpenWindows(shut);
   return answer;

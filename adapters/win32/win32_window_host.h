@@ -49,6 +49,7 @@ class Win32WindowHost : public WindowHost {
   /// Of the primary display.
   double ScreenWidth() override;
   double ScreenHeight() override;
+  Rect RoomInFrame() override;
   ColorWord SystemColor(std::uint32_t index) override;
   double TextWidth(const FontSpec& font, std::string_view text) override;
   double LineHeight(const FontSpec& font) override;

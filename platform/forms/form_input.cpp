@@ -175,6 +175,7 @@ void Form::KeyPress(int key_code, int shift) {
 
 void Form::Character(char32_t character) {
   if (!host_.TakesInput(*this)) return;
+  host_.Keys().Add(character, host_.InputTime());
   Dispatch([&] {
     if (character_swallowed_) return;
     const std::uint64_t life = life_;

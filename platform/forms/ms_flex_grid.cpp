@@ -49,6 +49,8 @@ void MSFlexGrid::RestoreDefaults() {
   back_color_selected_ = system_color::kHighlight;
   fore_color_selected_ = system_color::kHighlightText;
   back_color_background_ = system_color::kApplicationWorkspace;
+  highlight_ = true;
+  allow_big_selection_ = true;
   drag_ = Drag::kNothing;
   wheel_rest_ = 0;
   MeasureRows();
@@ -351,6 +353,10 @@ void MSFlexGrid::ForeColorSel(ColorWord color) {
 }
 void MSFlexGrid::BackColorBkg(ColorWord color) {
   back_color_background_ = color;
+  Invalidate();
+}
+void MSFlexGrid::HighLight(bool shown) {
+  highlight_ = shown;
   Invalidate();
 }
 

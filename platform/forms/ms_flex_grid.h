@@ -128,6 +128,13 @@ class MSFlexGrid final : public Control {
   ColorWord BackColorBkg() const { return back_color_background_; }
   void BackColorBkg(ColorWord color);
 
+  /// Whether the range from the cursor to RowSel and ColSel is shown selected.
+  bool HighLight() const { return highlight_; }
+  void HighLight(bool shown);
+  /// Whether a press on a title selects its column or row; without it such a press does nothing.
+  bool AllowBigSelection() const { return allow_big_selection_; }
+  void AllowBigSelection(bool allow) { allow_big_selection_ = allow; }
+
   std::function<void()> OnLeaveCell;
   std::function<void()> OnEnterCell;
   std::function<void()> OnRowColChange;
@@ -273,6 +280,8 @@ class MSFlexGrid final : public Control {
   ColorWord back_color_selected_ = 0;
   ColorWord fore_color_selected_ = 0;
   ColorWord back_color_background_ = 0;
+  bool highlight_ = true;
+  bool allow_big_selection_ = true;
   std::uint64_t life_ = 0;  // counts the designs, so that the end of a handler can tell another one
   int scroll_depth_ = 0;    // handlers of OnScroll that are running
   double wheel_rest_ = 0;   // rows that small turns of the wheel have not made up yet

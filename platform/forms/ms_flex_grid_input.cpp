@@ -32,6 +32,7 @@ void MSFlexGrid::MousePressing(int button, int /*shift*/, Point local) {
 
   const bool is_column_title = row < fixed_rows_;
   const bool is_row_title = column < fixed_columns_;
+  if ((is_column_title || is_row_title) && !allow_big_selection_) return;
   const int target_row = std::max(row, fixed_rows_);
   const int target_column = std::max(column, fixed_columns_);
   const Moment before = Now();

@@ -81,7 +81,7 @@ void MSFlexGrid::PaintCell(Canvas& canvas, const Rect& place, int row, int colum
   ColorWord fore = is_title ? fore_color_fixed_ : ForeColor();
   if (cell.back_color != 0) back = cell.back_color;
   if (cell.fore_color != 0) fore = cell.fore_color;
-  if (!is_title && !is_current && IsSelected(row, column)) {
+  if (highlight_ && !is_title && !is_current && IsSelected(row, column)) {
     back = back_color_selected_;
     fore = fore_color_selected_;
   }

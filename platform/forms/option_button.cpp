@@ -1,6 +1,7 @@
 #include "platform/forms/option_button.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "platform/forms/control_looks.h"
 #include "platform/forms/form.h"
@@ -57,8 +58,30 @@ void OptionButton::MouseReleased(int button, int, Point local) {
   if (button == mouse_button::kLeft && LocalBounds().Contains(local)) Mark();
 }
 
+// The next of the group that can have the focus; this one if it is alone.
+OptionButton* OptionButton::Neighbour(bool backwards) const {
+  std::vector<OptionButton*> group;
+  for (Control* control : Parent().Controls()) {
+    if (control->Kind() != ControlKind::kOptionButton || control->Container() != Container()) continue;
+    if (control->IsFocusable()) group.push_back(static_cast<OptionButton*>(control));
+  }
+  std::stable_sort(group.begin(), group.end(), [](const OptionButton* left, const OptionButton* right) {
+    return left->TabIndex() < right->TabIndex();
+  });
+  const auto here = std::find(group.begin(), group.end(), this);
+  if (here == group.end()) return nullptr;
+  const auto at = static_cast<std::size_t>(here - group.begin());
+  return group[(at + (backwards ? group.size() - 1 : 1)) % group.size()];
+}
+
 bool OptionButton::KeyDownDefault(int key_code, int) {
+  const bool backwards = key_code == key::kLeft || key_code == key::kUp;
+  const bool forwards = key_code == key::kRight || key_code == key::kDown;
   if (key_code == key::kSpace) Value(true);
+  OptionButton* neighbour = backwards || forwards ? Neighbour(backwards) : nullptr;
+  if (neighbour == nullptr || neighbour == this) return false;
+  neighbour->SetFocus();
+  neighbour->Value(true);
   return false;
 }
 

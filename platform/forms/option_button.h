@@ -6,7 +6,8 @@
 
 namespace orvendal {
 
-/// One choice of a group: choosing it takes the mark from the others of its container.
+/// One choice of a group: choosing it takes the mark from the others of its container. The arrow keys take
+/// focus and mark to the neighbour in the tab order, round and round.
 class OptionButton final : public Control {
  public:
   OptionButton(Form& form, Control* container, std::string_view name, int index = -1);
@@ -26,6 +27,7 @@ class OptionButton final : public Control {
 
  private:
   void Mark();
+  OptionButton* Neighbour(bool backwards) const;
 
   std::string caption_;
   bool value_ = false;

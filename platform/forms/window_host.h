@@ -13,6 +13,7 @@
 #include "platform/forms/cursor_shape.h"
 #include "platform/forms/font.h"
 #include "platform/forms/geometry.h"
+#include "platform/forms/key_run.h"
 
 namespace orvendal {
 
@@ -58,6 +59,9 @@ class WindowHost {
   /// Size of the display in twips.
   virtual double ScreenWidth() = 0;
   virtual double ScreenHeight() = 0;
+  /// The largest form with the system's frame that lies on the display with all of its frame, beside panels
+  /// and docks. Twips, its corner left out.
+  virtual Rect RoomInFrame() { return {0, 0, ScreenWidth(), ScreenHeight()}; }
   /// A plain colour word for a system colour index.
   virtual ColorWord SystemColor(std::uint32_t index) { return ClassicSystemColor(index); }
 
@@ -90,6 +94,13 @@ class WindowHost {
   bool TakesInput(const Form& form) const;
   /// Whether `form` itself is the innermost dialog that is up.
   bool IsInnermostDialog(const Form& form) const;
+  /// When the key came that is being handled, in milliseconds of the clock that the system's input has. Told
+  /// by whoever forwards a key, before the form or the dialog hears of it.
+  std::uint64_t InputTime() const { return input_time_; }
+  void InputTime(std::uint64_t milliseconds) { input_time_ = milliseconds; }
+  /// The characters that came last, whichever form or message box they went to. A form adds its own before
+  /// any handler hears of them.
+  KeyRun& Keys() { return keys_; }
   Rgb Resolve(ColorWord color) {
     return RgbOf(IsSystemColor(color) ? SystemColor(SystemColorIndex(color)) : color);
   }
@@ -100,6 +111,8 @@ class WindowHost {
   Form* active_form_ = nullptr;
   class ModalScope* innermost_ = nullptr;
   std::uint64_t modal_serial_ = 0;
+  std::uint64_t input_time_ = 0;
+  KeyRun keys_;
 };
 
 /// A modal dialog is up from construction to destruction. Whoever opens a dialog that is no engine form (a

@@ -1,3 +1,4 @@
+#include "adapters/headless/recording_canvas.h"
 #include "host/dialog_design.h"
 #include "platform/data/ado_error.h"
 #include "platform/forms/option_button.h"
@@ -24,12 +25,34 @@ class ProductSearch : public HostTest {
   }
   Codes Shown() const { return Column(*grid, 0); }
 
+  static std::string Found(Form& form) {
+    return dynamic_cast<Label&>(*form.FindControl("LblEncontrados")).Caption();
+  }
+  // The rows of which any cell looks chosen, as they are painted.
+  std::vector<int> RowsPaintedAsChosen(Form& form) const {
+    RecordingCanvas canvas;
+    form.Paint(canvas, {0, 0, form.Width(), form.Height()});
+    std::vector<int> rows;
+    for (int row = 1; row < grid->Rows(); ++row) {
+      bool chosen = false;
+      for (int column = 0; column < grid->Cols(); ++column) {
+        const Rect cell = grid->CellRectangle(row, column);
+        const Rect bounds = grid->Bounds();
+        const Point corner{bounds.left + cell.left + 30, bounds.top + cell.top + 30};
+        chosen = chosen || canvas.FillAt(corner) == host_color;
+      }
+      if (chosen) rows.push_back(row);
+    }
+    return rows;
+  }
+
   static void Cancel(Form& form) { Robot(form).Key(key::kEscape); }
   static void Accept(Form& form) { Robot(form).Key(key::kReturn); }
 
   DatosClaseRef session = std::make_shared<SampleSession>(context);
   MSFlexGrid* grid = nullptr;
   TextBox* box = nullptr;
+  const Rgb host_color = host.Resolve(system_color::kHighlight);
 };
 
 TEST_F(ProductSearch, StartsFromTheTextGivenOnTheFieldNamed) {
@@ -139,11 +162,151 @@ TEST_F(ProductSearch, WithNothingFoundEnterKeepsItOpen) {
 }
 
 TEST_F(ProductSearch, CanSearchTheOtherFieldWithTheSameText) {
-  const std::string code = Search("Codigo", "peine", [this](Form& form) {
+  const std::string code = Search("Codigo", "c", [this](Form& form) {
     Robot robot(form);
-    EXPECT_TRUE(Shown().empty());
+    EXPECT_EQ(Shown(), (Codes{"CHA01", "CHA02", "CRE01", "LAC01"}));
     robot.Click(robot.Find("OptCampo(1)"));
+    EXPECT_EQ(Shown(), (Codes{"CHA01", "CHA02", "CRE01", "LAC01", "PEI01"}));
+    robot.Key(key::kEnd);
+    Accept(form);
+  });
+  EXPECT_EQ(code, "PEI01");
+}
+
+TEST_F(ProductSearch, AWordThatNoCodeHasIsLookedForInTheDescriptions) {
+  const std::string code = Search("Codigo", "peine", [this](Form& form) {
     EXPECT_EQ(Shown(), Codes{"PEI01"});
+    EXPECT_TRUE(dynamic_cast<OptionButton&>(*form.FindControl("OptCampo(1)")).Value());
+    EXPECT_TRUE(box->HasFocus());
+    EXPECT_EQ(Found(form), "Por código: ninguno. Por descripción: 1.");
+    Accept(form);
+  });
+  EXPECT_EQ(code, "PEI01");
+  Search("Descripcion", "LAC01", [this](Form& form) {
+    EXPECT_EQ(Shown(), Codes{"LAC01"});
+    EXPECT_EQ(Found(form), "Por descripción: ninguno. Por código: 1.");
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, WhileTypingItSaysWhatTheOtherFieldHasAndEnterGoesThere) {
+  const std::string code = Search("Codigo", "", [this](Form& form) {
+    Robot robot(form);
+    robot.Type("cham");
+    EXPECT_TRUE(Shown().empty());
+    EXPECT_EQ(Found(form), "Por código: ninguno. Por descripción: 3.");
+    Accept(form);
+    EXPECT_TRUE(form.Visible());
+    EXPECT_EQ(Shown(), (Codes{"CHA01", "CHA02", "PEI01"}));
+    robot.Type("pú a");
+    Accept(form);
+  });
+  EXPECT_EQ(code, "CHA02");
+}
+
+TEST_F(ProductSearch, AfterAClickOnTheOtherWayTypingAndTheListKeysGoOn) {
+  const std::string code = Search("Codigo", "c", [this](Form& form) {
+    Robot robot(form);
+    robot.Click(robot.Find("OptCampo(1)"));
+    EXPECT_TRUE(robot.Find("OptCampo(1)").HasFocus());
+    robot.Key(key::kDown);
+    EXPECT_EQ(grid->Row(), 2);
+    robot.Type("ham");
+    EXPECT_EQ(box->Text(), "cham");
+    EXPECT_TRUE(box->HasFocus());
+    robot.Key(key::kDown);
+    robot.Key(key::kDown);
+    Accept(form);
+  });
+  EXPECT_EQ(code, "PEI01");
+}
+
+TEST_F(ProductSearch, TheOptionsFollowTheArrowsAndTheBlankOnly) {
+  Search("Codigo", "c", [this](Form& form) {
+    Robot robot(form);
+    robot.Key(key::kTab);
+    EXPECT_TRUE(robot.Find("OptCampo(0)").HasFocus());
+    robot.Key(key::kRight);
+    EXPECT_TRUE(robot.Find("OptCampo(1)").HasFocus());
+    EXPECT_EQ(Shown().size(), 5U);
+    robot.Key(key::kLeft);
+    EXPECT_EQ(Shown().size(), 4U);
+    EXPECT_EQ(box->Text(), "c");
+    robot.Click(robot.Find("OptCampo(0)"));
+    robot.Type(" ");
+    EXPECT_EQ(box->Text(), "c");
+    robot.Key(key::kBack);
+    EXPECT_EQ(box->Text(), "");
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, OnAButtonTheKeysAreTheButtons) {
+  Search("Codigo", "c", [this](Form& form) {
+    Robot robot(form);
+    robot.Find("CmdCancelar").SetFocus();
+    robot.Type("h");
+    robot.Key(key::kDown);
+    EXPECT_EQ(box->Text(), "c");
+    EXPECT_EQ(grid->Row(), 1);
+    robot.Key(key::kReturn);
+  });
+}
+
+TEST_F(ProductSearch, FindsByBarCode) {
+  store->Execute(
+      "INSERT INTO Referencias VALUES ('8412345678905', 'cre01'), ('8412345000001', 'CRE01'), "
+      "('8499999999999', 'LAC01')");
+  EXPECT_EQ(Search("Codigo", "8412345678905",
+                   [this](Form& form) {
+                     EXPECT_EQ(Shown(), Codes{"CRE01"});
+                     EXPECT_EQ(grid->Cols(), 2);
+                     Accept(form);
+                   }),
+            "CRE01");
+  Search("Codigo", "84", [this](Form& form) {
+    EXPECT_EQ(Shown(), (Codes{"CRE01", "LAC01"}));
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, HomeAndEndGoToTheFirstAndTheLastRow) {
+  Search("Codigo", "", [this](Form& form) {
+    Robot robot(form);
+    robot.ClickCell(*grid, 2, 1);
+    robot.Key(key::kEnd);
+    EXPECT_EQ(grid->Row(), 5);
+    robot.Key(key::kHome);
+    EXPECT_EQ(grid->Row(), 1);
+    box->SetFocus();
+    robot.Key(key::kEnd, shift_mask::kControl);
+    EXPECT_EQ(grid->Row(), 5);
+    robot.Key(key::kHome);
+    EXPECT_EQ(grid->Row(), 5) << "in the box it is the caret's";
+    Cancel(form);
+  });
+}
+
+TEST_F(ProductSearch, OneRowIsChosenByWhateverMeans) {
+  const std::string code = Search("Codigo", "", [this](Form& form) {
+    Robot robot(form);
+    robot.ClickCell(*grid, 2, 1);
+    EXPECT_EQ(RowsPaintedAsChosen(form), std::vector<int>{2});
+    robot.ClickCell(*grid, 0, 1);
+    EXPECT_EQ(RowsPaintedAsChosen(form), std::vector<int>{2}) << "a press on a title";
+    robot.Key(key::kDown, shift_mask::kShift);
+    EXPECT_EQ(RowsPaintedAsChosen(form), std::vector<int>{3}) << "Shift and an arrow";
+    robot.Key(key::kRight, shift_mask::kShift);
+    EXPECT_EQ(RowsPaintedAsChosen(form), std::vector<int>{3}) << "Shift to the side";
+    const Point from = robot.CellPosition(*grid, 2, 0);
+    robot.Press(from);
+    form.MouseMove(robot.CellPosition(*grid, 4, 1), mouse_button::kLeft, 0);
+    EXPECT_EQ(RowsPaintedAsChosen(form), std::vector<int>{4}) << "a drag";
+    form.MouseMove({from.x, grid->Bounds().Bottom() + 1500}, mouse_button::kLeft, 0);
+    EXPECT_EQ(RowsPaintedAsChosen(form), std::vector<int>{5}) << "a drag beyond the edge";
+    robot.Release(robot.CellPosition(*grid, 5, 1));
+    form.MouseMove(from, 0, 0);
+    EXPECT_EQ(RowsPaintedAsChosen(form), std::vector<int>{5}) << "the mouse alone";
     Accept(form);
   });
   EXPECT_EQ(code, "PEI01");
@@ -194,11 +357,12 @@ TEST_F(ProductSearch, ShowsThousandsOfProductsAtOnceAndSaysHowMany) {
 }
 
 TEST_F(ProductSearch, FitsAndStandsInTheMiddleOfAnyScreen) {
+  host.SetTakenByFrames(16, 48);
   for (const auto& [width, height] : {std::pair{640, 480}, std::pair{1280, 800}}) {
     host.SetScreen(width, height);
     Search("Codigo", "", [this](Form& form) {
-      EXPECT_LE(form.Width(), host.ScreenWidth());
-      EXPECT_LE(form.Height(), host.ScreenHeight());
+      EXPECT_LE(form.Width(), host.ScreenWidth() - 16 * kTwipsPerPixel);
+      EXPECT_LE(form.Height(), host.ScreenHeight() - 48 * kTwipsPerPixel);
       EXPECT_DOUBLE_EQ(form.Left(), (host.ScreenWidth() - form.Width()) / 2);
       EXPECT_DOUBLE_EQ(form.Top(), (host.ScreenHeight() - form.Height()) / 2);
       for (Control* control : form.Controls()) {

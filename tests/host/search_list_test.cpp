@@ -57,6 +57,15 @@ TEST(SearchList, SearchesOnlyTheFieldsNamed) {
   EXPECT_EQ(Found("cre02 facial", {0, 1}), Codes{"CRE02"});
 }
 
+TEST(SearchList, ACellOfSeveralLinesBeginsWithEachAndIsNamedByEach) {
+  const SearchList list({{{"A", "x 84"}, 0}, {{"B", "81\n84"}, 0}, {{"C", "840"}, 0}}, 0);
+  EXPECT_EQ(list.Narrow("84", {1}), (std::vector<std::size_t>{1, 2, 0}));
+  EXPECT_EQ(list.NamedBy(" 84 ", {1}), std::vector<std::size_t>{1});
+  EXPECT_EQ(list.NamedBy("b", {0, 1}), std::vector<std::size_t>{1});
+  EXPECT_TRUE(list.NamedBy("", {0, 1}).empty());
+  EXPECT_TRUE(list.NamedBy("8%", {1}).empty());
+}
+
 TEST(SearchList, UnderstandsTheWildcardsOfTheStatements) {
   EXPECT_EQ(Found("CR%1", {0}), Codes{"CRE01"});
   EXPECT_EQ(Found("c_e0_", {0}), (Codes{"CRE01", "CRE02"}));

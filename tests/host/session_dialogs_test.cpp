@@ -197,6 +197,29 @@ TEST_F(SessionChange, ChoosesABranchWithTheArrows) {
   EXPECT_EQ(branch, "03");
 }
 
+TEST_F(SessionChange, HomeAndEndGoToTheFirstAndTheLastBranch) {
+  Open([](Form& form) {
+    Robot robot(form);
+    robot.Key(key::kEnd);
+    EXPECT_EQ(GridOf(form, "MSFSucursales").Row(), 3);
+    robot.Key(key::kHome);
+    EXPECT_EQ(GridOf(form, "MSFSucursales").Row(), 1);
+    robot.Key(key::kDown, shift_mask::kShift);
+    robot.Key(key::kReturn);
+  });
+  EXPECT_EQ(branch, "02");
+}
+
+TEST_F(SessionChange, FitsASmallScreenWithItsFrame) {
+  host.SetScreen(640, 480);
+  host.SetTakenByFrames(16, 80);
+  Open([](Form& form) {
+    EXPECT_DOUBLE_EQ(form.Height(), 400 * kTwipsPerPixel);
+    for (Control* control : form.Controls()) EXPECT_LE(control->Bounds().Bottom(), form.Height());
+    Robot(form).Key(key::kEscape);
+  });
+}
+
 TEST_F(SessionChange, CancelledItChangesNothing) {
   context.puesto = "99";
   const std::int32_t result = Open([](Form& form) {

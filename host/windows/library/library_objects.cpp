@@ -1,9 +1,9 @@
 #include "host/windows/library/library_objects.h"
 
-#include "host/quantity_filter.h"
 #include "host/windows/library/in_out.h"
 #include "host/windows/library/library_state.h"
 #include "host/windows/library/object_property.h"
+#include "platform/base/text.h"
 
 namespace orvendal {
 
@@ -20,9 +20,16 @@ HRESULT ToolsObject::FiltrarTecla(IDispatch** caja, SHORT* key_ascii, VARIANT_BO
     const EditedText text{TextProperty(box.Get(), L"Text"),
                           static_cast<int>(LongProperty(box.Get(), L"SelStart")),
                           static_cast<int>(LongProperty(box.Get(), L"SelLength"))};
-    const QuantityKey filtered =
-        FilterQuantityKey(text, *key_ascii, LibraryState::Of().Windows(), *opcion != VARIANT_FALSE);
+    Win32WindowHost& windows = LibraryState::Of().Windows();
+    // The key came to a window of the host's.
+    windows.InputTime(static_cast<DWORD>(GetMessageTime()));
+    const QuantityKey filtered = quantity_filter_.Filter(text, *key_ascii, windows, *opcion != VARIANT_FALSE);
     if (filtered.instead) SetTextProperty(box.Get(), L"SelText", *filtered.instead);
+    if (filtered.shown) SetTextProperty(box.Get(), L"Text", *filtered.shown);
+    if (filtered.select_all) {
+      SetLongProperty(box.Get(), L"SelStart", 0);
+      SetLongProperty(box.Get(), L"SelLength", static_cast<LONG>(Len(TextProperty(box.Get(), L"Text"))));
+    }
     *tecla = static_cast<SHORT>(filtered.key);
   });
 }

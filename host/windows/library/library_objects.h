@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DllTrevano.h"
+#include "host/quantity_filter.h"
 #include "host/windows/library/dual_object.h"
 #include "platform/library/library.h"
 
@@ -32,6 +33,9 @@ class ToolsObject final : public DualObject<_Herramientas> {
   HRESULT STDMETHODCALLTYPE RegistrarSentencia(BSTR* cadena_sesion, IDispatch** conexion,
                                                BSTR* sentencia) noexcept override;
   HRESULT STDMETHODCALLTYPE FechaHoraTexto(DATE* momento, BSTR* texto) noexcept override;
+
+ private:
+  QuantityFilter quantity_filter_;
 };
 
 class RecalculationObject final : public DualObject<_Recalculo> {

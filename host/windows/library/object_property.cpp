@@ -35,6 +35,12 @@ void Get(IDispatch* object, const wchar_t* name, Variant& value) {
   Invoke(object, MemberOf(object, name), DISPATCH_PROPERTYGET, none, value.Address());
 }
 
+void Put(IDispatch* object, const wchar_t* name, Variant& value) {
+  DISPID put = DISPID_PROPERTYPUT;
+  DISPPARAMS one{value.Address(), &put, 1, 1};
+  Invoke(object, MemberOf(object, name), DISPATCH_PROPERTYPUT, one, nullptr);
+}
+
 }  // namespace
 
 std::string TextProperty(IDispatch* object, const wchar_t* name) {
@@ -60,9 +66,13 @@ LONG LongProperty(IDispatch* object, const wchar_t* name) {
 void SetTextProperty(IDispatch* object, const wchar_t* name, const std::string& text) {
   Variant value;
   WriteText(*value.Address(), text);
-  DISPID put = DISPID_PROPERTYPUT;
-  DISPPARAMS one{value.Address(), &put, 1, 1};
-  Invoke(object, MemberOf(object, name), DISPATCH_PROPERTYPUT, one, nullptr);
+  Put(object, name, value);
+}
+
+void SetLongProperty(IDispatch* object, const wchar_t* name, LONG number) {
+  Variant value;
+  WriteLong(*value.Address(), number);
+  Put(object, name, value);
 }
 
 }  // namespace orvendal

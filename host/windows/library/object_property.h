@@ -11,5 +11,6 @@ namespace orvendal {
 std::string TextProperty(IDispatch* object, const wchar_t* name);
 LONG LongProperty(IDispatch* object, const wchar_t* name);
 void SetTextProperty(IDispatch* object, const wchar_t* name, const std::string& text);
+void SetLongProperty(IDispatch* object, const wchar_t* name, LONG number);
 
 }  // namespace orvendal

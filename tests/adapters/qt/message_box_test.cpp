@@ -7,6 +7,13 @@
 namespace orvendal {
 namespace {
 
+class BeepingHost final : public QtWindowHost {
+ public:
+  explicit BeepingHost(Clock& clock) : QtWindowHost(Region::Spanish(), clock) {}
+  void Beep() override { ++beeps; }
+  int beeps = 0;
+};
+
 class MessageBoxes : public QtFormTest {
  protected:
   // Shows a box, has `act` do something to it, and gives the answer.
@@ -30,6 +37,20 @@ class MessageBoxes : public QtFormTest {
       QWidget* focused = box.focusWidget() != nullptr ? box.focusWidget() : &box;
       QTest::keyClick(focused, key, modifiers);
     };
+  }
+  static void Send(QMessageBox& box, QEvent::Type type, int key, const QString& text, quint64 time) {
+    QKeyEvent event(type, key, {}, text);
+    event.setTimestamp(time);
+    QApplication::sendEvent(box.focusWidget() != nullptr ? box.focusWidget() : &box, &event);
+  }
+  // A code and its Enter, ten milliseconds from key to key, as a reader sends them.
+  static void Scan(QMessageBox& box, const QString& code, quint64 time) {
+    for (const QChar character : code + "\r") {
+      const int key = character == '\r' ? int(Qt::Key_Return) : int(character.toUpper().unicode());
+      Send(box, QEvent::KeyPress, key, character, time);
+      Send(box, QEvent::KeyRelease, key, character, time + 2);
+      time += 10;
+    }
   }
   static std::function<void(QMessageBox&)> Press(const QString& caption) {
     return [=](QMessageBox& box) {
@@ -71,11 +92,89 @@ TEST_F(MessageBoxes, TheDefaultHasTheKeyboardAlthoughTheTextCanBeSelected) {
   });
 }
 
-TEST_F(MessageBoxes, TheLetterOfAButtonPressesIt) {
+TEST_F(MessageBoxes, TheLetterOfAButtonPressesItWithAlt) {
   EXPECT_EQ(Answer(35, Key(Qt::Key_S, Qt::AltModifier)), 6);
   EXPECT_EQ(Answer(35, Key(Qt::Key_N, Qt::AltModifier)), 7);
   EXPECT_EQ(Answer(35, Key(Qt::Key_C, Qt::AltModifier)), 2);
-  EXPECT_EQ(Answer(35, Key(Qt::Key_N)), 7);
+}
+
+TEST_F(MessageBoxes, ALetterAloneIsNoAnswer) {
+  for (const Qt::Key letter : {Qt::Key_N, Qt::Key_S, Qt::Key_C}) {
+    EXPECT_EQ(Answer(35,
+                     [=](QMessageBox& box) {
+                       QTest::keyClick(box.focusWidget(), letter);
+                       QApplication::processEvents();
+                       EXPECT_TRUE(box.isVisible());
+                       QTest::keyClick(&box, letter);
+                       QApplication::processEvents();
+                       EXPECT_TRUE(box.isVisible());
+                       box.reject();
+                     }),
+              2);
+  }
+}
+
+TEST_F(MessageBoxes, AScannedCodeAnswersNothingAndBeeps) {
+  BeepingHost desktop(clock);
+  for (const int style : {16, 35, 36, 64}) {
+    desktop.beeps = 0;
+    InNextDialog([&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      Scan(*box, "N0123S4C", 1000);
+      QApplication::processEvents();
+      EXPECT_TRUE(box->isVisible()) << style;
+      EXPECT_EQ(desktop.beeps, 1);
+      box->reject();
+    });
+    desktop.ShowMessage("Atención", style, "");
+  }
+}
+
+TEST_F(MessageBoxes, AfterAScanTheEnterOfAHandAnswers) {
+  EXPECT_EQ(Answer(35,
+                   [](QMessageBox& box) {
+                     Scan(box, "8412345678905", 1000);
+                     EXPECT_TRUE(box.isVisible());
+                     Send(box, QEvent::KeyPress, Qt::Key_Return, "\r", 2000);
+                   }),
+            6);
+}
+
+TEST_F(MessageBoxes, AnEnterAfterTwoQuickCharactersIsAHands) {
+  EXPECT_EQ(Answer(35, [](QMessageBox& box) { Scan(box, "12", 1000); }), 6);
+}
+
+TEST_F(MessageBoxes, AScanThatBeganBeforeTheBoxCameUpAnswersNothing) {
+  ShowForm();
+  int answer = 0;
+  form->box.OnKeyPress = [&](int&) {
+    form->box.OnKeyPress = nullptr;
+    answer = Answer(35, [](QMessageBox& box) {
+      Send(box, QEvent::KeyPress, Qt::Key_2, "2", 1010);
+      Send(box, QEvent::KeyPress, Qt::Key_3, "3", 1020);
+      Send(box, QEvent::KeyPress, Qt::Key_Return, "\r", 1030);
+      QApplication::processEvents();
+      EXPECT_TRUE(box.isVisible());
+      box.reject();
+    });
+  };
+  QKeyEvent first(QEvent::KeyPress, Qt::Key_1, {}, "1");
+  first.setTimestamp(1000);
+  QApplication::sendEvent(Window(), &first);
+  EXPECT_EQ(answer, 2);
+}
+
+TEST_F(MessageBoxes, ABlankInACodePressesNoButtonAndALoneOneDoes) {
+  EXPECT_EQ(Answer(35,
+                   [](QMessageBox& box) {
+                     Scan(box, " 12 34", 1000);
+                     QTest::qWait(120);  // longer than it is held back
+                     EXPECT_TRUE(box.isVisible());
+                     box.reject();
+                   }),
+            2);
+  EXPECT_EQ(Answer(35, Key(Qt::Key_Space)), 6);
 }
 
 TEST_F(MessageBoxes, ClosingTheBoxCancels) {

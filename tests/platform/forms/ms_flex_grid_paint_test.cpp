@@ -210,6 +210,27 @@ TEST_F(GridPaintTest, TheSelectedRangeShowsExceptTheCurrentCell) {
   EXPECT_EQ(BackOf(4, 3), RgbOf(0xD3E8E9));
 }
 
+TEST_F(GridPaintTest, WithoutHighLightTheSelectedRangeDoesNotShow) {
+  Grid().BackColorSel(0xFFC0C0);
+  Grid().BackColor(0xD3E8E9);
+  Grid().HighLight(false);
+  Press(MiddleOf(2, 0));
+  Drag(MiddleOf(4, 1));
+  EXPECT_EQ(Grid().RowSel(), 4);
+  EXPECT_EQ(BackOf(2, 1), RgbOf(0xD3E8E9));
+  EXPECT_EQ(BackOf(4, 0), RgbOf(0xD3E8E9));
+}
+
+TEST_F(GridPaintTest, WithoutBigSelectionAPressOnATitleDoesNothing) {
+  Grid().AllowBigSelection(false);
+  Click(MiddleOf(5, 1));
+  TakeLog();
+  Click(MiddleOf(0, 1));
+  EXPECT_EQ(Cursor(), "5,1");
+  EXPECT_EQ(Grid().RowSel(), 5);
+  EXPECT_TRUE(TakeLog().empty());
+}
+
 TEST_F(GridPaintTest, AFocusFrameMarksTheCurrentCellOfTheFocusedGrid) {
   const auto frames = [this] {
     std::vector<Rect> found;

@@ -55,6 +55,31 @@ TEST_F(OptionButtonTest, CodeAndTheBlankKeyRaiseClickOnANewChoiceOnly) {
   EXPECT_EQ(log, "first second ");
 }
 
+TEST_F(OptionButtonTest, TheArrowsTakeFocusAndMarkToTheNeighbourOfTheGroup) {
+  first.Value(true);
+  first.SetFocus();
+  log.clear();
+  stage.Key(key::kRight);
+  EXPECT_TRUE(second.Value());
+  EXPECT_TRUE(second.HasFocus());
+  stage.Key(key::kDown);
+  EXPECT_TRUE(first.Value());
+  stage.Key(key::kUp);
+  EXPECT_TRUE(second.Value());
+  stage.Key(key::kLeft);
+  EXPECT_TRUE(first.HasFocus());
+  EXPECT_FALSE(elsewhere.Value());
+  EXPECT_EQ(log, "second first second first ");
+}
+
+TEST_F(OptionButtonTest, TheArrowsPassByAChoiceThatIsNotOffered) {
+  first.SetFocus();
+  second.Enabled(false);
+  stage.Key(key::kRight);
+  EXPECT_TRUE(first.HasFocus());
+  EXPECT_FALSE(second.Value());
+}
+
 TEST_F(OptionButtonTest, TheChosenOneShowsItsMark) {
   first.Caption("Tarde");
   RecordingCanvas plain;
