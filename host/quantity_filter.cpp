@@ -79,6 +79,10 @@ QuantityKey FilterPaste(const EditedText& box, WindowHost& host, bool decimals) 
   return {0, trimmed, {}};
 }
 
+bool IsLetter(int key_ascii) {
+  return (key_ascii >= 'A' && key_ascii <= 'Z') || (key_ascii >= 'a' && key_ascii <= 'z');
+}
+
 bool IsControlKey(int key_ascii) {
   constexpr int kFirstPrintable = 32;
   constexpr int kDeleteWord = 127;
@@ -98,7 +102,7 @@ QuantityKey QuantityFilter::Filter(const EditedText& box, int key_ascii, WindowH
   if (key_ascii == character::kEnter && run_.IsReaderAt(now) && box.text == expected_) {
     run_.Add(static_cast<char32_t>(key_ascii), now);
     if (refusing_) return {};
-    if (has_foreign_) return PutBack(host);
+    if (has_letter_) return PutBack(host);
   }
   if (!IsControlKey(key_ascii)) return FilterCharacter(box, key_ascii, host, decimals);
   run_.Add(static_cast<char32_t>(key_ascii), now);
@@ -116,7 +120,7 @@ QuantityKey QuantityFilter::FilterCharacter(const EditedText& box, int key_ascii
   run_.Add(static_cast<char32_t>(key_ascii), now);
   if (run_.Length() == 1) {
     before_run_ = expected_ = box.text;
-    refusing_ = has_foreign_ = false;
+    refusing_ = has_letter_ = false;
   }
   if (refusing_) return {};
 
@@ -124,7 +128,7 @@ QuantityKey QuantityFilter::FilterCharacter(const EditedText& box, int key_ascii
   const int key = key_ascii == '.' ? region.DecimalMark() : key_ascii;
   const bool is_digit = key >= '0' && key <= '9';
   if (!is_digit && key != region.DecimalMark()) {
-    has_foreign_ = true;
+    has_letter_ = has_letter_ || IsLetter(key_ascii);
     return {};
   }
   const std::string result = TextWith(box, std::string(1, static_cast<char>(key)));

@@ -54,7 +54,7 @@ class QuantityFilter {
   std::string before_run_;  // what the box showed when the run began
   std::string expected_;    // what it shows if nobody but this filter's keys changed it
   bool refusing_ = false;
-  bool has_foreign_ = false;  // the run holds a character that no quantity has
+  bool has_letter_ = false;  // the run is a code rather than a number
 };
 
 }  // namespace orvendal

@@ -142,6 +142,8 @@ TEST_F(QuantityFilter, ACodeWithLettersScannedIntoTheBoxGivesBackWhatItShowed) {
 TEST_F(QuantityFilter, AQuantityThatIsTypedFastIsConfirmed) {
   EXPECT_EQ(Typed("12", 0, 2, "1234567\n"), "1234567");
   EXPECT_EQ(form->answers.back(), character::kEnter);
+  EXPECT_EQ(Typed("12", 0, 2, "1.2,5+\n"), "1,25");
+  EXPECT_EQ(form->answers.back(), character::kEnter);
   EXPECT_EQ(host.Beeps(), 0);
 }
 
