@@ -37,8 +37,9 @@ void ShowBox(const std::string& sentence, const Words& words, const char* progra
     application = std::make_unique<QApplication>(argument_count, arguments);
     QApplication::setWindowIcon(ProgramIcon());
   }
+  KeyRun keys;
   RunMessageBox(nullptr, QString::fromStdString(sentence), message_style::kStop, QStringLiteral("Orvendal"),
-                CaptionsOf(words));
+                CaptionsOf(words), keys, [] { QApplication::beep(); });
 }
 
 }  // namespace
