@@ -112,6 +112,21 @@ TEST_F(Program, AMistypedStoreIsToldAndNotMade) {
   EXPECT_FALSE(std::filesystem::exists(folder / "p.png"));
 }
 
+TEST_F(Program, WhatTheStoreHoldsIsNeverObeyedByTheTerminal) {
+  std::ofstream(folder / "a.guion")
+      << "sql \"UPDATE Productos SET Descripcion = 'rojo' || char(27) || '[31m'\"\n";
+  const std::string store = " --db '" + (folder / "x.db") + "'";
+  ASSERT_EQ(Run("guion '" + (folder / "a.guion") + "' --crear" + store), 0) << errors;
+  // The script's clock has made the counts of a day of its own; the screen shows today's.
+  std::ofstream(folder / "b.guion")
+      << "sql \"UPDATE HistOrvendalcial SET Fecha = date('now', 'localtime') || ' 00:00:00' WHERE Fecha = "
+         "(SELECT max(Fecha) FROM HistOrvendalcial)\"\n";
+  ASSERT_EQ(Run("guion '" + (folder / "b.guion") + "'" + store), 0) << errors;
+  ASSERT_EQ(Run("--captura '" + (folder / "p.png") + "'" + store), 0) << errors;
+  EXPECT_NE(output.find("\trojo\\x1b[31m\t"), std::string::npos) << output;
+  EXPECT_EQ(output.find('\x1b'), std::string::npos);
+}
+
 TEST_F(Program, LinesThatNobodyGetsAreToldWithExitCodeOne) {
   EXPECT_EQ(Run("--captura '" + (folder / "p.png") + "' >/dev/full"), 1);
   EXPECT_TRUE(errors.ends_with("\norvendal: No se puede escribir en la salida del programa.\n")) << errors;
