@@ -95,7 +95,8 @@ TEST_F(ScriptProgram, APictureNeverReplacesAFileNorLeavesTheFolders) {
   Write("aqui/hay.png", "intacta");
   std::filesystem::create_symlink("..", folder / "aqui/fuera");
   std::filesystem::create_symlink("../nueva.png", folder / "aqui/enlace.png");
-  const std::string script = "'" + (folder / "guiones/a.guion") + "'";
+  const std::string script =
+      "'" + (folder / "guiones/a.guion") + "' --crear --db '" + (folder / "x.db") + "'";
   for (const std::string& name :
        {std::string("hay.png"), folder / "victima.png", std::string("../victima.png"),
         std::string("fuera/victima.png"), std::string("../nueva.png"), std::string("fuera/nueva.png"),
