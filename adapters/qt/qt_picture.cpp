@@ -1,5 +1,8 @@
 #include "adapters/qt/qt_picture.h"
 
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <algorithm>
 
@@ -7,6 +10,22 @@
 #include "platform/forms/form.h"
 
 namespace orvendal {
+namespace {
+
+// The writer of pictures does not hear of what a disk refuses at the end, and talks to standard error.
+bool WritePng(const QImage& image, const QString& path) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG")) return false;
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
+  if (file.write(bytes) == bytes.size() && file.flush()) return true;
+  // Half a picture is none. A device stays where it is.
+  if (QFileInfo(path).isFile()) file.remove();
+  return false;
+}
+
+}  // namespace
 
 QImage RenderForm(Form& form, QtFonts& fonts, double scale) {
   const double pixels_per_twip = scale / kTwipsPerPixel;
@@ -26,7 +45,7 @@ QImage RenderForm(Form& form, double scale) {
 }
 
 bool SavePng(Form& form, const std::string& path, double scale) {
-  return RenderForm(form, scale).save(QString::fromStdString(path), "PNG");
+  return WritePng(RenderForm(form, scale), QString::fromStdString(path));
 }
 
 }  // namespace orvendal

@@ -118,6 +118,13 @@ TEST_F(ScriptProgram, APictureNeverReplacesAFileNorLeavesTheFolders) {
   }
 }
 
+TEST_F(ScriptProgram, APictureThatTheDiskDoesNotTakeIsToldAndLeavesNothing) {
+  Write("a.guion", "orvendal 01 1 1\ncaptura p.png\n");
+  EXPECT_EQ(RunAfter("ulimit -f 4 && ", "guion a.guion"), 2);
+  EXPECT_EQ(errors, "línea 2: no se puede escribir la imagen p.png\n");
+  EXPECT_FALSE(std::filesystem::exists(folder / "p.png"));
+}
+
 TEST_F(ScriptProgram, WhatCannotBeShownStopsItWithOneLine) {
   Write("a.guion", "sql \"SELECT 1\"\nsql \"SELECT 2\"\n");
   EXPECT_EQ(Run("guion a.guion >/dev/full"), 2);
