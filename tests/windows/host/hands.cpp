@@ -71,6 +71,7 @@ std::wstring UseScreen(const std::vector<std::wstring>& commands) {
       if (command == L"double") Press(window, WM_LBUTTONDBLCLK, place);
     } else if (command == L"type") {
       for (const wchar_t character : next()) PostMessageW(window, WM_CHAR, character, 1);
+      Settle(window);  // a key that came close behind would be taken for a bar-code reader's
     } else if (command == L"key") {
       Key(window, next() == L"escape" ? VK_ESCAPE : VK_RETURN);
     } else if (command == L"close") {
