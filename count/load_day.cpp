@@ -22,30 +22,38 @@ constexpr std::array<const char*, column::kCount> kFields = {"IdProducto",  "Des
 
 void FrmOrvendalciales::CargarExistencias() {
   const std::string condition = DateConditionOfLoad(Session().Conexion, Calendario.Value(), UserRegion());
-  {
+  try {
     const FlagScope loading(variables.CargandoLineas);
-    MSFProductos.Rows(kFloorRows);
-    MSFProductos1.Rows(1);
-    const RecordsetRef lines = NewRecordset();
-    statements::OpenForReading(*lines, statements::LinesOfDay(Session().ClaveSucursal(), condition),
-                               Session().Conexion);
-    int row = 1;
-    for (; !lines->AtEnd(); ++row) {
-      if (row > MSFProductos.Rows() - 1) MSFProductos.AddItem("");
-      WriteLoadedRow(row, *lines);
-      MSFProductos.Row(row);  // the row events colour the line
-      if (!MSFProductos.RowIsVisible(row)) MSFProductos.TopRow(MSFProductos.Rows() - kFloorLines);
-      lines->MoveNext();
-    }
-    // A free row stands after the last line.
-    if (row - 1 == MSFProductos.Rows() - 1) MSFProductos.AddItem("");
-    for (; row < kFloorRows; ++row) {
-      for (int column = 0; column < MSFProductos.Cols(); ++column) MSFProductos.TextMatrix(row, column, "");
-    }
-    if (MSFProductos.TextMatrix(1, column::kCode).empty()) MSFProductos.Row(1);
-    if (lines->State() == kStateOpen) lines->Close();
+    LoadLines(condition);
+  } catch (const RuntimeError&) {
+    // A load that stopped after it had cut the grid may have taken the cell away from under the editor.
+    if (!EditorIsInPlace()) PlaceEditorAnew();
+    throw;
   }
   PlaceEditorAnew();  // an editor that stayed open shows what its cell holds now
+}
+
+void FrmOrvendalciales::LoadLines(const std::string& condition) {
+  MSFProductos.Rows(kFloorRows);
+  MSFProductos1.Rows(1);
+  const RecordsetRef lines = NewRecordset();
+  statements::OpenForReading(*lines, statements::LinesOfDay(Session().ClaveSucursal(), condition),
+                             Session().Conexion);
+  int row = 1;
+  for (; !lines->AtEnd(); ++row) {
+    if (row > MSFProductos.Rows() - 1) MSFProductos.AddItem("");
+    WriteLoadedRow(row, *lines);
+    MSFProductos.Row(row);  // the row events colour the line
+    if (!MSFProductos.RowIsVisible(row)) MSFProductos.TopRow(MSFProductos.Rows() - kFloorLines);
+    lines->MoveNext();
+  }
+  // A free row stands after the last line.
+  if (row - 1 == MSFProductos.Rows() - 1) MSFProductos.AddItem("");
+  for (; row < kFloorRows; ++row) {
+    for (int column = 0; column < MSFProductos.Cols(); ++column) MSFProductos.TextMatrix(row, column, "");
+  }
+  if (MSFProductos.TextMatrix(1, column::kCode).empty()) MSFProductos.Row(1);
+  if (lines->State() == kStateOpen) lines->Close();
 }
 
 // The same nine values go to the line and, joined by tabs, to the snapshot.

@@ -24,6 +24,7 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
   // The day of a save is the text that the screen shows: during a change of date the calendar is ahead of the
   // lines.
   const std::string condition = DateConditionOfSave(Session().Conexion, MkFecha.Text(), UserRegion());
+  CheckQuantities();
   CodigosaRecalcular.Clear();
   const RecordsetRef rows = RsCodigosEnUso();
   if (rows->State() == kStateOpen) rows->Close();
@@ -48,6 +49,26 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
     TxtCodigo.Text("");
   }
   CargarExistencias();
+}
+
+// A quantity that the store's number cannot take ends the save with the error of its assignment, which would
+// come after the delete: too late for the lines that follow. The editor opens over the quantity of that line.
+void FrmOrvendalciales::CheckQuantities() {
+  MSFlexGrid& grid = MSFProductos;
+  for (int row = 1; row <= grid.Rows() - 1 && !grid.TextMatrix(row, column::kCode).empty(); ++row) {
+    try {
+      for (const int checked : {column::kPreviousQuantity, column::kQuantity}) {
+        const std::string& text = grid.TextMatrix(row, checked);
+        if (!text.empty()) Session().Conexion->CheckNumber(text);  // an empty one is stored as 0
+      }
+    } catch (const RuntimeError&) {
+      grid.Row(row);
+      grid.Col(column::kQuantity);
+      int blank = ' ';
+      EntrarCelda(blank);
+      throw;
+    }
+  }
 }
 
 // One new row for each line; false after a refusal, see StoreRow.

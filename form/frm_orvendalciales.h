@@ -96,6 +96,8 @@ class FrmOrvendalciales final : public Form {
     bool FlagFechaCambio = false;
     std::uint8_t UltimaColumna = 0;
     bool CargandoLineas = false;  // a load runs: the open editor is not to write into the lines
+    int editor_row = 0;           // the cell over which the editor was placed last
+    int editor_column = 0;
   };
   Variables variables;
 
@@ -203,19 +205,23 @@ class FrmOrvendalciales final : public Form {
   void SelectEditorText();
   void PlaceEditorAnew();
   bool IsEditingQuantity();
+  bool EditorIsInPlace();
   void CommitQuantity();
   void RefuseBlankStylist();
   void ConfirmCell();
   void ConfirmQuantity();
   void FocusEditorOrGrid();
+  void WriteLine(Recordset& product, const std::string& code);
   std::string AbrirBuscador(const std::string& field, const std::string& text);
   std::string ChosenProduct();
   std::unique_ptr<SelectorEmpleado> AbrirSelector(bool para_nuevo);
   std::int32_t AskToSave();
+  void CheckQuantities();
   bool StoreLines(Recordset& rows);
   void FillRow(int row);
   bool StoreRow(int row);
   void RecalculateProducts();
+  void LoadLines(const std::string& condition);
   void WriteLoadedRow(int row, const Recordset& lines);
   void ShowNormalMode();
 

@@ -6,6 +6,8 @@ namespace orvendal {
 
 void FrmOrvendalciales::ColocarEditor() {
   if (MSFProductos.Col() == column::kPreviousQuantity) MSFProductos.Col(column::kQuantity);
+  variables.editor_row = MSFProductos.Row();
+  variables.editor_column = MSFProductos.Col();
   TxtMSF.Text(MSFProductos.Text());
   TxtMSF.Top(MSFProductos.Top() + MSFProductos.CellTop() - 10);
   TxtMSF.Left(MSFProductos.Left() + MSFProductos.CellLeft() - 10);
@@ -40,7 +42,13 @@ bool FrmOrvendalciales::IsEditingQuantity() {
   return MSFProductos.Col() == column::kQuantity && TxtMSF.Visible();
 }
 
+bool FrmOrvendalciales::EditorIsInPlace() {
+  return MSFProductos.Row() == variables.editor_row && MSFProductos.Col() == variables.editor_column;
+}
+
+// A cell that the cursor only passes takes nothing: what the editor shows was never typed over it.
 void FrmOrvendalciales::CommitQuantity() {
+  if (!EditorIsInPlace()) return;
   MSFProductos.TextMatrix(MSFProductos.Row(), column::kQuantity, TxtMSF.Text());
 }
 

@@ -59,10 +59,8 @@ bool FrmOrvendalciales::ProductoRepetido(const std::string& Codigo) {
 }
 
 bool FrmOrvendalciales::CargarLinea(const std::string& Codigo) {
-  MSFlexGrid& grid = MSFProductos;
-  const int row = grid.Row();
   // A line is not loaded twice with the same product.
-  if (Codigo == grid.TextMatrix(row, column::kStoredCode)) return false;
+  if (Codigo == MSFProductos.TextMatrix(MSFProductos.Row(), column::kStoredCode)) return false;
   RecordsetRef product = NewRecordset();
   statements::OpenForReading(*product, statements::DescriptionOf(Codigo), Session().Conexion);
   if (product->AtEnd()) {
@@ -70,25 +68,38 @@ bool FrmOrvendalciales::CargarLinea(const std::string& Codigo) {
     product.reset();
     return false;
   }
-  TxtMSF.Text(Codigo);
-  grid.TextMatrix(row, column::kCode, Codigo);
-  grid.TextMatrix(row, column::kDescription, TextOf(product->Fields("Descripcion").Value()));
-  product->Close();
+  try {
+    WriteLine(*product, Codigo);
+  } catch (const RuntimeError&) {
+    // The editor holds the code, which would become the quantity as soon as the cursor left that cell.
+    PlaceEditorAnew();
+    throw;
+  }
+  product.reset();
+  return true;
+}
 
-  statements::OpenForReading(*product, statements::StockOf(Session().ClaveSucursal(), Codigo),
+// `product` holds the description and is used again for the stock. An error leaves the line half written.
+void FrmOrvendalciales::WriteLine(Recordset& product, const std::string& code) {
+  MSFlexGrid& grid = MSFProductos;
+  const int row = grid.Row();
+  TxtMSF.Text(code);
+  grid.TextMatrix(row, column::kCode, code);
+  grid.TextMatrix(row, column::kDescription, TextOf(product.Fields("Descripcion").Value()));
+  product.Close();
+
+  statements::OpenForReading(product, statements::StockOf(Session().ClaveSucursal(), code),
                              Session().Conexion);
   std::int32_t stock = 0;
-  if (!product->AtEnd()) stock = UserRegion().ToLong(product->Fields("Stock").Value());
+  if (!product.AtEnd()) stock = UserRegion().ToLong(product.Fields("Stock").Value());
   const std::string stock_text = TextOf(stock);
   grid.TextMatrix(row, column::kPreviousQuantity, stock_text);
   grid.TextMatrix(row, column::kQuantity, stock_text);
   grid.TextMatrix(row, column::kDate, TextOf(Calendario.Value()));
   grid.TextMatrix(row, column::kEmployeeCode, TxtCodigo.Text());
   grid.TextMatrix(row, column::kStylist, TxtEmpleado.Text());
-  grid.TextMatrix(row, column::kStoredCode, Codigo);
-  product->Close();
-  product.reset();
-  return true;
+  grid.TextMatrix(row, column::kStoredCode, code);
+  product.Close();
 }
 
 void FrmOrvendalciales::LblBuscar_Click(int /*Index*/) {

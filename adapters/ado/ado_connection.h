@@ -16,6 +16,7 @@ class AdoConnection final : public Connection {
   static ComPtr<Connection15> InterfaceOf(IUnknown* object);
 
   std::string Provider() const override;
+  void CheckNumber(const std::string& text) const override;
   /// Borrowed.
   IDispatch* Object() const { return object_.Get(); }
 

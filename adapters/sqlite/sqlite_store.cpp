@@ -65,6 +65,10 @@ std::string SqliteConnection::Provider() const {
   return dialect_ == Dialect::kSqlServer ? "SQLOLEDB.1" : "Microsoft.Jet.OLEDB.4.0";
 }
 
+void SqliteConnection::CheckNumber(const std::string& text) const {
+  sqlite::ConvertForColumn(text, {sqlite::ColumnKind::kNumber, false, 0}, region_);
+}
+
 void SqliteConnection::Close() {
   if (database_ == nullptr) return;
   statements_->Close();

@@ -40,6 +40,7 @@ class SqliteConnection final : public Connection {
   ~SqliteConnection() override { Close(); }
 
   std::string Provider() const override;
+  void CheckNumber(const std::string& text) const override;
   Dialect GetDialect() const { return dialect_; }
   const Region& GetRegion() const { return region_; }
   const std::string& Path() const { return path_; }

@@ -4,6 +4,8 @@
 
 namespace orvendal {
 
+void Connection::CheckNumber(const std::string& /*text*/) const {}
+
 Value Field::Value() const {
   return recordset_->FieldValue(index_);
 }

@@ -23,6 +23,9 @@ class Connection {
   virtual ~Connection() = default;
   /// Name and version of the provider behind it, such as "SQLOLEDB.1".
   virtual std::string Provider() const = 0;
+  /// Raises what the assignment of `text` to a number field of this store raises, if it cannot be a number.
+  /// A store that cannot tell beforehand takes every text here.
+  virtual void CheckNumber(const std::string& text) const;
 };
 
 using ConnectionRef = std::shared_ptr<Connection>;

@@ -89,6 +89,21 @@ TEST_P(LoadDayFailureTest, AnEditorThatStayedOpenWritesItsQuantityAsEverAfterwar
   EXPECT_EQ(screen.Cell(2, kQuantity), "77");  // leaving the cell writes again as ever
 }
 
+TEST_P(LoadDayFailureTest, AnEditorWhoseLineWasCutAwayWritesItsQuantityIntoNoOtherLine) {
+  screen.AddCounts(30);
+  screen.Click("LblCancelar");
+  screen.DoubleClickCell(25, kQuantity);
+  screen.Type("77");
+  screen.recordsets.FailOpen(1, kStoreGone, "no responde");
+  EXPECT_THROW(screen.form().CargarExistencias(), RuntimeError);
+  const std::string last = screen.Cell(12, kQuantity);
+  EXPECT_EQ(Cursor(screen), "12,3");
+  EXPECT_EQ(EditorText(screen), last);
+  EXPECT_TRUE(EditorTextIsSelected(screen));
+  screen.ClickCell(1, kCode);
+  EXPECT_EQ(screen.Cell(12, kQuantity), last);
+}
+
 INSTANTIATE_TEST_SUITE_P(BothDialects, LoadDayFailureTest,
                          testing::Values(Dialect::kSqlServer, Dialect::kJet), DialectName);
 

@@ -134,6 +134,20 @@ TEST_F(NewCountTest, AnEmptyNameLeavesTheBoxEnabledAndStillEntersTheMode) {
   EXPECT_EQ(AvailableButtons(screen), kBotonesConLineas);
 }
 
+TEST_F(NewCountTest, AnEmptyNameLeavesTheBoxEnabledAlsoWhereTheGridHasTheFocusAndAsksNothing) {
+  screen.OpenWithStylist();
+  ASSERT_EQ(screen.Focused(), "MSFProductos");
+  screen.library.QueueEmployee({true, "E7", ""});
+  Forget(screen);
+  screen.Click("LblNuevo");
+  ExpectSupervisorMode();
+  EXPECT_EQ(form().TxtEmpleado.Text(), "");
+  EXPECT_EQ(form().TxtCodigo.Text(), "E7");
+  EXPECT_TRUE(form().TxtEmpleado.Enabled());
+  EXPECT_TRUE(TakeMessages(screen).empty());
+  EXPECT_EQ(screen.Focused(), "MSFProductos");
+}
+
 TEST_F(NewCountTest, TheGridHasTheFocusBeforeTheModeIsMarkedAndTheBarSet) {
   screen.OpenWithStylist();
   form().PicDatos.SetFocus();

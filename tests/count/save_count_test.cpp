@@ -147,6 +147,52 @@ TEST_P(SaveCountTest, MoreThanTwelveLinesAreSavedToTheLast) {
   EXPECT_EQ(Stored("P29", "StockActual"), "3");
 }
 
+TEST_P(SaveCountTest, TheLastGridRowIsSavedWithItsQuantityStillOpen) {
+  screen.OpenWithStylist();
+  for (int number = 10; number <= 20; ++number) screen.EnterLine("P" + std::to_string(number), "3");
+  screen.Type("P21\n9");
+  ASSERT_EQ(Cursor(screen), "12,3");
+  ASSERT_EQ(screen.form().MSFProductos.Rows(), 13);
+  screen.Click("LblGuardar");
+  EXPECT_EQ(StoredRows(), "12");
+  EXPECT_EQ(Stored("P21", "StockActual"), "9");
+}
+
+TEST_P(SaveCountTest, ABranchCodeOfFourCharactersIsCutForDeleteRowsAndRecalculation) {
+  screen.AddCount("P10", 1, 2);
+  screen.AddCount("P10", 1, 2, "E1", "2026-11-16", "02");
+  screen.OpenWithStylist("0145");
+  screen.EnterLine("P1", "5");
+  Forget(screen);
+  screen.Click("LblGuardar");
+  const Texts statements = TakeStatements(screen);
+  ASSERT_FALSE(statements.empty());
+  EXPECT_TRUE(statements[0].starts_with(
+      "DELETE FROM HistOrvendalcial WHERE (HistOrvendalcial.idSucursal Like '01') AND "))
+      << statements[0];
+  EXPECT_EQ(screen.Sql("SELECT GROUP_CONCAT(IdSucursal || ' ' || IdProducto || ' ' || ModificadoPor, ', ') "
+                       "FROM HistOrvendalcial"),
+            "02 P10 02, 01 P10 01, 01 P1 01");
+  EXPECT_EQ(TakeCalls(screen, "RecalculoGlobal"), (Texts{Recalculation("P10"), Recalculation("P1")}));
+  EXPECT_EQ(screen.state.session.CodSucursal, "0145");
+}
+
+TEST_P(SaveCountTest, ALineIsSavedOnItsOwnDayAndOneWithoutADayOnThatOfTheHiddenBox) {
+  screen.Open();
+  EnterSupervisorMode(screen);
+  PickDay(screen, Date(2026, 11, 13));
+  screen.EnterLine("P1", "5");
+  screen.EnterLine("P4", "6");
+  screen.EnterLine("P3", "7");
+  screen.form().MSFProductos.TextMatrix(1, kDay, "12/11/2026");
+  screen.form().MSFProductos.TextMatrix(2, kDay, "");
+  ASSERT_EQ(screen.form().MkFecha.Text(), "13/11/2026");
+  screen.Click("LblGuardar");
+  EXPECT_EQ(Stored("P1", "Fecha"), "2026-11-12 00:00:00");
+  EXPECT_EQ(Stored("P4", "Fecha"), "2026-11-16 00:00:00");
+  EXPECT_EQ(Stored("P3", "Fecha"), "2026-11-13 00:00:00");
+}
+
 TEST_P(SaveCountTest, InNormalModeTheNextCountNeedsItsStylist) {
   screen.OpenWithStylist();
   screen.EnterLine("P1", "5");

@@ -182,15 +182,15 @@ TEST_P(UntrappedSaveFailureTest, OfTheMomentLeavesItsRowPendingToo) {
   ExpectNextSaveStartsClean();
 }
 
-TEST_P(UntrappedSaveFailureTest, OfAQuantityThatIsNoNumberComesFromItsAssignment) {
-  screen.form().MSFProductos.TextMatrix(2, kQuantity, "muchos");
+TEST_P(UntrappedSaveFailureTest, OfADateThatIsNoneComesFromItsAssignment) {
+  screen.form().MSFProductos.TextMatrix(2, kDay, "ayer");
   screen.Click("LblGuardar");
   const Texts errors = TakeErrors(screen);
   ASSERT_EQ(errors.size(), 1U);
   EXPECT_TRUE(errors[0].starts_with("3421: ")) << errors[0];
   EXPECT_EQ(StoredCodes(), "P10");
   EXPECT_TRUE(TakeMessages(screen).empty());
-  screen.form().MSFProductos.TextMatrix(2, kQuantity, "2");
+  screen.form().MSFProductos.TextMatrix(2, kDay, "16/11/2026");
   ExpectNextSaveStartsClean();
 }
 

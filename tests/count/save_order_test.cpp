@@ -91,6 +91,51 @@ TEST_P(SaveOrderTest, TheListOfCodesIsEmptyWhenTheDeleteRuns) {
   EXPECT_EQ(codes, 0);
 }
 
+/// An open recordset that tells how many codes are gathered when it is closed, and cannot be opened again.
+class ClosingWitness final : public Recordset {
+ public:
+  explicit ClosingWitness(const ComboBox& codes) : codes_(codes) {}
+  int codes_at_close = -1;
+
+  void Open(const std::string&, const ConnectionRef&, CursorType, LockType, std::int32_t) override {
+    throw RuntimeError(1001, "hasta aquí");
+  }
+  void Close() override {
+    codes_at_close = codes_.ListCount();
+    state_ = kStateClosed;
+  }
+  std::int32_t State() const override { return state_; }
+  std::int32_t EditMode() const override { return 0; }
+  bool AtEnd() const override { return true; }
+  void MoveNext() override {}
+  std::int32_t RecordCount() const override { return 0; }
+  void Find(const std::string&, std::int32_t, SearchDirection) override {}
+  void AbsolutePosition(std::int32_t) override {}
+  std::size_t FieldCount() const override { return 0; }
+  std::string FieldName(std::size_t) const override { return {}; }
+  void AddNew() override {}
+  void Collect(std::string_view, const Value&) override {}
+  void Update() override {}
+  void CancelUpdate() override {}
+
+ protected:
+  std::size_t FieldIndex(std::string_view) const override { return 0; }
+  Value FieldValue(std::size_t) const override { return {}; }
+
+ private:
+  const ComboBox& codes_;
+  std::int32_t state_ = kStateOpen;
+};
+
+TEST_P(SaveOrderTest, TheListOfCodesIsEmptiedBeforeTheOpenRecordsetIsClosed) {
+  const auto left_open = std::make_shared<ClosingWitness>(screen.form().CodigosaRecalcular);
+  screen.form().CodigosaRecalcular.AddItem("P40");
+  screen.form().variables.RsCodigos = left_open;
+  screen.Click("LblGuardar");
+  EXPECT_EQ(left_open->codes_at_close, 0);
+  EXPECT_EQ(TakeErrors(screen), Texts{"1001: hasta aquí"});
+}
+
 TEST_P(SaveOrderTest, TheListOfCodesIsKeptWhereTheConditionOfTheDayCannotBeMade) {
   screen.form().CodigosaRecalcular.AddItem("P40");
   screen.state.session.Conexion.reset();

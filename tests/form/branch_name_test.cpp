@@ -99,6 +99,14 @@ TEST_P(BranchNameTest, TheMessageComesBeforeTheDatesAreSet) {
   EXPECT_EQ(screen.form().MkFecha.Text(), "16/11/2026");
 }
 
+TEST_P(BranchNameTest, ANameThatIsNullIsJoinedAsNothing) {
+  screen.Execute("UPDATE Sucursales SET Nombre = NULL WHERE Sucursal = '01'");
+  screen.Open("01");
+  EXPECT_EQ(name().Caption(), "  Sucursal 01   ");
+  EXPECT_EQ(name().Left() + name().Width(), 11280 + 2805);
+  EXPECT_TRUE(screen.library.TakeMessages().empty());
+}
+
 TEST_P(BranchNameTest, ALaterBranchOfTheListIsFoundToo) {
   screen.Execute("UPDATE Sucursales SET Nombre = 'Ático' WHERE Sucursal = '02'");
   screen.Execute("INSERT INTO Sucursales (Sucursal, Nombre) VALUES ('03', 'Zona sur')");

@@ -36,10 +36,25 @@ class SwappingTools final : public Herramientas {
   ObjectRef left_;
 };
 
+/// A search that leaves something else in the reference that it was handed, and finds product P1.
+class SwappingSearch final : public BuscadorProductos {
+ public:
+  explicit SwappingSearch(ObjectRef left) : left_(std::move(left)) {}
+  std::string Buscar(DatosClaseRef&, ObjectRef& formulario, const std::string&, const std::string&,
+                     const std::string&, const std::string&, bool&) override {
+    formulario = left_;
+    return "P1";
+  }
+
+ private:
+  ObjectRef left_;
+};
+
 class SwappingLibrary final : public Library {
  public:
   explicit SwappingLibrary(Library& inner) : inner_(inner) {}
   ObjectRef left;
+  ObjectRef left_by_search;
 
   std::unique_ptr<Herramientas> NewHerramientas() override {
     return std::make_unique<SwappingTools>(inner_.NewHerramientas(), left);
@@ -47,7 +62,9 @@ class SwappingLibrary final : public Library {
   std::unique_ptr<Mensajes> NewMensajes() override { return inner_.NewMensajes(); }
   std::unique_ptr<CambioSesion> NewCambioSesion() override { return inner_.NewCambioSesion(); }
   std::unique_ptr<Recalculo> NewRecalculo() override { return inner_.NewRecalculo(); }
-  std::unique_ptr<BuscadorProductos> NewBuscadorProductos() override { return inner_.NewBuscadorProductos(); }
+  std::unique_ptr<BuscadorProductos> NewBuscadorProductos() override {
+    return std::make_unique<SwappingSearch>(left_by_search);
+  }
   std::unique_ptr<SelectorEmpleado> NewSelectorEmpleado() override { return inner_.NewSelectorEmpleado(); }
 
  private:
@@ -77,6 +94,36 @@ TEST_F(GlobalFormTest, TheTitleBarActsOnTheGlobalFormWhicheverThatIs) {
   first->Barra1_Cerrar();
   EXPECT_TRUE(first->IsLoaded());
   EXPECT_FALSE(second->IsLoaded());
+}
+
+TEST_F(GlobalFormTest, AFormThatTheSearchLeavesIsTheGlobalOneAfterwards) {
+  const auto form = Open();
+  const auto other = std::make_shared<FrmOrvendalciales>(state);
+  library.left_by_search = other;
+  form->LblBuscar_Click(0);
+  EXPECT_EQ(state.form, other);
+  EXPECT_TRUE(form->IsLoaded());
+  EXPECT_EQ(form->MSFProductos.TextMatrix(1, 0), "P1");
+}
+
+TEST_F(GlobalFormTest, AReferenceThatTheSearchClearedLeavesTheScreenWithItsLinesUntilItIsClosed) {
+  const auto form = Open();
+  form->LblBuscar_Click(0);
+  EXPECT_EQ(state.form, nullptr);
+  EXPECT_TRUE(form->IsLoaded());
+  EXPECT_EQ(form->MSFProductos.TextMatrix(1, 0), "P1");
+  EXPECT_EQ(state.unnamed_forms, std::vector{form});
+  form->Unload();
+  EXPECT_TRUE(state.unnamed_forms.empty());
+}
+
+TEST_F(GlobalFormTest, SomethingThatIsNoSuchFormAfterTheSearchIsError13AndNoLineIsWritten) {
+  class Something final : public Object {};
+  library.left_by_search = std::make_shared<Something>();
+  const auto form = Open();
+  EXPECT_EQ(ErrorOf([&] { form->LblBuscar_Click(0); }), 13);
+  EXPECT_EQ(state.form, form);
+  EXPECT_EQ(form->MSFProductos.TextMatrix(1, 0), "");
 }
 
 TEST_F(GlobalFormTest, WithoutAGlobalFormTheScreenActsOnItself) {

@@ -94,6 +94,14 @@ TEST_F(ProductLineTest, TakesTheDayOfTheCalendar) {
   EXPECT_EQ(screen.Cell(1, kStylist), "Berta");
 }
 
+TEST_F(ProductLineTest, TakesTheDayOfTheCalendarInTheSystemsFormWhateverFormTheLibraryShows) {
+  screen.plain_library.date_mask = "yyyy-mm-dd";
+  Open();
+  ASSERT_EQ(screen.form().MkFecha.Text(), "2026-11-16");
+  Enter(1, "P1");
+  EXPECT_EQ(screen.Cell(1, kDay), "16/11/2026");
+}
+
 TEST_F(ProductLineTest, TakesWhoeverStandsInTheHeader) {
   Open();
   Enter(1, "P1");

@@ -96,6 +96,71 @@ TEST_P(ProductStoreErrorsTest, AStockBeyond32BitsIsAnError) {
   EXPECT_EQ(EditorText(screen), "P1");
 }
 
+TEST_P(ProductStoreErrorsTest, UnderADescriptionTheEditorShowsTheOneThatTheLineHoldsNow) {
+  screen.Enter();  // to the description
+  screen.recordsets.FailOpen(3, kStoreGone, "no responde");
+  screen.Type("Champú\n");
+  EXPECT_EQ(TakeErrors(screen).size(), 1U);
+  EXPECT_EQ(EditorText(screen), "Champú suave");
+  EXPECT_EQ(Cursor(screen), "2,1");
+  screen.Enter();
+  EXPECT_EQ(screen.Line(2), (Texts{"P1", "Champú suave", "7", "7", "E1", "Ana", "16/11/2026", "P1", ""}));
+}
+
+/// The search button brings a product into a line whose quantity is under the editor, and the store fails.
+class StoreErrorsOnTheQuantityTest : public testing::TestWithParam<Dialect> {
+ protected:
+  StoreErrorsOnTheQuantityTest() {
+    screen.AddCounts(2);
+    screen.OpenWithStylist();
+    screen.DoubleClickCell(2, kQuantity);
+    screen.library.QueueProduct("P1");
+    Forget(screen);
+  }
+  void ExpectTheQuantityOfTheCell(const std::string& error) {
+    EXPECT_EQ(TakeErrors(screen), Texts{error});
+    EXPECT_EQ(Cursor(screen), "2,3");
+    EXPECT_EQ(screen.Cell(2, kQuantity), "2");
+    EXPECT_EQ(EditorText(screen), "2");
+    EXPECT_TRUE(EditorTextIsSelected(screen));
+    screen.form().TxtMSF.SetFocus();
+    screen.Key(key::kUp);
+    EXPECT_EQ(screen.Cell(2, kQuantity), "2");
+  }
+  FormDriver screen{GetParam()};
+};
+
+TEST_P(StoreErrorsOnTheQuantityTest, ANullStockLeavesTheQuantityInTheEditorAndNotTheCode) {
+  screen.Execute("UPDATE ProdSucStock SET Stock = NULL WHERE IdProducto = 'P1'");
+  screen.Click("LblBuscar");
+  ExpectTheQuantityOfTheCell("94: Invalid use of Null");
+}
+
+TEST_P(StoreErrorsOnTheQuantityTest, ANullDescriptionDoesToo) {
+  screen.Execute("UPDATE Productos SET Descripcion = NULL WHERE Codigo = 'P1'");
+  screen.Click("LblBuscar");
+  ExpectTheQuantityOfTheCell("94: Invalid use of Null");
+}
+
+TEST_P(StoreErrorsOnTheQuantityTest, AFailedReadOfTheStockDoesToo) {
+  screen.recordsets.FailOpen(2, kStoreGone, "no responde");
+  screen.Click("LblBuscar");
+  ExpectTheQuantityOfTheCell("-2147467259: no responde");
+}
+
+TEST_P(StoreErrorsOnTheQuantityTest, AnErrorBeforeTheLineIsTouchedKeepsWhatIsTyped) {
+  screen.Type("42");
+  screen.recordsets.FailOpen(1, kStoreGone, "no responde");
+  screen.Click("LblBuscar");
+  EXPECT_EQ(TakeErrors(screen).size(), 1U);
+  EXPECT_EQ(EditorText(screen), "42");
+  EXPECT_EQ(screen.Cell(2, kCode), "P11");
+  screen.ClickCell(1, kCode);
+  EXPECT_EQ(screen.Cell(2, kQuantity), "42");
+}
+
+INSTANTIATE_TEST_SUITE_P(BothDialects, StoreErrorsOnTheQuantityTest,
+                         testing::Values(Dialect::kSqlServer, Dialect::kJet), DialectName);
 INSTANTIATE_TEST_SUITE_P(BothDialects, ProductStoreErrorsTest,
                          testing::Values(Dialect::kSqlServer, Dialect::kJet), DialectName);
 

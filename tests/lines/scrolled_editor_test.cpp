@@ -36,6 +36,16 @@ TEST_F(ScrolledEditorTest, TheEditorMovesWithItsCellAndNotSideways) {
   EXPECT_EQ(editor().Left(), left);
 }
 
+TEST_F(ScrolledEditorTest, TheEditorStaysWhereItIsWhileTheGridScrollsSideways) {
+  grid().ColWidth(kDescription, grid().Width());
+  screen.DoubleClickCell(5, kCode);
+  const double left = editor().Left();
+  const double cell = grid().CellRectangle(5, kDescription).left;
+  grid().LeftCol(1);
+  ASSERT_LT(grid().CellRectangle(5, kDescription).left, cell);
+  EXPECT_EQ(editor().Left(), left);
+}
+
 TEST_F(ScrolledEditorTest, TheEditorComesBackWithTheView) {
   screen.DoubleClickCell(5, kQuantity);
   const double top = editor().Top();

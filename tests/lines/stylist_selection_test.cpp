@@ -207,6 +207,22 @@ TEST_F(StylistSelectionTest, AnEmptyNameLeavesTheBoxEnabledAndTakesTheCode) {
   EXPECT_EQ(screen.Focused(), "PicDatos");
 }
 
+TEST_F(StylistSelectionTest, AnEmptyNameLeavesTheBoxEnabledAlsoWhereTheGridHasTheFocusAndAsksNothing) {
+  screen.Open();
+  screen.library.QueueEmployee({true, "E7", ""});
+  screen.library.DuringNextDialog([this] {  // a library that uses the form while its picker is up
+    box().Text("alguien");
+    screen.form().MSFProductos.SetFocus();
+  });
+  Forget(screen);
+  screen.Click("TxtEmpleado");
+  EXPECT_EQ(screen.Focused(), "MSFProductos");
+  EXPECT_EQ(box().Text(), "");
+  EXPECT_EQ(code().Text(), "E7");
+  EXPECT_TRUE(box().Enabled());
+  EXPECT_TRUE(TakeMessages(screen).empty());
+}
+
 TEST_F(StylistSelectionTest, TheBarIsSetBeforeTheGridHasTheFocus) {
   screen.Open();
   screen.library.QueueEmployee({true, "E7", ""});

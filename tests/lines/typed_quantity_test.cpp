@@ -96,6 +96,15 @@ TEST_F(TypedQuantityTest, StaysInTheEditorWhenTheFocusGoesElsewhere) {
   EXPECT_EQ(screen.Cell(2, kQuantity), "2");
 }
 
+TEST_F(TypedQuantityTest, IsNotWrittenIntoAFarFreeRowThatWasClicked) {
+  screen.ClickCell(10, kQuantity);
+  EXPECT_EQ(screen.Cell(2, kQuantity), "77");
+  EXPECT_EQ(Cursor(screen), "4,3");
+  EXPECT_EQ(EditorText(screen), "");
+  EXPECT_EQ(screen.Line(10), Texts(9, ""));
+  EXPECT_EQ(screen.Line(4), Texts(9, ""));
+}
+
 class TypedCodeTest : public TypedQuantityTest {
  protected:
   void TypeOn(int column) {
@@ -112,6 +121,18 @@ TEST_F(TypedCodeTest, IsDroppedWhenAnotherCellIsClicked) {
   EXPECT_EQ(EditorText(screen), "1");
   screen.ClickCell(2, kCode);
   EXPECT_EQ(EditorText(screen), "P11");
+}
+
+TEST_F(TypedCodeTest, IsNotWrittenIntoTheQuantityOfAFarFreeRowThatWasClicked) {
+  for (const int column : {kCode, kDescription}) {
+    TypeOn(column);
+    screen.ClickCell(10, kQuantity);
+    EXPECT_EQ(Cursor(screen), "4,3");
+    EXPECT_EQ(EditorText(screen), "");
+    EXPECT_EQ(screen.Line(10), Texts(9, ""));
+    EXPECT_EQ(screen.Line(4), Texts(9, ""));
+    EXPECT_FALSE(screen.form().HayCambios());
+  }
 }
 
 TEST_F(TypedCodeTest, IsDroppedByTheArrows) {

@@ -5,7 +5,7 @@ namespace {
 
 class PlainHerramientas final : public Herramientas {
  public:
-  explicit PlainHerramientas(WindowHost& host) : host_(host) {}
+  PlainHerramientas(WindowHost& host, const std::string& date_mask) : host_(host), date_mask_(date_mask) {}
 
   int FiltrarTecla(TextBox& caja, int key_ascii, bool) override {
     const char mark = host_.UserRegion().DecimalMark();
@@ -21,7 +21,9 @@ class PlainHerramientas final : public Herramientas {
 
   std::string FormatoFecha(std::string& fecha, std::uint8_t, std::string&, std::string&) override {
     const std::optional<Date> date = host_.UserRegion().ParseDate(fecha);
-    return date ? host_.UserRegion().ToText(date->DayOnly()) : fecha;
+    if (!date) return fecha;
+    return date_mask_.empty() ? host_.UserRegion().ToText(date->DayOnly())
+                              : host_.UserRegion().Format(*date, date_mask_);
   }
 
   void RegistrarSentencia(std::string&, ConnectionRef&, std::string&) override {}
@@ -29,6 +31,7 @@ class PlainHerramientas final : public Herramientas {
 
  private:
   WindowHost& host_;
+  const std::string& date_mask_;
 };
 
 class PlainRecalculo final : public Recalculo {
@@ -39,7 +42,7 @@ class PlainRecalculo final : public Recalculo {
 }  // namespace
 
 std::unique_ptr<Herramientas> PlainLibrary::NewHerramientas() {
-  return std::make_unique<PlainHerramientas>(host_);
+  return std::make_unique<PlainHerramientas>(host_, date_mask);
 }
 std::unique_ptr<Recalculo> PlainLibrary::NewRecalculo() {
   return std::make_unique<PlainRecalculo>();

@@ -15,6 +15,9 @@ class PlainLibrary final : public Library {
  public:
   explicit PlainLibrary(WindowHost& host) : host_(host) {}
 
+  /// The form of dates, such as "yyyy-mm-dd"; empty for the region's short one.
+  std::string date_mask;
+
   std::unique_ptr<Herramientas> NewHerramientas() override;
   std::unique_ptr<Mensajes> NewMensajes() override { return nullptr; }
   std::unique_ptr<CambioSesion> NewCambioSesion() override { return nullptr; }

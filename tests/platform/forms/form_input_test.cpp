@@ -127,6 +127,16 @@ TEST_F(FormInputTest, TheRightButtonPressesAndFocusesAndDoesNotClick) {
   EXPECT_EQ(TakeLog(), (Log{"Other down", "Box lost", "Other focus", "Other up"}));
 }
 
+TEST_F(FormInputTest, OnlyTheLeftButtonRaisesTheDoubleClick) {
+  for (const int button_number : {mouse_button::kRight, mouse_button::kMiddle}) {
+    Press(On(box), button_number);
+    Release(On(box), button_number);
+    Press(On(box), button_number, true);
+    Release(On(box), button_number);
+    EXPECT_EQ(TakeLog(), (Log{"Box down", "Box up", "Box up"}));
+  }
+}
+
 TEST_F(FormInputTest, AnotherButtonWhileOneIsHeldIsIgnored) {
   Press(On(front));
   TakeLog();
