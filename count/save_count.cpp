@@ -8,6 +8,15 @@
 #include "store/statements.h"
 
 namespace orvendal {
+namespace {
+
+// A delete of lines keeps the rows; only a load takes them away.
+constexpr const char* kGridTooLong =
+    "Overflow: the grid has more than the 32767 rows that a save takes. Nothing was deleted or saved. Note "
+    "the "
+    "lines that are new, press Cancel to load the day again, and enter fewer of them.";
+
+}  // namespace
 
 void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
   if (IsEditingQuantity()) CommitQuantity();
@@ -19,7 +28,7 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
   }
   // The walk counts its rows in 16 bits; a grid beyond that is refused while nothing is lost yet.
   if (MSFProductos.Rows() > std::numeric_limits<std::int16_t>::max())
-    throw RuntimeError(error_number::kOverflow);
+    throw RuntimeError(error_number::kOverflow, kGridTooLong);
 
   // The day of a save is the text that the screen shows: during a change of date the calendar is ahead of the
   // lines.

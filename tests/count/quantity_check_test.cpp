@@ -200,8 +200,8 @@ TEST_P(QuantityCheckTest, ASaveOnTheWayOutOfSupervisorModeStaysInIt) {
   ExpectEditorOver(2, "-");
 }
 
-INSTANTIATE_TEST_SUITE_P(BothDialects, QuantityCheckTest,
-                         testing::Values(Dialect::kSqlServer, Dialect::kJet), DialectName);
+INSTANTIATE_TEST_SUITE_P(BothDialects, QuantityCheckTest, testing::Values(Dialect::kSqlServer, Dialect::kJet),
+                         DialectName);
 
 TEST(QuantityCheckInEnglishTest, TheMarkIsThatOfTheUsersRegion) {
   FormDriver screen{Dialect::kSqlServer, Region::English()};

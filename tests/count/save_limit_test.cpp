@@ -30,7 +30,11 @@ TEST_F(SaveLimitTest, AGridOf32767RowsIsSaved) {
 TEST_F(SaveLimitTest, AGridOf32768RowsIsRefusedBeforeTheDeleteAndNothingIsLost) {
   screen.form().MSFProductos.Rows(32768);
   screen.Click("LblGuardar");
-  EXPECT_EQ(TakeErrors(screen), Texts{"6: Overflow"});
+  EXPECT_EQ(
+      TakeErrors(screen),
+      Texts{"6: Overflow: the grid has more than the 32767 rows that a save takes. Nothing was deleted or "
+            "saved. Note the lines that are new, press Cancel to load the day again, and enter fewer of "
+            "them."});
   EXPECT_TRUE(TakeStatements(screen).empty());
   EXPECT_TRUE(TakeMessages(screen).empty());
   EXPECT_EQ(Stored(), "P1");
@@ -38,6 +42,19 @@ TEST_F(SaveLimitTest, AGridOf32768RowsIsRefusedBeforeTheDeleteAndNothingIsLost) 
   EXPECT_EQ(screen.form().TxtEmpleado.Text(), "Ana");
   screen.form().MSFProductos.Rows(13);
   screen.Click("LblGuardar");
+  EXPECT_EQ(Stored(), "P1 P4");
+}
+
+TEST_F(SaveLimitTest, WhatTheReportSaysHelps) {
+  screen.form().MSFProductos.Rows(32768);
+  screen.ClickCell(1, kCode);
+  screen.Click("LblBorrar");
+  screen.Click("LblGuardar");
+  EXPECT_EQ(TakeErrors(screen).size(), 1U);  // taking lines away leaves the grid as long
+  screen.Click("LblCancelar");
+  screen.EnterLine("P4", "5");
+  screen.Click("LblGuardar");
+  EXPECT_TRUE(TakeErrors(screen).empty());
   EXPECT_EQ(Stored(), "P1 P4");
 }
 

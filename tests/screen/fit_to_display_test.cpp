@@ -64,7 +64,7 @@ TEST_F(FitToDisplayTest, TheFormEndsExactlyTheSizeOfTheDisplay) {
 TEST_F(FitToDisplayTest, AFractionalDisplayIsRoundedForTheScalingAndTheFormStillCoversIt) {
   OpenOn(12000.6, 8999.7);
   EXPECT_EQ(screen.form().ScrollProductos.Width(), 12001);  // 15360 as designed
-  EXPECT_EQ(screen.form().MSFProductos.Top(), 1875);  // 2400 * 8999.7 / 11520 would be cut to 1874
+  EXPECT_EQ(screen.form().MSFProductos.Top(), 1875);        // 2400 * 8999.7 / 11520 would be cut to 1874
   EXPECT_EQ(screen.form().Width(), 12000.6);
   EXPECT_EQ(screen.form().Height(), 8999.7);
 }
