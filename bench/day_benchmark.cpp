@@ -1,6 +1,6 @@
 // What a day costs the screen, beside the same reads and writes done straight on SQLite: loading through
-// CargarExistencias and saving through LblGuardar_Click. Everything lies in memory, so that no disk hides the
-// work of the program.
+// CargarExistencias and saving through LblGuardar_Click; and typing it in, line by line. Everything lies in
+// memory, so that no disk hides the work of the program.
 
 #include <benchmark/benchmark.h>
 
@@ -131,6 +131,26 @@ void SaveBySqlite(benchmark::State& state) {
   state.SetComplexityN(state.range(0));
 }
 
+// A whole count typed on an empty day. Each new line is compared with those above it, and the first free row
+// is looked for from the top: both are rules of the screen, and together they cost the square of the lines.
+void EnterByTheScreen(benchmark::State& state) {
+  const int lines = static_cast<int>(state.range(0));
+  for (auto _ : state) {
+    state.PauseTiming();
+    Day day = DayOf(state);
+    day.Store().Execute("DELETE FROM HistOrvendalcial");
+    FrmOrvendalciales& form = day.Open();
+    form.TxtEmpleado.Text("Ana");
+    form.TxtCodigo.Text("E1");
+    Robot hands(form);
+    hands.DoubleClickCell(form.MSFProductos, 1, 0);
+    state.ResumeTiming();
+    for (int line = 0; line < lines; ++line) hands.Type(ProductCode(line) + "\n5\n");
+    if (form.MSFProductos.Row() != lines + 1) state.SkipWithError("lines are missing");
+  }
+  state.SetComplexityN(lines);
+}
+
 // Lines of the day, dialect, rows of other days.
 void Days(benchmark::internal::Benchmark* run) {
   run->ArgNames({"lines", "jet", "history"})->Unit(benchmark::kMicrosecond);
@@ -143,10 +163,16 @@ void DaysInALongHistory(benchmark::internal::Benchmark* run) {
   for (const int jet : {0, 1}) run->Args({1000, jet, 200000});
 }
 
+void Counts(benchmark::internal::Benchmark* run) {
+  run->ArgNames({"lines", "jet", "history"})->Unit(benchmark::kMillisecond);
+  for (const int lines : {1000, 4000, 16000}) run->Args({lines, 0, 0});
+}
+
 BENCHMARK(LoadBySqlite)->Apply(Days)->Complexity();
 BENCHMARK(LoadByTheScreen)->Apply(Days)->Complexity();
 BENCHMARK(SaveBySqlite)->Apply(Days)->Complexity();
 BENCHMARK(SaveByTheScreen)->Apply(Days)->Complexity();
+BENCHMARK(EnterByTheScreen)->Apply(Counts)->Complexity();
 BENCHMARK(LoadBySqlite)->Name("LoadBySqliteInALongHistory")->Apply(DaysInALongHistory);
 BENCHMARK(LoadByTheScreen)->Name("LoadByTheScreenInALongHistory")->Apply(DaysInALongHistory);
 BENCHMARK(SaveBySqlite)->Name("SaveBySqliteInALongHistory")->Apply(DaysInALongHistory);

@@ -22,18 +22,20 @@ constexpr std::array<const char*, column::kCount> kFields = {"IdProducto",  "Des
 
 void FrmOrvendalciales::CargarExistencias() {
   const std::string condition = DateConditionOfLoad(Session().Conexion, Calendario.Value(), UserRegion());
+  bool has_written = false;
   try {
     const FlagScope loading(variables.CargandoLineas);
-    LoadLines(condition);
+    LoadLines(condition, has_written);
   } catch (const RuntimeError&) {
-    // A load that stopped after it had cut the grid may have taken the cell away from under the editor.
-    if (!EditorIsInPlace()) PlaceEditorAnew();
+    // What was typed stays only where its line does: not under a line written over, nor under one cut away.
+    if (has_written || !EditorIsInPlace()) PlaceEditorAnew();
     throw;
   }
   PlaceEditorAnew();  // an editor that stayed open shows what its cell holds now
 }
 
-void FrmOrvendalciales::LoadLines(const std::string& condition) {
+// `has_written` turns true before the first line is written over.
+void FrmOrvendalciales::LoadLines(const std::string& condition, bool& has_written) {
   MSFProductos.Rows(kFloorRows);
   MSFProductos1.Rows(1);
   const RecordsetRef lines = NewRecordset();
@@ -41,6 +43,7 @@ void FrmOrvendalciales::LoadLines(const std::string& condition) {
                              Session().Conexion);
   int row = 1;
   for (; !lines->AtEnd(); ++row) {
+    has_written = true;
     if (row > MSFProductos.Rows() - 1) MSFProductos.AddItem("");
     WriteLoadedRow(row, *lines);
     MSFProductos.Row(row);  // the row events colour the line

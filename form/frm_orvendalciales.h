@@ -221,7 +221,7 @@ class FrmOrvendalciales final : public Form {
   void FillRow(int row);
   bool StoreRow(int row);
   void RecalculateProducts();
-  void LoadLines(const std::string& condition);
+  void LoadLines(const std::string& condition, bool& has_written);
   void WriteLoadedRow(int row, const Recordset& lines);
   void ShowNormalMode();
 

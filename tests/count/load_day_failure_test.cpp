@@ -89,6 +89,19 @@ TEST_P(LoadDayFailureTest, AnEditorThatStayedOpenWritesItsQuantityAsEverAfterwar
   EXPECT_EQ(screen.Cell(2, kQuantity), "77");  // leaving the cell writes again as ever
 }
 
+TEST_P(LoadDayFailureTest, AnEditorWhoseLineWasWrittenOverWritesItsQuantityIntoNoOtherProduct) {
+  screen.DoubleClickCell(1, kQuantity);
+  screen.Type("77");
+  screen.Execute("DELETE FROM HistOrvendalcial");
+  screen.AddCount("P20", 4, 5);
+  screen.Execute("UPDATE HistOrvendalcial SET IdEmpleado = NULL");
+  EXPECT_THROW(screen.form().CargarExistencias(), RuntimeError);
+  ASSERT_EQ(screen.Cell(1, kCode), "P20");
+  EXPECT_EQ(EditorText(screen), "5");
+  screen.ClickCell(2, kCode);
+  EXPECT_EQ(screen.Cell(1, kQuantity), "5");
+}
+
 TEST_P(LoadDayFailureTest, AnEditorWhoseLineWasCutAwayWritesItsQuantityIntoNoOtherLine) {
   screen.AddCounts(30);
   screen.Click("LblCancelar");

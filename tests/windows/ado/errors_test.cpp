@@ -95,5 +95,17 @@ TEST_F(Errors, AFieldReadAfterItsStatementIsGoneIsNotInTheCollection) {
   EXPECT_EQ(NumberOf([&field] { field.Value(); }), ado_error::kItemNotFound);
 }
 
+TEST_F(Errors, ATextThatIsNoNumberIsRefusedBeforehandAsItsAssignmentWouldBe) {
+  for (const char* text : {"-", ",", "muchos", " ", ""}) {
+    SCOPED_TRACE(text);
+    const Raised raised = RaisedBy([&] { connection->CheckNumber(text); });
+    EXPECT_EQ(raised.number, ado_error::kDataConversion);
+    EXPECT_EQ(raised.description, AdoError(ado_error::kDataConversion).Description());
+  }
+  for (const char* text : {"5", "-7", " 12 "})
+    EXPECT_EQ(NumberOf([&] { connection->CheckNumber(text); }), 0) << text;
+  EXPECT_TRUE(provider.calls.empty()) << "the provider is not asked";
+}
+
 }  // namespace
 }  // namespace orvendal::ado_testing
