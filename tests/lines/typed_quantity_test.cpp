@@ -135,6 +135,23 @@ TEST_F(TypedCodeTest, IsNotWrittenIntoTheQuantityOfAFarFreeRowThatWasClicked) {
   }
 }
 
+TEST_F(TypedCodeTest, IsNotWrittenIntoTheQuantityAfterAnErrorThatLeftTheCursorThere) {
+  TypeOn(kCode);
+  MSFlexGrid& grid = screen.form().MSFProductos;
+  const std::function<void()> leave = grid.OnLeaveCell;
+  grid.OnLeaveCell = [&] {  // a user of the grid that fails while the line is coloured, cell by cell
+    if (screen.form().variables.PintandoFila && grid.Col() == kQuantity)
+      throw RuntimeError(1001, "pincel roto");
+    leave();
+  };
+  screen.ClickCell(1, kCode);
+  grid.OnLeaveCell = leave;
+  ASSERT_EQ(TakeErrors(screen).size(), 1U);
+  ASSERT_EQ(Cursor(screen), "2,3");
+  screen.ClickCell(1, kCode);
+  EXPECT_EQ(screen.Cell(2, kQuantity), "2");
+}
+
 TEST_F(TypedCodeTest, IsDroppedByTheArrows) {
   TypeOn(kCode);
   screen.Key(key::kDown);
