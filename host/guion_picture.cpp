@@ -2,9 +2,12 @@
 
 #include <QGuiApplication>
 #include <cstdlib>
+#include <iostream>
 #include <memory>
 
 #include "adapters/qt/qt_picture.h"
+#include "host/guion_parser.h"
+#include "host/printed_text.h"
 
 namespace orvendal {
 namespace {
@@ -15,7 +18,12 @@ class OffscreenQt {
   explicit OffscreenQt(std::string program_name) : name_(std::move(program_name)) {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     // What Qt has to say of the machine is no part of what a script shows.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
+      if (type != QtFatalMsg) return;
+      std::cout.flush();
+      std::cerr << PrintedText("orvendal: " + text.toStdString()) << std::endl;
+      std::_Exit(ScriptStop::kCannotGoOn);  // where Qt would leave a dump of memory
+    });
     application_ = std::make_unique<QGuiApplication>(argument_count_, arguments_);
   }
 

@@ -50,7 +50,8 @@ class WrittenMessages final : public MessagePresenter {
 
 // What a platform without windows cannot do is no news to somebody who asked for a picture.
 void DropWarnings(QtMsgType type, const QMessageLogContext&, const QString& text) {
-  if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << text.toStdString() << '\n';
+  if (type == QtCriticalMsg || type == QtFatalMsg) std::cerr << ErrorLine(text.toStdString());
+  if (type == QtFatalMsg) std::_Exit(kExitFailure);  // where Qt would leave a dump of memory
 }
 
 std::string ErrorText(const Words& words, const RuntimeError& error) {

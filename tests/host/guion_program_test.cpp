@@ -125,6 +125,14 @@ TEST_F(ScriptProgram, APictureThatTheDiskDoesNotTakeIsToldAndLeavesNothing) {
   EXPECT_FALSE(std::filesystem::exists(folder / "p.png"));
 }
 
+TEST_F(ScriptProgram, APictureThatNothingCanPaintIsToldWithItsExitCode) {
+  Write("a.guion", "orvendal 01 1 1\ncaptura p.png\n");
+  EXPECT_EQ(RunAfter("ulimit -n 5 && ", "guion a.guion"), 2);
+  EXPECT_EQ(output, "orvendal -> False\n");
+  EXPECT_TRUE(errors.starts_with("orvendal: ")) << errors;
+  EXPECT_EQ(std::count(errors.begin(), errors.end(), '\n'), 1) << errors;
+}
+
 TEST_F(ScriptProgram, WhatCannotBeShownStopsItWithOneLine) {
   Write("a.guion", "sql \"SELECT 1\"\nsql \"SELECT 2\"\n");
   EXPECT_EQ(Run("guion a.guion >/dev/full"), 2);
