@@ -16,6 +16,7 @@ function(orvendal_add_com_dll target definitions)
   if(CMAKE_SIZEOF_VOID_P EQUAL 4)
     target_link_options(${target} PRIVATE -Wl,--enable-stdcall-fixup)
   endif()
+  target_link_libraries(${target} PRIVATE orvendal_module_entry)
   orvendal_split_symbols(${target})
 endfunction()
 

@@ -3,7 +3,7 @@
 #include "adapters/com/component_module.h"
 #include "adapters/com/identity.h"
 
-// The four entry points of an in-process server, and a DllMain that does nothing under the loader's lock.
+// The four entry points of an in-process server.
 
 extern "C" {
 
@@ -21,10 +21,6 @@ HRESULT WINAPI DllRegisterServer() {
 
 HRESULT WINAPI DllUnregisterServer() {
   return orvendal::Unregister(orvendal::identity::kRegistered);
-}
-
-BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD /*reason*/, LPVOID /*reserved*/) {
-  return TRUE;
 }
 
 }  // extern "C"

@@ -7,7 +7,7 @@
 #include "host/windows/library/library_state.h"
 #include "host/windows/library/session_object.h"
 
-// The four entry points of an in-process server, and a DllMain that does nothing under the loader's lock.
+// The four entry points of an in-process server.
 
 namespace orvendal {
 namespace {
@@ -63,10 +63,6 @@ HRESULT WINAPI DllRegisterServer() {
 
 HRESULT WINAPI DllUnregisterServer() {
   return orvendal::Unregister(orvendal::library_identity::Registered());
-}
-
-BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD /*reason*/, LPVOID /*reserved*/) {
-  return TRUE;
 }
 
 }  // extern "C"

@@ -38,8 +38,4 @@ HRESULT WINAPI DllCanUnloadNow() {
   return orvendal::module_lifetime::IsFree() ? S_OK : S_FALSE;
 }
 
-BOOL WINAPI DllMain(HINSTANCE /*module*/, DWORD /*reason*/, LPVOID /*reserved*/) {
-  return TRUE;
-}
-
 }  // extern "C"

@@ -120,11 +120,12 @@ class LibraryTest : public testing::Test {
   _SampleSession* Session() {
     if (!session_) {
       session_ = Make<_SampleSession>(__uuidof(::DatosClase));
-      const BstrCell text("Provider=SQLOLEDB.1;Data Source=" + Utf8Text(file_));
-      EXPECT_EQ(session_->OpenConnection(text.Get()), S_OK);
+      EXPECT_EQ(session_->OpenConnection(BstrCell(ConnectionString()).Get()), S_OK);
     }
     return session_.Get();
   }
+  std::string File() const { return Utf8Text(file_); }
+  std::string ConnectionString() const { return "Provider=SQLOLEDB.1;Data Source=" + File(); }
   ComPtr<IDispatch> Connection() {
     ComPtr<IDispatch> connection;
     EXPECT_EQ(Session()->get_Connection(connection.Receive()), S_OK);
