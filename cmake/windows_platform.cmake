@@ -12,6 +12,9 @@ target_compile_definitions(orvendal_options INTERFACE UNICODE _UNICODE NOMINMAX 
 target_compile_options(orvendal_options INTERFACE -g1 -ffunction-sections -fdata-sections
   -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
 target_link_options(orvendal_options INTERFACE -Wl,--gc-sections)
+# A function whose variables were written over ends the program before it returns to wherever that leads.
+target_compile_options(orvendal_options INTERFACE -fstack-protector-strong)
+target_link_options(orvendal_options INTERFACE -fstack-protector-strong)
 
 include(cmake/windows_module.cmake)
 include(cmake/windows_sqlite.cmake)

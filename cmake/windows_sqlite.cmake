@@ -26,5 +26,5 @@ target_include_directories(orvendal_sqlite3 SYSTEM PUBLIC ${sqlite_folder})
 target_compile_definitions(orvendal_sqlite3 PRIVATE
   SQLITE_OMIT_LOAD_EXTENSION SQLITE_THREADSAFE=1 SQLITE_DQS=0)
 # Whatever the build type, an unoptimised store makes the tests several times slower.
-target_compile_options(orvendal_sqlite3 PRIVATE -O2 -w)
+target_compile_options(orvendal_sqlite3 PRIVATE -O2 -w -fstack-protector-strong)
 add_library(SQLite::SQLite3 ALIAS orvendal_sqlite3)

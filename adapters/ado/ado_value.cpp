@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <new>
 
 #include "adapters/automation/bstr.h"
 #include "adapters/automation/error_boundary.h"
@@ -88,7 +89,9 @@ Value ValueOfDirect(const VARIANT& value, LCID lcid) {
 Value ValueOf(const VARIANT& value, LCID lcid) {
   if (!V_ISBYREF(&value)) return ValueOfDirect(value, lcid);
   Variant direct;
-  Check(VariantCopyInd(direct.Address(), const_cast<VARIANT*>(&value)));
+  const HRESULT read = ReadDirect(value, direct);
+  if (read == E_OUTOFMEMORY) throw std::bad_alloc();
+  if (FAILED(read)) throw RuntimeError(error_number::kTypeMismatch);
   return ValueOfDirect(direct.Get(), lcid);
 }
 

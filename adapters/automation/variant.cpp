@@ -17,10 +17,14 @@ const VARIANT& Behind(const VARIANT& value) {
   return *behind;
 }
 
+/// A chain that was cut, or a reference to nothing, which the system's own functions follow all the same.
+bool LeadsNowhere(const VARIANT& behind) {
+  return V_VT(&behind) == kReference || ((V_VT(&behind) & VT_BYREF) && !V_BYREF(&behind));
+}
+
 HRESULT Converted(const VARIANT& value, LCID lcid, VARTYPE type, Variant& converted) {
   const VARIANT& behind = Behind(value);
-  const bool refers_to_nothing = (V_VT(&behind) & VT_BYREF) && !V_BYREF(&behind);
-  if (refers_to_nothing || V_VT(&behind) == kReference) return DISP_E_TYPEMISMATCH;
+  if (LeadsNowhere(behind)) return DISP_E_TYPEMISMATCH;
   if (V_VT(&behind) & (VT_ARRAY | VT_VECTOR)) return DISP_E_TYPEMISMATCH;
   const HRESULT result =
       VariantChangeTypeEx(converted.Address(), const_cast<VARIANT*>(&behind), lcid, VARIANT_ALPHABOOL, type);
@@ -30,6 +34,12 @@ HRESULT Converted(const VARIANT& value, LCID lcid, VARTYPE type, Variant& conver
 }
 
 }  // namespace
+
+HRESULT ReadDirect(const VARIANT& value, Variant& direct) {
+  const VARIANT& behind = Behind(value);
+  if (LeadsNowhere(behind)) return DISP_E_TYPEMISMATCH;
+  return VariantCopyInd(direct.Address(), const_cast<VARIANT*>(&behind));
+}
 
 HRESULT ReadText(const VARIANT& value, LCID lcid, std::string& text) {
   Variant converted;

@@ -24,7 +24,10 @@ class Variant {
 
 /// The value behind any number of references: by value, VT_BYREF, VT_BYREF | VT_VARIANT.
 /// Each of the readers below follows them, converts as Automation does in the locale `lcid`, and answers
-/// DISP_E_TYPEMISMATCH, DISP_E_OVERFLOW or E_OUTOFMEMORY where it cannot.
+/// DISP_E_TYPEMISMATCH, also for a reference to nothing, DISP_E_OVERFLOW or E_OUTOFMEMORY where it cannot.
+
+/// As it is, in a copy that is no reference any more. `direct` is empty before.
+[[nodiscard]] HRESULT ReadDirect(const VARIANT& value, Variant& direct);
 [[nodiscard]] HRESULT ReadText(const VARIANT& value, LCID lcid, std::string& text);
 [[nodiscard]] HRESULT ReadNumber(const VARIANT& value, LCID lcid, double& number);
 [[nodiscard]] HRESULT ReadLong(const VARIANT& value, LCID lcid, LONG& number);

@@ -112,7 +112,7 @@ HRESULT AccessibleObject::LoadTypeInfo(ITypeInfo** info) noexcept {
   *info = nullptr;
   ITypeLib* library = nullptr;
   HRESULT result = LoadRegTypeLib(kAccessibilityLibrary, 1, 1, 0, &library);
-  if (FAILED(result)) result = LoadTypeLib(L"oleacc.dll", &library);
+  if (FAILED(result)) result = LoadTypeLib(SystemFile(L"oleacc.dll").Path(), &library);
   if (FAILED(result)) return result;
   result = library->GetTypeInfoOfGuid(__uuidof(IAccessible), info);
   library->Release();
@@ -165,8 +165,11 @@ HRESULT AccessibleObject::get_accParent(IDispatch** parent) noexcept {
       return S_OK;
     }
     // Around the form there is the window, of which the system tells by itself.
-    return AccessibleObjectFromWindow(tree_->Window(), static_cast<DWORD>(OBJID_WINDOW), IID_IDispatch,
-                                      reinterpret_cast<void**>(parent));
+    const auto of_window =
+        SystemFunction<decltype(&AccessibleObjectFromWindow)>(L"oleacc.dll", "AccessibleObjectFromWindow");
+    if (of_window == nullptr) return E_FAIL;
+    return of_window(tree_->Window(), static_cast<DWORD>(OBJID_WINDOW), IID_IDispatch,
+                     reinterpret_cast<void**>(parent));
   });
 }
 

@@ -42,7 +42,9 @@ Point FormAccessible::PlaceOnForm(POINT inside) const {
 std::optional<LRESULT> FormAccessible::Answer(LONG object, WPARAM wparam) {
   AccessibleObject* asked = object == OBJID_CLIENT ? root_ : HasChild(object) ? ObjectOf(object) : nullptr;
   if (asked == nullptr) return std::nullopt;
-  return LresultFromObject(__uuidof(IAccessible), wparam, static_cast<IAccessible*>(asked));
+  const auto handed_over = SystemFunction<decltype(&LresultFromObject)>(L"oleacc.dll", "LresultFromObject");
+  if (handed_over == nullptr) return std::nullopt;
+  return handed_over(__uuidof(IAccessible), wparam, static_cast<IAccessible*>(asked));
 }
 
 void FormAccessible::PerformLater(std::function<void()> action) {

@@ -228,6 +228,8 @@ void Win32FormWindow::Raise() {
   if (window_ == nullptr || form_.WindowState() == WindowState::kMinimized) return;
   const DpiScope sharp(DpiContext::Sharpest());
   const HWND window = window_;
+  // The host can have hidden it, and the form knows nothing of that.
+  if (form_.Visible() && !IsWindowVisible(window)) ApplyState();
   // Behind a dialog it is the dialog that comes to the front and keeps the keyboard.
   if (!IsWindowEnabled(window)) {
     SetForegroundWindow(GetLastActivePopup(window));

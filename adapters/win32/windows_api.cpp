@@ -1,5 +1,7 @@
 #include "adapters/win32/windows_api.h"
 
+#include <iterator>
+
 namespace orvendal {
 namespace {
 
@@ -7,15 +9,12 @@ constexpr int kDesignDpi = 96;
 
 // What the user has set since the program began; 0 where the system does not tell.
 int DpiOfPrimaryDisplay() {
-  const HMODULE shell = LoadLibraryExW(L"shcore.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  if (shell == nullptr) return 0;
-  const auto monitor_dpi = reinterpret_cast<HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*)>(
-      reinterpret_cast<void*>(GetProcAddress(shell, "GetDpiForMonitor")));
+  const auto monitor_dpi =
+      SystemFunction<HRESULT(WINAPI*)(HMONITOR, int, UINT*, UINT*)>(L"shcore.dll", "GetDpiForMonitor");
   constexpr int kEffective = 0;
   UINT across = 0, down = 0;
   const HMONITOR primary = MonitorFromPoint({0, 0}, MONITOR_DEFAULTTOPRIMARY);
   if (monitor_dpi == nullptr || FAILED(monitor_dpi(primary, kEffective, &across, &down))) across = 0;
-  FreeLibrary(shell);
   return static_cast<int>(across);
 }
 
@@ -45,6 +44,19 @@ std::wstring SingleLine(std::string_view utf8) {
     if (unit < 0x20 || unit == 0x2028 || unit == 0x2029) unit = L' ';
   }
   return line;
+}
+
+SystemFile::SystemFile(const wchar_t* name) noexcept {
+  const UINT length = GetSystemDirectoryW(path_, MAX_PATH);
+  wchar_t* const end = path_ + (length < MAX_PATH ? length : 0);
+  *end = L'\\';
+  lstrcpynW(end + 1, name, static_cast<int>(std::end(path_) - end) - 1);
+}
+
+HMODULE SystemLibrary(const wchar_t* name) noexcept {
+  const SystemFile file(name);
+  if (const HMODULE loaded = GetModuleHandleW(file.Path())) return loaded;
+  return LoadLibraryExW(file.Path(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
 }
 
 HINSTANCE ThisModule() {

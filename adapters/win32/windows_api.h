@@ -35,6 +35,26 @@ Function UserFunction(const char* name) {
                          : reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(user, name)));
 }
 
+/// Full path of a file in the system's own folder; its name has less than 32 characters.
+class SystemFile {
+ public:
+  explicit SystemFile(const wchar_t* name) noexcept;
+  const wchar_t* Path() const { return path_; }
+
+ private:
+  wchar_t path_[MAX_PATH + 32];
+};
+/// A library of the system that not every program has loaded, from the system's own folder, whatever lies
+/// beside the program. It stays loaded, since the system has objects of it. nullptr without it.
+HMODULE SystemLibrary(const wchar_t* name) noexcept;
+template <typename Function>
+Function SystemFunction(const wchar_t* library, const char* name) noexcept {
+  const HMODULE module = SystemLibrary(library);
+  return module == nullptr
+             ? nullptr
+             : reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+}
+
 /// Pixels to an inch of the primary display, as this thread counts pixels.
 int SystemDpi();
 /// The same of the display that the window is on.

@@ -23,10 +23,20 @@ orvendal::Language LanguageOfUser() {
   return orvendal::LanguageOfLocale(orvendal::Utf8(name));
 }
 
+/// From here on a library that is asked for by its name alone comes from the system's own folder. Those that
+/// the program stands on are beside it, and its manifest says so. Systems without this search as they always
+/// did.
+void TakeLibrariesOfSystemOnly() {
+  const auto set_folders =
+      orvendal::SystemFunction<BOOL(WINAPI*)(DWORD)>(L"kernel32.dll", "SetDefaultDllDirectories");
+  if (set_folders) set_folders(LOAD_LIBRARY_SEARCH_SYSTEM32);
+}
+
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*line*/, int /*show*/) {
   using namespace orvendal;
+  TakeLibrariesOfSystemOnly();
   // What the system knows of the user, and what belongs to a program without windows, is not asked for here.
   const OfferedOptions offered{.region = false, .display = false, .picture = false};
   const CommandLine line = ReadCommandLine(WordsOfCommandLine(), LanguageOfUser(), {}, offered);

@@ -6,6 +6,7 @@
 #include "adapters/ado/ado_identity.h"
 #include "adapters/automation/com_ptr.h"
 #include "adapters/automation/counted.h"
+#include "adapters/automation/dispatch_rules.h"
 #include "data_objects.h"
 
 namespace orvendal {
@@ -81,7 +82,7 @@ class DataObject : public Counted<Interface, ISupportErrorInfo> {
   }
   HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID /*lcid*/,
                                           DISPID* ids) noexcept override {
-    if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+    if (!IsReserved(iid)) return DISP_E_UNKNOWNINTERFACE;
     if (count == 0) return S_OK;
     if (!names || !ids) return E_POINTER;
     ComPtr<ITypeInfo> description;
@@ -91,8 +92,8 @@ class DataObject : public Counted<Interface, ISupportErrorInfo> {
   HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID iid, LCID /*lcid*/, WORD flags,
                                    DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* exception,
                                    UINT* wrong) noexcept override {
-    if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-    if (!arguments) return E_INVALIDARG;
+    if (!IsReserved(iid)) return DISP_E_UNKNOWNINTERFACE;
+    if (const HRESULT whole = CheckArguments(arguments); FAILED(whole)) return whole;
     const ComPtr<IUnknown> self(static_cast<Interface*>(this));
     return InvokeDescribed(kind_.interface_id, static_cast<Interface*>(this), member, flags, arguments,
                            result, exception, wrong);

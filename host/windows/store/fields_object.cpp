@@ -90,7 +90,7 @@ FieldsObject::~FieldsObject() {
 HRESULT FieldsObject::Invoke(DISPID member, REFIID iid, LCID lcid, WORD flags, DISPPARAMS* arguments,
                              VARIANT* result, EXCEPINFO* exception, UINT* wrong) noexcept {
   const bool puts = (flags & DISPATCH_PROPERTYPUT) != 0 && member == DISPID_VALUE && arguments &&
-                    arguments->cArgs == 2 && iid == IID_NULL;
+                    arguments->cArgs == 2 && arguments->rgvarg && IsReserved(iid);
   if (!puts) return DataObject::Invoke(member, iid, lcid, flags, arguments, result, exception, wrong);
   const ComPtr<IUnknown> self(static_cast<::Fields*>(this));
   ComPtr<::Field> field;

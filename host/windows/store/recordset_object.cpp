@@ -52,9 +52,7 @@ std::size_t RecordsetObject::FieldAt(const VARIANT& index) const {
   std::string name;
   LONG number = 0;
   Variant plain;
-  if (FAILED(VariantCopyInd(plain.Address(), const_cast<VARIANT*>(&index)))) {
-    throw AdoError(ado_error::kInvalidArgument);
-  }
+  if (FAILED(ReadDirect(index, plain))) throw AdoError(ado_error::kInvalidArgument);
   if (V_VT(&plain.Get()) == VT_BSTR) {
     return rows_.FieldIndex(TextOfBstr(V_BSTR(&plain.Get())));
   }

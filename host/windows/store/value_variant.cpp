@@ -68,7 +68,7 @@ VARIANT VariantOf(const Value& value, const ColumnType& type) {
 
 Value ValueOf(const VARIANT& variant) {
   Variant plain;
-  if (FAILED(VariantCopyInd(plain.Address(), const_cast<VARIANT*>(&variant)))) RaiseConversion();
+  if (FAILED(ReadDirect(variant, plain))) RaiseConversion();
   const VARIANT& held = plain.Get();
   switch (V_VT(&held)) {
     case VT_EMPTY:

@@ -106,6 +106,24 @@ TEST_F(FieldValue, WhatStandsBehindAReferenceIsRead) {
             Value(13));
 }
 
+TEST_F(FieldValue, AReferenceToNothingIsAMismatch) {
+  for (const VARENUM type : {VT_VARIANT, VT_I4, VT_R8, VT_BSTR, VT_DATE, VT_DECIMAL, VT_DISPATCH}) {
+    const auto nothing =
+        Made(static_cast<VARTYPE>(VT_BYREF | type), [](VARIANT& v) { V_BYREF(&v) = nullptr; });
+    EXPECT_EQ(NumberOfReading(nothing), error_number::kTypeMismatch) << type;
+    const auto further =
+        Made(VT_BYREF | VT_VARIANT, [&](VARIANT& v) { V_VARIANTREF(&v) = const_cast<VARIANT*>(&nothing); });
+    EXPECT_EQ(NumberOfReading(further), error_number::kTypeMismatch) << type;
+  }
+}
+
+TEST_F(FieldValue, WhatStandsBehindTwoReferencesIsReadToo) {
+  VARIANT inner = Long(13);
+  VARIANT middle = Made(VT_BYREF | VT_VARIANT, [&](VARIANT& v) { V_VARIANTREF(&v) = &inner; });
+  EXPECT_EQ(ValueOf(Made(VT_BYREF | VT_VARIANT, [&](VARIANT& v) { V_VARIANTREF(&v) = &middle; }), kSpanish),
+            Value(13));
+}
+
 TEST_F(FieldValue, WhatIsNoValueIsAMismatch) {
   EXPECT_EQ(NumberOfReading(Made(VT_DISPATCH, [](VARIANT&) {})), error_number::kTypeMismatch);
   EXPECT_EQ(NumberOfReading(Made(VT_UNKNOWN, [](VARIANT&) {})), error_number::kTypeMismatch);

@@ -181,5 +181,32 @@ TEST_F(RealWindowTest, ASecondCallBringsAMinimisedWindowBackMaximised) {
   Close();
 }
 
+TEST_F(RealWindowTest, ASecondCallBringsBackAWindowThatTheHostHid) {
+  Open();
+  const RECT place = [] {
+    RECT bounds{};
+    GetWindowRect(Window(), &bounds);
+    return bounds;
+  }();
+  ShowWindow(Window(), SW_HIDE);
+  Pump();
+  EXPECT_FALSE(IsWindowVisible(Window()));
+  Open();
+  EXPECT_TRUE(IsWindowVisible(Window()));
+  EXPECT_TRUE(IsZoomed(Window()));
+  EXPECT_EQ(GetActiveWindow(), Window());
+  RECT now{};
+  GetWindowRect(Window(), &now);
+  EXPECT_TRUE(EqualRect(&now, &place));
+  Press(VK_F1);
+  EXPECT_EQ(behaviour.calls.back(), "AccionPuesto ''") << "and it takes keys";
+  Screen().WindowState(WindowState::kMinimized);
+  ShowWindow(Window(), SW_HIDE);
+  Open();
+  EXPECT_TRUE(IsWindowVisible(Window()));
+  EXPECT_TRUE(IsZoomed(Window()));
+  Close();
+}
+
 }  // namespace
 }  // namespace orvendal

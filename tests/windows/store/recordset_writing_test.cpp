@@ -138,6 +138,19 @@ TEST_P(RecordsetWriting, AFieldOfAnotherRecordsetStandsForItsValue) {
   EXPECT_EQ(ValueOf(recordset.Get(), "ModificadoPor"), "01");
 }
 
+TEST_P(RecordsetWriting, AReferenceToNothingIsNoValueAndNoField) {
+  const auto recordset = Opened(Connected(), "SELECT * FROM Sucursales", kDynamic, kOptimistic);
+  ASSERT_EQ(recordset->AddNew(Arg(), Arg()), S_OK);
+  for (const VARENUM type : {VT_VARIANT, VT_BSTR, VT_R8}) {
+    VARIANT nothing = {};
+    V_VT(&nothing) = static_cast<VARTYPE>(VT_BYREF | type);
+    V_BYREF(&nothing) = nullptr;
+    EXPECT_EQ(recordset->put_Collect(Arg("Nombre"), nothing), AdoFailure(3421)) << type;
+    EXPECT_EQ(recordset->put_Collect(nothing, Arg("Norte")), AdoFailure(3001)) << type;
+  }
+  EXPECT_EQ(recordset->CancelUpdate(), S_OK);
+}
+
 TEST_P(RecordsetWriting, ARowThatTheStoreRefusesStaysPending) {
   const ComPtr<::_Recordset> recordset = History();
   StartRow(recordset.Get());

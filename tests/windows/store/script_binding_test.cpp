@@ -183,6 +183,56 @@ TEST_P(ScriptBinding, ArgumentsAreNamedAsInADO) {
   EXPECT_EQ(ids, (std::vector<DISPID>{0x3FE, 0, 1, 2, 3, 4}));
 }
 
+// Clients in C leave the identifier that has no meaning out altogether.
+TEST_P(ScriptBinding, AReservedIdentifierThatIsLeftOutIsNoHarm) {
+  using Names = HRESULT(STDMETHODCALLTYPE*)(IDispatch*, const IID*, LPOLESTR*, UINT, LCID, DISPID*);
+  using Call = HRESULT(STDMETHODCALLTYPE*)(IDispatch*, DISPID, const IID*, LCID, WORD, DISPPARAMS*, VARIANT*,
+                                           EXCEPINFO*, UINT*);
+  const ComPtr<::_Connection> connection = Connected();
+  const ComPtr<::_Recordset> recordset = Opened(connection, "SELECT * FROM Sucursales", kStatic, kReadOnly);
+  ComPtr<::Fields> fields;
+  ComPtr<::Field> field;
+  ASSERT_EQ(recordset->get_Fields(fields.Receive()), S_OK);
+  ASSERT_EQ(fields->get_Item(Arg(1), field.Receive()), S_OK);
+  const std::vector<std::pair<IDispatch*, const wchar_t*>> objects = {{connection.Get(), L"State"},
+                                                                      {recordset.Get(), L"State"},
+                                                                      {fields.Get(), L"Count"},
+                                                                      {field.Get(), L"Type"}};
+  for (const auto& [object, member] : objects) {
+    const void* const* const table = *reinterpret_cast<const void* const* const*>(object);
+    auto* name = const_cast<LPOLESTR>(member);
+    DISPID id = 0;
+    EXPECT_EQ(reinterpret_cast<Names>(const_cast<void*>(table[5]))(object, nullptr, &name, 1, 0, &id), S_OK);
+    DISPPARAMS none{};
+    Variant result;
+    EXPECT_EQ(reinterpret_cast<Call>(const_cast<void*>(table[6]))(object, id, nullptr, 0, kGet, &none,
+                                                                  result.Address(), nullptr, nullptr),
+              S_OK);
+    EXPECT_EQ(V_VT(&result.Get()), VT_I4) << Utf8Text(member);
+    EXPECT_EQ(object->GetIDsOfNames(IID_IUnknown, &name, 1, 0, &id), DISP_E_UNKNOWNINTERFACE);
+  }
+}
+
+TEST_P(ScriptBinding, ArgumentsThatArePromisedAndNotThereAreRefused) {
+  const ComPtr<::_Connection> connection = Connected();
+  const ComPtr<::_Recordset> recordset = Opened(connection, "SELECT * FROM Sucursales", kStatic, kReadOnly);
+  ComPtr<::Fields> fields;
+  ASSERT_EQ(recordset->get_Fields(fields.Receive()), S_OK);
+  DISPID put = DISPID_PROPERTYPUT;
+  for (IDispatch* const object :
+       {static_cast<IDispatch*>(recordset.Get()), static_cast<IDispatch*>(fields.Get())}) {
+    for (const UINT count : {1U, 2U}) {
+      DISPPARAMS promised{nullptr, &put, count, 1};
+      EXPECT_EQ(object->Invoke(DISPID_VALUE, IID_NULL, 0, DISPATCH_PROPERTYPUT, &promised, nullptr, nullptr,
+                               nullptr),
+                E_INVALIDARG);
+    }
+    DISPPARAMS nameless{nullptr, nullptr, 0, 1};
+    EXPECT_EQ(object->Invoke(DISPID_VALUE, IID_NULL, 0, kGet, &nameless, nullptr, nullptr, nullptr),
+              E_INVALIDARG);
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Dialects, ScriptBinding, ::testing::Values(Dialect::kSqlServer, Dialect::kJet),
                          NameOf);
 

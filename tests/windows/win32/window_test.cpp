@@ -150,6 +150,19 @@ TEST_F(WindowOnWindows, HideAndShowKeepTheSameWindow) {
   EXPECT_TRUE(IsWindowVisible(window));
 }
 
+TEST_F(WindowOnWindows, AWindowThatSomebodyElseHidComesBackWithShow) {
+  ShowForm();
+  const HWND window = Window();
+  ShowWindow(window, SW_HIDE);
+  Pump();
+  EXPECT_FALSE(IsWindowVisible(window));
+  form->Show();
+  EXPECT_EQ(Window(), window);
+  EXPECT_TRUE(IsWindowVisible(window));
+  form->Hide();
+  EXPECT_FALSE(IsWindowVisible(window)) << "and goes when the form goes";
+}
+
 TEST_F(WindowOnWindows, AWindowThatTheHostDestroysUnloadsItsForm) {
   ShowForm();
   DestroyWindow(Window());
