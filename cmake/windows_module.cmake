@@ -1,11 +1,13 @@
 # What every DLL and EXE for Windows has in common: the runtime inside, its symbols in a file of their own.
 
-# Splits the symbols of `target` off to <file>.debug beside it, where gdb finds them.
+# Splits the symbols of `target` off to <file>.debug beside it, where gdb finds them. The tools note the moment in
+# what they write, as the linker is told not to; here they are told another one.
 function(orvendal_split_symbols target)
+  set(at_no_moment ${CMAKE_COMMAND} -E env SOURCE_DATE_EPOCH=0)
   add_custom_command(TARGET ${target} POST_BUILD
-    COMMAND ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:${target}> $<TARGET_FILE:${target}>.debug
-    COMMAND ${CMAKE_STRIP} --strip-all $<TARGET_FILE:${target}>
-    COMMAND ${CMAKE_OBJCOPY} --add-gnu-debuglink=$<TARGET_FILE:${target}>.debug $<TARGET_FILE:${target}>
+    COMMAND ${at_no_moment} ${CMAKE_OBJCOPY} --only-keep-debug $<TARGET_FILE:${target}> $<TARGET_FILE:${target}>.debug
+    COMMAND ${at_no_moment} ${CMAKE_STRIP} --strip-all $<TARGET_FILE:${target}>
+    COMMAND ${at_no_moment} ${CMAKE_OBJCOPY} --add-gnu-debuglink=$<TARGET_FILE:${target}>.debug $<TARGET_FILE:${target}>
     COMMENT "Splitting the symbols of ${target} off")
 endfunction()
 
@@ -22,6 +24,7 @@ endfunction()
 
 # Type libraries are compiled with widl; stdole2 and the idl files of the system come from Wine's packages.
 find_program(WIDL_PROGRAM ${ORVENDAL_MINGW_PREFIX}-widl REQUIRED)
+find_program(PERL_PROGRAM perl REQUIRED)
 find_path(WINE_IDL_FOLDER oaidl.idl
   PATHS /usr/include/wine/wine/windows /usr/include/wine/windows
   NO_CMAKE_FIND_ROOT_PATH NO_DEFAULT_PATH REQUIRED)
@@ -50,8 +53,9 @@ function(orvendal_add_type_library idl)
   add_custom_command(
     OUTPUT ${out}/${name}.tlb ${out}/${name}.h
     COMMAND ${WIDL_PROGRAM} ${flags} -t -o ${out}/${name}.tlb ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
+    COMMAND ${PERL_PROGRAM} ${PROJECT_SOURCE_DIR}/cmake/steady_type_library.pl ${out}/${name}.tlb
     COMMAND ${WIDL_PROGRAM} ${flags} -h -o ${out}/${name}.h ${CMAKE_CURRENT_SOURCE_DIR}/${idl}
-    DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${idl} ${needs}
+    DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${idl} ${PROJECT_SOURCE_DIR}/cmake/steady_type_library.pl ${needs}
     VERBATIM)
   add_custom_target(${name}_idl_files DEPENDS ${out}/${name}.tlb ${out}/${name}.h)
   add_library(${name}_idl INTERFACE)
