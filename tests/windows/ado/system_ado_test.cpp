@@ -10,12 +10,16 @@
 
 #include "adapters/ado/ado_identity.h"
 #include "adapters/ado/ado_recordset.h"
+#include "adapters/ado/ado_recordset_factory.h"
 #include "adapters/ado/ado_wrappers.h"
 #include "adapters/automation/bstr.h"
 #include "adapters/automation/variant.h"
 #include "platform/base/runtime_error.h"
 #include "platform/base/text.h"
-#include "tests/windows/ado/registered_class.h"
+#include "platform/data/ado_error.h"
+#include "store/date_condition.h"
+#include "store/statements.h"
+#include "tests/windows/ado/recording_provider.h"
 #include "tests/windows/ado/system_ado.h"
 #include "tests/windows/com/tested_dll.h"
 
@@ -129,6 +133,16 @@ ComPtr<ITypeInfo> Described(const ComPtr<ITypeLib>& library, const GUID& older, 
   return info;
 }
 
+template <typename Action>
+std::int32_t NumberOf(const Action& action) {
+  try {
+    action();
+  } catch (const RuntimeError& error) {
+    return error.Number();
+  }
+  return 0;
+}
+
 class SystemAdo : public testing::Test {
  protected:
   const ComThread com;
@@ -226,6 +240,54 @@ TEST_F(SystemAdo, ItsRecordsetsServeAsTheThreeDictionaries) {
     dictionary->Close();
     EXPECT_EQ(dictionary->State(), kStateClosed);
   }
+}
+
+// Its connections, over a provider that takes down what it is asked.
+
+class SystemAdoConnection : public SystemAdo {
+ protected:
+  SystemAdoConnection() {
+    EXPECT_EQ(CoCreateInstance(ado::kConnectionClass, nullptr, CLSCTX_INPROC_SERVER, ado::kConnection,
+                               object_.ReceiveVoid()),
+              S_OK);
+    const BstrCell text(std::string("Provider=") + RecordingProvider::kName + ";Data Source=cadena");
+    const BstrCell nothing("");
+    EXPECT_EQ(object_->Open(text.Get(), nothing.Get(), nothing.Get(), -1), S_OK);
+    connection = WrapConnection(object_.Get());
+  }
+
+  RecordingProvider provider;
+  ConnectionRef connection;
+  AdoRecordsetFactory recordsets;
+
+ private:
+  ComPtr<::_Connection> object_;
+};
+
+TEST_F(SystemAdoConnection, TakesTheDeleteOfADayWordForWord) {
+  ASSERT_TRUE(connection);
+  EXPECT_NE(connection->Provider(), "");
+  EXPECT_EQ(provider.Log().calls, (std::vector<std::string>{"with cadena", "open"}));
+  provider.Log().calls.clear();
+  const std::string condition = DateConditionOfSave(connection, "16/11/2026", Region::Spanish());
+  const std::string statement = statements::DeleteDay("Ñ1", condition);
+  const RecordsetRef recordset = recordsets.NewRecordset();
+  statements::OpenForWriting(*recordset, statement, connection);
+  EXPECT_EQ(provider.Log().calls, std::vector<std::string>{"run " + statement});
+  EXPECT_EQ(recordset->State(), kStateClosed) << "a delete has no rows";
+  statements::OpenForWriting(*recordset, statement, connection);
+  EXPECT_EQ(provider.Log().calls.size(), 2U) << "and the recordset can be opened at once";
+}
+
+TEST_F(SystemAdoConnection, SaysWhatTheProviderRefusedAndStaysUsable) {
+  ASSERT_TRUE(connection);
+  const RecordsetRef recordset = recordsets.NewRecordset();
+  provider.Log().answer = ado_error::kSyntax;
+  const auto open = [&] { statements::OpenForWriting(*recordset, "DELETE", connection); };
+  EXPECT_EQ(NumberOf(open), ado_error::kSyntax);
+  EXPECT_EQ(recordset->State(), kStateClosed);
+  provider.Log().answer = S_OK;
+  EXPECT_NO_THROW(open());
 }
 
 }  // namespace
