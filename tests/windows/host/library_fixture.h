@@ -43,8 +43,18 @@ class CountedBox final : public IDispatch {
     }
     return DISP_E_UNKNOWNNAME;
   }
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result,
-                                   EXCEPINFO*, UINT*) noexcept override {
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* arguments,
+                                   VARIANT* result, EXCEPINFO*, UINT*) noexcept override {
+    if ((flags & DISPATCH_PROPERTYPUT) != 0) {
+      const VARIANT& value = arguments->rgvarg[0];
+      if (member == 1) {
+        text_ = V_BSTR(&value);
+        start_ = length_ = 0;
+      } else {
+        (member == 2 ? start_ : length_) = V_I4(&value);
+      }
+      return S_OK;
+    }
     if (member == 1) {
       V_VT(result) = VT_BSTR;
       V_BSTR(result) = SysAllocString(text_.c_str());
@@ -54,6 +64,16 @@ class CountedBox final : public IDispatch {
     }
     return S_OK;
   }
+
+  const std::wstring& Text() const { return text_; }
+  /// What it holds after a key, the caret behind it.
+  void Type(const std::wstring& text) {
+    text_ = text;
+    start_ = static_cast<LONG>(text.size());
+    length_ = 0;
+  }
+  LONG Start() const { return start_; }
+  LONG Length() const { return length_; }
 
   ULONG references = 1;
 

@@ -101,23 +101,60 @@ TEST_F(LibraryTest, FillsTheSessionAndReplacesWhatItOwns) {
 }
 
 TEST_F(LibraryTest, FiltersTheKeysOfAQuantity) {
-  const auto tools = Make<_Herramientas>(__uuidof(::Herramientas));
   CountedBox box(L"1234567", 7, 0);
   CountedBox selected(L"1234567", 0, 7);
+  // Each key is another hand's: without messages all of them come at the same time.
   const auto filtered = [&](CountedBox& caja, SHORT key, bool decimals) {
+    const auto tools = Make<_Herramientas>(__uuidof(::Herramientas));
     ComPtr<IDispatch> argument(&caja);
     VARIANT_BOOL option = decimals ? VARIANT_TRUE : VARIANT_FALSE;
     SHORT result = -1;
     EXPECT_EQ(tools->FiltrarTecla(argument.InOut(), &key, &option, &result), S_OK);
     return result;
   };
-  EXPECT_EQ(filtered(box, '8', true), 0);
   EXPECT_EQ(filtered(selected, '8', true), '8');
   EXPECT_EQ(filtered(box, 'x', true), 0);
   EXPECT_NE(filtered(box, '.', true), 0);
   EXPECT_EQ(filtered(box, '.', false), 0);
   EXPECT_EQ(filtered(box, 8, true), 8);
+  EXPECT_EQ(box.Start(), 7);
+  EXPECT_EQ(filtered(box, '8', true), 0);
+  EXPECT_EQ(box.Text(), L"1234567");
+  EXPECT_EQ(box.Start(), 0);
+  EXPECT_EQ(box.Length(), 7);
   EXPECT_EQ(box.references, 1U);
+}
+
+TEST_F(LibraryTest, ABarCodeScannedIntoAQuantityGivesBackWhatTheBoxShowed) {
+  const auto tools = Make<_Herramientas>(__uuidof(::Herramientas));
+  CountedBox box(L"12", 0, 2);
+  ComPtr<IDispatch> argument(&box);
+  VARIANT_BOOL decimals = VARIANT_TRUE;
+  SHORT result = -1;
+  for (const char character : std::string("8412345678905\r")) {
+    SHORT key = character;
+    ASSERT_EQ(tools->FiltrarTecla(argument.InOut(), &key, &decimals, &result), S_OK);
+    if (result == 0) continue;
+    const bool selected = box.Length() > 0;
+    box.Type((selected ? std::wstring() : box.Text()) + static_cast<wchar_t>(result));
+  }
+  EXPECT_EQ(box.Text(), L"12");
+  EXPECT_EQ(box.Length(), 2);
+  EXPECT_EQ(result, 0) << "the reader's Enter";
+  argument.Reset();
+}
+
+TEST_F(LibraryTest, AtEnterALoneMarkIsNoQuantity) {
+  const auto tools = Make<_Herramientas>(__uuidof(::Herramientas));
+  CountedBox box(L"-", 0, 0);
+  ComPtr<IDispatch> argument(&box);
+  VARIANT_BOOL decimals = VARIANT_TRUE;
+  SHORT key = 13;
+  SHORT result = -1;
+  ASSERT_EQ(tools->FiltrarTecla(argument.InOut(), &key, &decimals, &result), S_OK);
+  EXPECT_EQ(box.Text(), L"");
+  EXPECT_EQ(result, 0);
+  argument.Reset();
 }
 
 TEST_F(LibraryTest, LetsGoOfAForm) {
