@@ -55,24 +55,24 @@ void NewRow::Post() {
   PrepareInsert();
   int index = 0;
   for (const std::size_t column : assigned_) BindValue(insert_.Get(), ++index, values_[column]);
-  if (sqlite3_step(insert_.Get()) != SQLITE_DONE) {
+  if (insert_.Step() != SQLITE_DONE) {
     const RuntimeError error = StoreError(connection_->Handle(), connection_->GetDialect());
-    sqlite3_reset(insert_.Get());
+    insert_.Reset();
     throw error;
   }
   row_id_ = sqlite3_last_insert_rowid(connection_->Handle());
-  sqlite3_reset(insert_.Get());
+  insert_.Reset();
   pending_ = false;
 }
 
 std::vector<Value> NewRow::ReadBack() const {
   std::string names;
   for (const TargetColumn& column : columns_) names += (names.empty() ? "" : ", ") + QuotedName(column.name);
-  const StatementLease lease = StatementCache::Prepare(
+  StatementLease lease = StatementCache::Prepare(
       connection_->Statements(), "SELECT " + names + " FROM " + QuotedName(table_) + " WHERE rowid = ?");
   if (!lease) return values_;  // a table without row numbers
   sqlite3_bind_int64(lease.Get(), 1, row_id_);
-  if (sqlite3_step(lease.Get()) != SQLITE_ROW) return values_;
+  if (lease.Step() != SQLITE_ROW) return values_;
   std::vector<Value> row;
   for (std::size_t i = 0; i < columns_.size(); ++i) {
     row.push_back(ReadColumn(lease.Get(), static_cast<int>(i), columns_[i].type.kind));

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 
-#include "adapters/sqlite/statement_cache.h"
 #include "adapters/sqlite/store_error.h"
 
 namespace orvendal::sqlite {
@@ -21,16 +20,16 @@ StatementLease PrepareOn(const SqliteConnection& connection, const std::string& 
 
 }  // namespace
 
-void RowBuffer::ReadRows(sqlite3_stmt* prepared, int code) {
-  for (; code == SQLITE_ROW; code = sqlite3_step(prepared)) {
+void RowBuffer::ReadRows(StatementLease& prepared, int code) {
+  for (; code == SQLITE_ROW; code = prepared.Step()) {
     for (std::size_t i = 0; i < columns_.size(); ++i) {
-      cells_.push_back(ReadColumn(prepared, static_cast<int>(i), columns_[i]));
+      cells_.push_back(ReadColumn(prepared.Get(), static_cast<int>(i), columns_[i]));
     }
   }
   if (code != SQLITE_DONE) throw StoreError(connection_->Handle(), connection_->GetDialect());
 }
 
-void RowBuffer::ReadAll(sqlite3_stmt* prepared, int code) {
+void RowBuffer::ReadAll(StatementLease& prepared, int code) {
   ReadRows(prepared, code);
   complete_ = true;
 }
@@ -42,11 +41,11 @@ void RowBuffer::ReadPart() {
   const std::size_t parameters = statement_.parameters.size();
   const std::string limit =
       " LIMIT ?" + std::to_string(parameters + 1) + " OFFSET ?" + std::to_string(parameters + 2);
-  const StatementLease lease = PrepareOn(*connection_, "SELECT * FROM (" + statement_.sql + ")" + limit);
+  StatementLease lease = PrepareOn(*connection_, "SELECT * FROM (" + statement_.sql + ")" + limit);
   statement_.Bind(lease.Get());
   sqlite3_bind_int64(lease.Get(), static_cast<int>(parameters) + 1, static_cast<sqlite3_int64>(wanted));
   sqlite3_bind_int64(lease.Get(), static_cast<int>(parameters) + 2, static_cast<sqlite3_int64>(present));
-  ReadRows(lease.Get(), sqlite3_step(lease.Get()));
+  ReadRows(lease, lease.Step());
   complete_ = Count() - present < wanted;
 }
 
@@ -60,10 +59,9 @@ void RowBuffer::Append(const std::vector<Value>& row) {
 }
 
 std::int32_t RowBuffer::CountInStore() const {
-  const StatementLease lease = PrepareOn(*connection_, "SELECT COUNT(*) FROM (" + statement_.sql + ")");
+  StatementLease lease = PrepareOn(*connection_, "SELECT COUNT(*) FROM (" + statement_.sql + ")");
   statement_.Bind(lease.Get());
-  if (sqlite3_step(lease.Get()) != SQLITE_ROW)
-    throw StoreError(connection_->Handle(), connection_->GetDialect());
+  if (lease.Step() != SQLITE_ROW) throw StoreError(connection_->Handle(), connection_->GetDialect());
   return sqlite3_column_int(lease.Get(), 0);
 }
 

@@ -6,6 +6,7 @@
 
 #include "adapters/sqlite/column_type.h"
 #include "adapters/sqlite/sqlite_store.h"
+#include "adapters/sqlite/statement_cache.h"
 #include "adapters/sqlite/statement_rewriter.h"
 
 namespace orvendal::sqlite {
@@ -22,7 +23,7 @@ class RowBuffer {
       : connection_(std::move(connection)), statement_(std::move(statement)), columns_(std::move(columns)) {}
 
   /// Reads `prepared`, the statement itself, to its end; `code` is what its first step gave.
-  void ReadAll(sqlite3_stmt* prepared, int code);
+  void ReadAll(StatementLease& prepared, int code);
   /// Reads on until the row `index` is here; false if there is none. Raises the store's error.
   bool Reach(std::size_t index);
   /// Adds a row at the end; only where Complete().
@@ -38,7 +39,7 @@ class RowBuffer {
 
  private:
   void ReadPart();
-  void ReadRows(sqlite3_stmt* prepared, int code);
+  void ReadRows(StatementLease& prepared, int code);
 
   std::shared_ptr<SqliteConnection> connection_;
   RewrittenStatement statement_;

@@ -42,12 +42,12 @@ void SqliteRecordset::Open(const std::string& source, const ConnectionRef& conne
                                          });
   // The columns of a statement used again are known for sure once it has made its first step.
   const bool read_later = cursor == CursorType::kDynamic;
-  const StatementLease lease = read_later ? StatementCache::PrepareAfresh(store->Statements(), statement.sql)
-                                          : StatementCache::Prepare(store->Statements(), statement.sql);
+  StatementLease lease = read_later ? StatementCache::PrepareAfresh(store->Statements(), statement.sql)
+                                    : StatementCache::Prepare(store->Statements(), statement.sql);
   if (!lease) throw StoreError(database, store->GetDialect());
   statement.Bind(lease.Get());
   const bool has_rows = sqlite3_column_count(lease.Get()) != 0;
-  const int first_step = read_later && has_rows ? SQLITE_DONE : sqlite3_step(lease.Get());
+  const int first_step = read_later && has_rows ? SQLITE_DONE : lease.Step();
   if (first_step != SQLITE_ROW && first_step != SQLITE_DONE) throw StoreError(database, store->GetDialect());
   if (!has_rows) return;
 
@@ -62,7 +62,7 @@ void SqliteRecordset::Open(const std::string& source, const ConnectionRef& conne
     targets.push_back({names.back(), type});
   }
   RowBuffer rows(store, statement, std::move(kinds));
-  if (!read_later) rows.ReadAll(lease.Get(), first_step);
+  if (!read_later) rows.ReadAll(lease, first_step);
   NewRow new_row(store, table, std::move(targets));
   contents_.emplace(
       Contents{std::move(store), cursor, lock, std::move(names), std::move(rows), std::move(new_row)});

@@ -2,9 +2,13 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
+#include <filesystem>
+
 #include "adapters/sqlite/column_type.h"
 #include "adapters/sqlite/sqlite_recordset.h"
 #include "adapters/sqlite/statement_cache.h"
+#include "adapters/sqlite/statement_guard.h"
 #include "adapters/sqlite/store_error.h"
 #include "adapters/sqlite/store_functions.h"
 #include "adapters/sqlite/stored_date.h"
@@ -14,24 +18,22 @@ namespace orvendal {
 namespace {
 
 constexpr int kBusyMilliseconds = 2000;
+constexpr int kCommandMilliseconds = 30000;
+constexpr const char* kInMemory = ":memory:";
 
 int Run(sqlite3* database, const char* sql) {
   return sqlite3_exec(database, sql, nullptr, nullptr, nullptr);
 }
 
-// What has to hold before the first statement. The first pragma reads the file, so that it fails here if the
-// file is no database. A file that may only be read, or that others use at this moment, keeps the journal
-// that it has.
-int Prepare(sqlite3* database) {
-  sqlite3_busy_timeout(database, kBusyMilliseconds);
-  // A misspelt name in double quotes must not turn into a text.
-  sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-  if (Run(database, "PRAGMA schema_version") != SQLITE_OK) return sqlite3_extended_errcode(database);
-  const int journal = Run(database, "PRAGMA journal_mode = WAL") & 0xFF;
-  const bool kept = journal == SQLITE_READONLY || journal == SQLITE_BUSY;
-  if (journal != SQLITE_OK && !kept) return sqlite3_extended_errcode(database);
-  if (Run(database, "PRAGMA synchronous = NORMAL") != SQLITE_OK) return sqlite3_extended_errcode(database);
-  return SQLITE_OK;
+// The engine reads "file:" names as instructions to itself, which no absolute path can be taken for. Empty
+// for a path that cannot be made absolute.
+std::string AbsolutePath(const std::string& path) {
+  namespace fs = std::filesystem;
+  if (path == kInMemory) return path;
+  if (path.empty() || path.find('\0') != std::string::npos) return {};
+  std::error_code error;
+  const std::u8string absolute = fs::absolute(std::u8string(path.begin(), path.end()), error).u8string();
+  return error ? std::string() : std::string(absolute.begin(), absolute.end());
 }
 
 }  // namespace
@@ -41,24 +43,50 @@ SqliteConnection::SqliteConnection(sqlite3* database, std::string path, Dialect 
       path_(std::move(path)),
       dialect_(dialect),
       region_(region),
+      guard_(std::make_unique<sqlite::StatementGuard>(database)),
       statements_(std::make_shared<sqlite::StatementCache>(database)) {
   sqlite::RegisterFunctions(database_, region_);
+  BusyTimeout(kBusyMilliseconds);
+  CommandTimeout(kCommandMilliseconds);
+}
+
+SqliteConnection::~SqliteConnection() {
+  Close();
 }
 
 std::shared_ptr<SqliteConnection> SqliteConnection::Open(const std::string& path, Dialect dialect,
-                                                         const Region& region, OpenMode mode) {
+                                                         const Region& region, OpenMode mode,
+                                                         const FirstLook& first_look) {
   // The engine would make a store of its own for an empty path.
-  if (path.empty()) throw sqlite::OpenError(SQLITE_CANTOPEN, path);
+  const std::string file = AbsolutePath(path);
+  if (file.empty()) throw sqlite::OpenError(SQLITE_CANTOPEN, path);
   sqlite3* database = nullptr;
   const int create = mode == OpenMode::kCreate ? SQLITE_OPEN_CREATE : 0;
-  int code = sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | create,
+  int code = sqlite3_open_v2(file.c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_EXRESCODE | create,
                              nullptr);
-  if (code == SQLITE_OK) code = Prepare(database);
   if (code != SQLITE_OK) {
     sqlite3_close(database);
     throw sqlite::OpenError(code, path);
   }
-  return std::shared_ptr<SqliteConnection>(new SqliteConnection(database, path, dialect, region));
+  std::shared_ptr<SqliteConnection> store(new SqliteConnection(database, path, dialect, region));
+  // The first pragma reads the file, so that the opening fails here if the file is no database.
+  if (Run(database, "PRAGMA schema_version") != SQLITE_OK) {
+    throw sqlite::OpenError(sqlite3_extended_errcode(database), path);
+  }
+  if (first_look) first_look(*store);
+  code = store->UseWriteAheadLog();
+  if (code != SQLITE_OK) throw sqlite::OpenError(code, path);
+  return store;
+}
+
+// A file that may only be read, or that others use at this moment, keeps the journal that it has.
+int SqliteConnection::UseWriteAheadLog() {
+  const sqlite::StatementGuard::HostsOwn own(*guard_);
+  const int journal = Run(database_, "PRAGMA journal_mode = WAL") & 0xFF;
+  const bool kept = journal == SQLITE_READONLY || journal == SQLITE_BUSY;
+  if (journal != SQLITE_OK && !kept) return sqlite3_extended_errcode(database_);
+  if (Run(database_, "PRAGMA synchronous = NORMAL") != SQLITE_OK) return sqlite3_extended_errcode(database_);
+  return SQLITE_OK;
 }
 
 std::string SqliteConnection::Provider() const {
@@ -72,6 +100,7 @@ void SqliteConnection::CheckNumber(const std::string& text) const {
 void SqliteConnection::Close() {
   if (database_ == nullptr) return;
   statements_->Close();
+  guard_->LetGo();
   sqlite3_close_v2(database_);
   database_ = nullptr;
 }
@@ -80,8 +109,13 @@ void SqliteConnection::BusyTimeout(int milliseconds) {
   if (IsOpen()) sqlite3_busy_timeout(database_, milliseconds);
 }
 
+void SqliteConnection::CommandTimeout(int milliseconds) {
+  statements_->TimeLimit(std::chrono::milliseconds(milliseconds));
+}
+
 void SqliteConnection::Execute(const std::string& native_sql) {
   CheckInPlace();
+  const sqlite::StatementGuard::HostsOwn own(*guard_);
   statements_->Clear();  // it may alter the tables that they name
   if (Run(database_, native_sql.c_str()) != SQLITE_OK) throw sqlite::NativeError(database_, dialect_);
 }
@@ -97,6 +131,8 @@ SqliteStatement::SqliteStatement(SqliteConnection& connection, std::string_view 
     : connection_(connection), statement_(nullptr) {
   connection.CheckInPlace();
   const std::string sql(native_sql);
+  // The engine would take it for the end.
+  if (sql.find('\0') != std::string::npos) throw sqlite::SyntaxError(connection.GetDialect(), "NUL");
   sqlite::StatementLease lease = sqlite::StatementCache::Prepare(connection.Statements(), sql, &rest_);
   if (!lease && sqlite3_errcode(connection.Handle()) != SQLITE_OK) {
     throw sqlite::NativeError(connection.Handle(), connection.GetDialect());
@@ -118,11 +154,11 @@ SqliteStatement& SqliteStatement::Bind(int index, const Value& value) {
 }
 
 bool SqliteStatement::Step() {
-  const int code = sqlite3_step(statement_);
+  const int code = lease_->Step();
   if (code == SQLITE_ROW) return true;
   if (code == SQLITE_DONE) return false;
   const RuntimeError error = sqlite::NativeError(connection_.Handle(), connection_.GetDialect());
-  sqlite3_reset(statement_);
+  lease_->Reset();
   throw error;
 }
 
@@ -133,7 +169,7 @@ void SqliteStatement::Run() {
 }
 
 void SqliteStatement::Reset() {
-  sqlite3_reset(statement_);
+  lease_->Reset();
 }
 
 int SqliteStatement::ColumnCount() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -17,6 +18,7 @@ namespace orvendal {
 
 namespace sqlite {
 class StatementCache;
+class StatementGuard;
 class StatementLease;
 }  // namespace sqlite
 
@@ -27,17 +29,25 @@ enum class OpenMode { kExisting, kCreate };
 /// it with the statements of that dialect; the host's own work on the file goes through Execute and
 /// SqliteStatement, in plain SQLite. Every statement commits by itself unless the host has said BEGIN.
 ///
+/// Whatever file it is and whatever a statement says, nothing beyond the tables of the file is within reach:
+/// see StatementGuard. What a recordset or a SqliteStatement runs raises -2147217911 for an attempt, and
+/// -2147217871 when it takes longer than the time for a command.
+///
 /// Invariant: open from Open until Close; a recordset of a closed connection is closed.
 class SqliteConnection final : public Connection {
  public:
-  /// Opens the file, or a store in memory of its own for ":memory:". `region` is how texts given to columns
-  /// are read and must live as long as the connection. Raises -2147467259, in plain words, if the file is
-  /// missing, locked, damaged or no database.
+  /// Looks at a file that is open, before anything has been written to it; what it raises ends the opening.
+  using FirstLook = std::function<void(SqliteConnection& store)>;
+
+  /// Opens the file, or a store in memory of its own for ":memory:". Any other `path` is the name of a file
+  /// and nothing else. `region` is how texts given to columns are read and must live as long as the
+  /// connection. Raises -2147467259, in plain words, if the file is missing, locked, damaged or no database.
   static std::shared_ptr<SqliteConnection> Open(const std::string& path, Dialect dialect,
-                                                const Region& region, OpenMode mode);
+                                                const Region& region, OpenMode mode,
+                                                const FirstLook& first_look = {});
   SqliteConnection(const SqliteConnection&) = delete;
   SqliteConnection& operator=(const SqliteConnection&) = delete;
-  ~SqliteConnection() override { Close(); }
+  ~SqliteConnection() override;
 
   std::string Provider() const override;
   void CheckNumber(const std::string& text) const override;
@@ -49,9 +59,11 @@ class SqliteConnection final : public Connection {
   void Close();
   /// How long to wait for another program that holds the store, 2,000 milliseconds at first.
   void BusyTimeout(int milliseconds);
+  /// How long a statement may run, 30,000 milliseconds at first; 0 for without end.
+  void CommandTimeout(int milliseconds);
 
-  /// Runs any number of statements of plain SQLite. Raises the store's error at the first that fails; 3709 on
-  /// a closed connection.
+  /// Runs any number of statements of plain SQLite that the host wrote itself, for as long as they take, and
+  /// with any pragma. Raises the store's error at the first that fails; 3709 on a closed connection.
   void Execute(const std::string& native_sql);
   /// Null when closed. It stays the connection's.
   sqlite3* Handle() const { return database_; }
@@ -63,11 +75,13 @@ class SqliteConnection final : public Connection {
 
  private:
   SqliteConnection(sqlite3* database, std::string path, Dialect dialect, const Region& region);
+  int UseWriteAheadLog();
 
   sqlite3* database_;
   std::string path_;
   Dialect dialect_;
   const Region& region_;
+  std::unique_ptr<sqlite::StatementGuard> guard_;
   std::shared_ptr<sqlite::StatementCache> statements_;
 };
 
@@ -75,8 +89,8 @@ class SqliteConnection final : public Connection {
 /// the connection's being open. The connection keeps it prepared for the next one of the same text.
 class SqliteStatement {
  public:
-  /// Raises the store's error if `native_sql` cannot be prepared. What follows its first statement is left
-  /// over: see Rest.
+  /// Raises the store's error if `native_sql` cannot be prepared or has a NUL in it. What follows its first
+  /// statement is left over: see Rest.
   SqliteStatement(SqliteConnection& connection, std::string_view native_sql);
   SqliteStatement(const SqliteStatement&) = delete;
   SqliteStatement& operator=(const SqliteStatement&) = delete;

@@ -9,6 +9,8 @@ namespace orvendal::sqlite {
 namespace {
 
 constexpr std::size_t kMostIdle = 16;
+// Steps of the engine's machine from one look at the clock to the next: about a millisecond.
+constexpr int kStepsBetweenLooks = 10000;
 
 }  // namespace
 
@@ -19,7 +21,9 @@ StatementLease::StatementLease(std::shared_ptr<StatementCache> cache, std::strin
 StatementLease::StatementLease(StatementLease&& other) noexcept
     : cache_(std::move(other.cache_)),
       sql_(std::move(other.sql_)),
-      statement_(std::exchange(other.statement_, nullptr)) {}
+      statement_(std::exchange(other.statement_, nullptr)),
+      running_(other.running_),
+      deadline_(other.deadline_) {}
 
 StatementLease& StatementLease::operator=(StatementLease&& other) noexcept {
   if (this != &other) {
@@ -27,8 +31,29 @@ StatementLease& StatementLease::operator=(StatementLease&& other) noexcept {
     cache_ = std::move(other.cache_);
     sql_ = std::move(other.sql_);
     statement_ = std::exchange(other.statement_, nullptr);
+    running_ = other.running_;
+    deadline_ = other.deadline_;
   }
   return *this;
+}
+
+int StatementLease::Step() {
+  using Clock = std::chrono::steady_clock;
+  if (!running_) {
+    const std::chrono::milliseconds limit = cache_->time_limit_;
+    deadline_ = limit.count() > 0 ? Clock::now() + limit : Clock::time_point::max();
+  }
+  // Two statements may take turns, each with its own time.
+  cache_->deadline_ = deadline_;
+  const int code = sqlite3_step(statement_);
+  cache_->deadline_ = Clock::time_point::max();
+  running_ = code == SQLITE_ROW;
+  return code;
+}
+
+void StatementLease::Reset() {
+  sqlite3_reset(statement_);
+  running_ = false;
 }
 
 void StatementLease::GiveBack() noexcept {
@@ -46,6 +71,14 @@ void StatementLease::GiveBack() noexcept {
     idle.erase(idle.begin());
   }
   idle.push_back({std::move(sql_), statement});
+}
+
+StatementCache::StatementCache(sqlite3* database) : database_(database) {
+  sqlite3_progress_handler(database_, kStepsBetweenLooks, IsLate, this);
+}
+
+int StatementCache::IsLate(void* cache) {
+  return std::chrono::steady_clock::now() > static_cast<StatementCache*>(cache)->deadline_ ? 1 : 0;
 }
 
 StatementLease StatementCache::Prepare(const std::shared_ptr<StatementCache>& cache, const std::string& sql,
@@ -80,6 +113,7 @@ void StatementCache::Clear() noexcept {
 
 void StatementCache::Close() noexcept {
   Clear();
+  if (database_ != nullptr) sqlite3_progress_handler(database_, 0, nullptr, nullptr);
   database_ = nullptr;
 }
 

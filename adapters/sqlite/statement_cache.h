@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,7 +12,8 @@ namespace orvendal::sqlite {
 
 class StatementCache;
 
-/// The use of a prepared statement. Gives it back, reset, when it ends.
+/// The use of a prepared statement. Gives it back, reset, when it ends. It is stepped through the lease
+/// alone, which ends it when it has run for longer than the connection allows.
 class StatementLease {
  public:
   StatementLease() = default;
@@ -23,7 +25,11 @@ class StatementLease {
   StatementLease& operator=(const StatementLease&) = delete;
   ~StatementLease() { GiveBack(); }
 
+  /// For parameters and columns.
   sqlite3_stmt* Get() const { return statement_; }
+  /// As the engine steps. The time of a statement runs from its first step to its last.
+  int Step();
+  void Reset();
   explicit operator bool() const { return statement_ != nullptr; }
 
  private:
@@ -32,13 +38,15 @@ class StatementLease {
   std::shared_ptr<StatementCache> cache_;
   std::string sql_;
   sqlite3_stmt* statement_ = nullptr;
+  bool running_ = false;
+  std::chrono::steady_clock::time_point deadline_;
 };
 
 /// The prepared statements of a connection that are not in use, the latest ones. It may outlive the
 /// connection; then it keeps nothing.
 class StatementCache {
  public:
-  explicit StatementCache(sqlite3* database) : database_(database) {}
+  explicit StatementCache(sqlite3* database);
   StatementCache(const StatementCache&) = delete;
   StatementCache& operator=(const StatementCache&) = delete;
   ~StatementCache() { Close(); }
@@ -51,6 +59,8 @@ class StatementCache {
   /// The same, never one that was prepared before: its columns are those that the tables have now.
   static StatementLease PrepareAfresh(const std::shared_ptr<StatementCache>& cache, const std::string& sql,
                                       std::string* rest = nullptr);
+  /// How long a statement may run, the waiting of whoever steps it included; zero for without end.
+  void TimeLimit(std::chrono::milliseconds limit) { time_limit_ = limit; }
   /// Forgets the statements that are not in use.
   void Clear() noexcept;
   void Close() noexcept;
@@ -62,7 +72,11 @@ class StatementCache {
     sqlite3_stmt* statement;
   };
 
+  static int IsLate(void* cache);
+
   sqlite3* database_;
+  std::chrono::milliseconds time_limit_{0};
+  std::chrono::steady_clock::time_point deadline_ = std::chrono::steady_clock::time_point::max();
   std::vector<Idle> idle_;  // the latest last
 };
 

@@ -7,6 +7,9 @@
 namespace orvendal::sqlite {
 namespace {
 
+constexpr const char* kNotAllowed = "The store does not allow this statement.";
+constexpr const char* kTimeout = "Query timeout expired";
+
 // The rest of `message` after `start`, if it begins so.
 bool TakeAfter(std::string_view message, std::string_view start, std::string& rest) {
   if (message.substr(0, start.size()) != start) return false;
@@ -42,6 +45,7 @@ RuntimeError StatementError(const std::string& message, Dialect dialect) {
   if (message.find("syntax error") != std::string::npos || TakeAfter(message, "unrecognized token", name)) {
     return SyntaxError(dialect, BetweenQuotes(message));
   }
+  if (message.find("not authorized") == 0) return {ado_error::kPermissionDenied, kNotAllowed};
   return {ado_error::kSyntax, message};
 }
 
@@ -106,6 +110,10 @@ RuntimeError StoreError(sqlite3* database, Dialect dialect) {
       return RefusedValue(dialect);
     case SQLITE_ERROR:
       return StatementError(message, dialect);
+    case SQLITE_AUTH:
+      return {ado_error::kPermissionDenied, kNotAllowed};
+    case SQLITE_INTERRUPT:
+      return {ado_error::kTimeout, kTimeout};
     default:
       return {ado_error::kUnspecified, message};
   }
@@ -114,7 +122,9 @@ RuntimeError StoreError(sqlite3* database, Dialect dialect) {
 RuntimeError NativeError(sqlite3* database, Dialect dialect) {
   const bool file_trouble = !FileTrouble(sqlite3_extended_errcode(database)).empty();
   const RuntimeError error = StoreError(database, dialect);
-  return file_trouble ? error : RuntimeError(error.Number(), sqlite3_errmsg(database));
+  const bool refused =
+      error.Number() == ado_error::kPermissionDenied || error.Number() == ado_error::kTimeout;
+  return file_trouble || refused ? error : RuntimeError(error.Number(), sqlite3_errmsg(database));
 }
 
 RuntimeError OpenError(int code, const std::string& path) {

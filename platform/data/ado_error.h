@@ -25,7 +25,9 @@ inline constexpr std::int32_t kNoTable = -2147217865;             // 80040E37
 inline constexpr std::int32_t kConversionFailed = -2147217913;    // 80040E07
 inline constexpr std::int32_t kNoValueGiven =
     -2147217904;  // 80040E10: Jet takes an unknown name for a parameter
-inline constexpr std::int32_t kUnspecified = -2147467259;  // 80004005
+inline constexpr std::int32_t kPermissionDenied = -2147217911;  // 80040E09
+inline constexpr std::int32_t kTimeout = -2147217871;           // 80040E31
+inline constexpr std::int32_t kUnspecified = -2147467259;       // 80004005
 }  // namespace ado_error
 
 /// The provider's own description of one of the numbers 3001 to 3709 above, as an error to throw.

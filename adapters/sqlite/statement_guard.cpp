@@ -1,0 +1,77 @@
+#include "adapters/sqlite/statement_guard.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "platform/base/text.h"
+
+namespace orvendal::sqlite {
+namespace {
+
+constexpr int kLongestValue = 64 * 1024 * 1024;  // bytes; no field of a store comes near it
+
+// They tell what there is.
+constexpr std::array<std::string_view, 17> kTelling = {
+    "application_id", "busy_timeout", "collation_list", "compile_options", "data_version", "database_list",
+    "encoding",       "foreign_keys", "freelist_count", "function_list",   "journal_mode", "module_list",
+    "page_count",     "page_size",    "pragma_list",    "schema_version",  "user_version"};
+// Of a table or an index, which stands in brackets or after an equals sign.
+constexpr std::array<std::string_view, 10> kTellingOf = {
+    "foreign_key_check", "foreign_key_list", "index_info", "index_list", "index_xinfo",
+    "integrity_check",   "quick_check",      "table_info", "table_list", "table_xinfo"};
+// Functions that give the engine code to run.
+constexpr std::array<std::string_view, 2> kFunctions = {"fts3_tokenizer", "load_extension"};
+
+template <std::size_t Count>
+bool Has(const std::array<std::string_view, Count>& names, const char* name) {
+  return name != nullptr && std::any_of(names.begin(), names.end(), [name](std::string_view each) {
+           return EqualsIgnoringCase(each, name);
+         });
+}
+
+bool OnlyTells(const char* pragma, const char* value) {
+  return Has(kTellingOf, pragma) || (value == nullptr && Has(kTelling, pragma));
+}
+
+}  // namespace
+
+StatementGuard::StatementGuard(sqlite3* database) : database_(database) {
+  for (const int dangerous : {SQLITE_DBCONFIG_ENABLE_FTS3_TOKENIZER, SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION,
+                              SQLITE_DBCONFIG_TRUSTED_SCHEMA}) {
+    sqlite3_db_config(database_, dangerous, 0, nullptr);
+  }
+  sqlite3_db_config(database_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  // A misspelt name in double quotes must not turn into a text.
+  sqlite3_db_config(database_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+  sqlite3_limit(database_, SQLITE_LIMIT_ATTACHED, 0);
+  sqlite3_limit(database_, SQLITE_LIMIT_LENGTH, kLongestValue);
+  sqlite3_set_authorizer(database_, Decide, this);
+}
+
+void StatementGuard::LetGo() noexcept {
+  if (database_ != nullptr) sqlite3_set_authorizer(database_, nullptr, nullptr);
+  database_ = nullptr;
+}
+
+int StatementGuard::Decide(void* guard, int action, const char* first, const char* second, const char*,
+                           const char*) {
+  switch (action) {
+    case SQLITE_ATTACH:
+    case SQLITE_DETACH:
+    case SQLITE_CREATE_VTABLE:
+    case SQLITE_DROP_VTABLE:
+      return SQLITE_DENY;
+    case SQLITE_FUNCTION:
+      return Has(kFunctions, second) ? SQLITE_DENY : SQLITE_OK;
+    case SQLITE_PRAGMA:
+      return static_cast<StatementGuard*>(guard)->hosts_own_ > 0 || OnlyTells(first, second) ? SQLITE_OK
+                                                                                             : SQLITE_DENY;
+    default:
+      return SQLITE_OK;
+  }
+}
+
+}  // namespace orvendal::sqlite
