@@ -1,11 +1,10 @@
 #include "host/host_store.h"
 
-#include <sqlite3.h>
-
-#include <array>
 #include <filesystem>
 
+#include "host/error_words.h"
 #include "host/sample_chain.h"
+#include "host/store_fit.h"
 #include "platform/data/ado_error.h"
 
 namespace orvendal {
@@ -23,40 +22,8 @@ std::string TextOf(const fs::path& path) {
 }
 
 constexpr const char* kInMemory = ":memory:";
-constexpr std::array kTables = {"Sucursales",  "Empleados",    "Productos",
-                                "Referencias", "ProdSucStock", "HistOrvendalcial"};
 
-// The engine's own reason, found by asking the file once more for a read and a write.
-int ProbeStore(const std::string& path) {
-  sqlite3* database = nullptr;
-  int code = sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE, nullptr);
-  for (const char* sql : {"PRAGMA schema_version", "BEGIN IMMEDIATE", "ROLLBACK"}) {
-    if (code == SQLITE_OK) code = sqlite3_exec(database, sql, nullptr, nullptr, nullptr);
-  }
-  sqlite3_close(database);
-  return code;
-}
-
-std::string_view ReasonOfCode(int code, const Words& words) {
-  switch (code & 0xFF) {
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-      return words.store_locked;
-    case SQLITE_NOTADB:
-      return words.store_no_database;
-    case SQLITE_CORRUPT:
-      return words.store_damaged;
-    case SQLITE_READONLY:
-      return words.store_read_only;
-    case SQLITE_CANTOPEN:
-    case SQLITE_PERM:
-    case SQLITE_AUTH:
-      return words.store_refused;
-    default:
-      return {};
-  }
-}
-
+// Why an opening failed with `error`. What the engine cannot know stands first.
 StoreUnavailable Explain(const StoreSettings& settings, const RuntimeError& error, bool may_make) {
   const Words& words = settings.words;
   const fs::path file = PathOf(settings.path);
@@ -71,21 +38,17 @@ StoreUnavailable Explain(const StoreSettings& settings, const RuntimeError& erro
     if (!fs::exists(file, ignored)) {
       return StoreUnavailable(Fill(may_make ? words.store_refused : words.store_missing, {settings.path}));
     }
-    const std::string_view reason = ReasonOfCode(ProbeStore(settings.path), words);
-    if (!reason.empty()) return StoreUnavailable(Fill(reason, {settings.path}));
   }
+  const std::string told = DescriptionInWords(words, error.Description(), settings.path);
+  if (told != error.Description()) return StoreUnavailable(told);
   return StoreUnavailable(Fill(words.store_other, {settings.path, error.Description()}));
 }
 
-bool HasTable(SqliteConnection& store, const std::string& name) {
-  SqliteStatement look(store,
-                       "SELECT 1 FROM sqlite_master WHERE type IN ('table', 'view') AND name = ?1 "
-                       "COLLATE NOCASE");
-  return look.Bind(1, name).Step();
-}
-
-bool HasNoTable(SqliteConnection& store) {
-  SqliteStatement look(store, "SELECT 1 FROM sqlite_master LIMIT 1");
+// A file that nobody has put anything into.
+bool HoldsNothing(SqliteConnection& store) {
+  SqliteStatement look(
+      store,
+      "SELECT 1 FROM sqlite_master UNION ALL SELECT 1 FROM pragma_user_version WHERE user_version <> 0");
   return !look.Step();
 }
 
@@ -94,16 +57,13 @@ void MakeUnlessMade(SqliteConnection& store, Date today) {
   try {
     MakeSampleStore(store, today);
   } catch (const RuntimeError&) {
-    if (HasNoTable(store)) throw;
+    if (HoldsNothing(store)) throw;
   }
 }
 
-void CheckTables(SqliteConnection& store, const StoreSettings& settings) {
-  for (const char* table : kTables) {
-    if (!HasTable(store, table)) {
-      throw StoreUnavailable(Fill(settings.words.store_foreign, {settings.path, table}));
-    }
-  }
+void CheckFit(SqliteConnection& store, const StoreSettings& settings) {
+  const std::string why = WhyUnfit(store, settings.path, settings.words);
+  if (!why.empty()) throw StoreUnavailable(why);
 }
 
 }  // namespace
@@ -113,9 +73,15 @@ StoreUnavailable::StoreUnavailable(const std::string& description)
 
 std::shared_ptr<SqliteConnection> OpenOrMakeStore(const StoreSettings& settings, Date today) {
   try {
-    auto store = SqliteConnection::Open(settings.path, settings.dialect, settings.region, OpenMode::kCreate);
-    if (HasNoTable(*store)) MakeUnlessMade(*store, today);
-    CheckTables(*store, settings);
+    bool is_new = false;
+    auto store = SqliteConnection::Open(settings.path, settings.dialect, settings.region, OpenMode::kCreate,
+                                        [&](SqliteConnection& opened) {
+                                          is_new = HoldsNothing(opened);
+                                          if (!is_new) CheckFit(opened, settings);
+                                        });
+    if (!is_new) return store;
+    MakeUnlessMade(*store, today);
+    CheckFit(*store, settings);
     return store;
   } catch (const StoreUnavailable&) {
     throw;
@@ -126,10 +92,8 @@ std::shared_ptr<SqliteConnection> OpenOrMakeStore(const StoreSettings& settings,
 
 std::shared_ptr<SqliteConnection> OpenExistingStore(const StoreSettings& settings) {
   try {
-    auto store =
-        SqliteConnection::Open(settings.path, settings.dialect, settings.region, OpenMode::kExisting);
-    CheckTables(*store, settings);
-    return store;
+    return SqliteConnection::Open(settings.path, settings.dialect, settings.region, OpenMode::kExisting,
+                                  [&](SqliteConnection& opened) { CheckFit(opened, settings); });
   } catch (const StoreUnavailable&) {
     throw;
   } catch (const RuntimeError& error) {

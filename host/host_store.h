@@ -27,10 +27,10 @@ struct StoreSettings {
 
 /// Opens the store. One that does not exist yet, or has no table at all, is made with the sample chain, whose
 /// counts end at `today`. Raises StoreUnavailable: the folder is missing, another program has it locked, it
-/// is no database, it is a database of something else.
+/// is no database, it does not fit (WhyUnfit). Into one that does not fit nothing is written.
 std::shared_ptr<SqliteConnection> OpenOrMakeStore(const StoreSettings& settings, Date today);
 
-/// Opens a store that has to be there. Raises StoreUnavailable.
+/// Opens a store that has to be there, and to fit. Raises StoreUnavailable.
 std::shared_ptr<SqliteConnection> OpenExistingStore(const StoreSettings& settings);
 
 /// The connection as one to the embedded store, for the host's own statements. Raises 3709 for any other.

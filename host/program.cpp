@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
 
 #include "adapters/qt/qt_icon.h"
@@ -13,9 +12,11 @@
 #include "host/chosen_store.h"
 #include "host/day_lines.h"
 #include "host/default_store.h"
+#include "host/error_words.h"
 #include "host/explained_end.h"
 #include "host/host_store.h"
 #include "host/printed_text.h"
+#include "host/private_file.h"
 #include "host/sample_session.h"
 #include "host/stand_in_library.h"
 #include "host/start_error.h"
@@ -54,16 +55,6 @@ void DropWarnings(QtMsgType type, const QMessageLogContext&, const QString& text
   if (type == QtFatalMsg) std::_Exit(kExitFailure);  // where Qt would leave a dump of memory
 }
 
-std::string ErrorText(const Words& words, const RuntimeError& error) {
-  return Fill(words.error, {std::to_string(error.Number()), error.Description()});
-}
-
-// The folder of the default store belongs to the program; any other folder has to be there.
-void MakeFolderOf(const std::string& store) {
-  std::error_code ignored;
-  std::filesystem::create_directories(std::filesystem::path(store).parent_path(), ignored);
-}
-
 QString TextOf(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -96,7 +87,8 @@ class Program {
   /// Says on standard error which store it is. Raises StoreUnavailable.
   void OpenStore() {
     const ChosenStore chosen = ChooseStore(options_, DefaultStore(), words_);
-    if (!options_.store) MakeFolderOf(chosen.path);
+    // The default store and its folder belong to the program and this user; any other folder has to be there.
+    if (!options_.store) MakePrivateFile(chosen.path);
     const StoreSettings settings{chosen.path, options_.dialect, *options_.region, words_};
     const OpenedStore opened = OpenChosenStore(chosen, settings, clock_.Today());
     std::cerr << StoreNotice(opened, chosen.path, words_);
@@ -117,6 +109,7 @@ class Program {
                        options_.turno);
   }
 
+  const std::string& StoreName() const { return context_.store_name; }
   bool HasScreen() const { return state_.form && state_.form->IsLoaded(); }
 
   /// False if the picture cannot be written.
@@ -137,6 +130,9 @@ class Program {
     if (options_.display) host.display = QSize(options_.display->width, options_.display->height);
     host.application_title = QApplication::applicationDisplayName();
     host.captions = CaptionsOf(words_);
+    host.describe_error = [this](const RuntimeError& error) {
+      return DescriptionInWords(words_, error.Description(), context_.store_name);
+    };
     host.on_last_window_gone = [] { QApplication::quit(); };
     if (!options_.picture.empty()) {
       // Without a window the screen is shown at the size that it was designed for.
@@ -144,7 +140,7 @@ class Program {
         host.display = QSize(options_.base_width / kTwipsToPixel, options_.base_height / kTwipsToPixel);
       }
       host.on_error = [this](const RuntimeError& error) {
-        std::cerr << PrintedText(ErrorText(words_, error)) << '\n';
+        std::cerr << PrintedText(ErrorInWords(words_, error, context_.store_name)) << '\n';
       };
     }
     return host;
@@ -198,7 +194,13 @@ int RunProgram(const Options& options, const char* program_name) {
   const auto run = [&] {
     Program program(options, words);
     program.OpenStore();
-    program.CallComponent();
+    try {
+      program.CallComponent();
+    } catch (const StoreUnavailable&) {
+      throw;
+    } catch (const RuntimeError& error) {
+      return fail(ErrorInWords(words, error, program.StoreName()));
+    }
     if (!paints) return program.HasScreen() ? QApplication::exec() : 0;
     const bool written = program.WritePicture();
     program.UnloadScreen();

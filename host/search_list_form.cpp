@@ -96,7 +96,7 @@ void SearchListForm::Narrow() {
 
 void SearchListForm::FillRow(int row, const SearchEntry& entry) {
   for (int column = 0; column < MSFResultados.Cols(); ++column) {
-    MSFResultados.TextMatrix(row, column, entry.cells[static_cast<std::size_t>(column)]);
+    MSFResultados.TextMatrix(row, column, Showable(entry.cells[static_cast<std::size_t>(column)]));
   }
 }
 

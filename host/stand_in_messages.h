@@ -5,7 +5,8 @@
 
 namespace orvendal {
 
-/// Messages, shown by whoever shows them in this program.
+/// Messages, shown by whoever shows them in this program; the description of an error in them is told in the
+/// words of the language.
 class StandInMessages final : public Mensajes {
  public:
   explicit StandInMessages(HostContext& context) : context_(context) {}

@@ -7,15 +7,39 @@
 namespace orvendal {
 namespace {
 
-// With the value first the embedded store compares it as its index does, so that the newest count is the
-// index's last entry.
+// As the provider compares: without regard to case, that of ñ included, and to blanks at the end.
 std::string OfProduct(const std::string& branch, const std::string& code) {
+  return "IdSucursal = " + SqlText(branch) + " AND IdProducto = " + SqlText(code);
+}
+
+// With the value first the embedded store compares as its index does, which knows fewer spellings of the
+// code. In return the newest count is the index's last entry.
+std::string OfSpelling(const std::string& branch, const std::string& code) {
   return SqlText(branch) + " = IdSucursal AND " + SqlText(code) + " = IdProducto";
 }
 
-std::string CountsOfNewestDay(const std::string& product) {
-  return "SELECT StockActual, Actualizado FROM HistOrvendalcial WHERE " + product +
-         " AND Fecha = (SELECT MAX(Fecha) FROM HistOrvendalcial WHERE " + product + ")";
+std::string Counts(const std::string& condition) {
+  return "SELECT Fecha, StockActual, Actualizado FROM HistOrvendalcial WHERE " + condition;
+}
+
+// The day of the newest count in this very spelling.
+std::optional<Date> NewestDay(RecordsetFactory& recordsets, const ConnectionRef& connection,
+                              const std::string& branch, const std::string& code) {
+  const RecordsetRef newest =
+      ReadRows(recordsets, connection,
+               "SELECT MAX(Fecha) AS Ultima FROM HistOrvendalcial WHERE " + OfSpelling(branch, code));
+  const Value day = newest->Fields("Ultima").Value();
+  if (day.IsText()) return Region::English().ParseDate(day.Text());  // year-month-day in every region
+  return day.IsDate() ? std::optional<Date>(day.AsDate()) : std::nullopt;
+}
+
+// The counts of the product that are no older than the newest one in this spelling, so that a long history is
+// not read; all of them if there is none in this spelling.
+RecordsetRef NewestCounts(RecordsetFactory& recordsets, const ConnectionRef& connection,
+                          const std::string& branch, const std::string& code) {
+  const std::optional<Date> day = NewestDay(recordsets, connection, branch, code);
+  const std::string bound = day ? " AND Fecha >= " + SqlMoment(*connection, *day) : "";
+  return ReadRows(recordsets, connection, Counts(OfProduct(branch, code) + bound));
 }
 
 bool IsNoEarlier(const Value& moment, const Value& than) {
@@ -23,14 +47,20 @@ bool IsNoEarlier(const Value& moment, const Value& than) {
   return !(moment.AsDate() < than.AsDate());
 }
 
-// Of several counts of one day the one saved last, or nothing.
+// That of the newest day, and of several counts of it the one saved last, or nothing.
 std::optional<Value> NewestQuantity(Recordset& counts) {
   std::optional<Value> quantity;
+  Value day;
   Value saved;
   for (; !counts.AtEnd(); counts.MoveNext()) {
+    const Value counted = counts.Fields("Fecha").Value();
     const Value moment = counts.Fields("Actualizado").Value();
-    if (quantity && !IsNoEarlier(moment, saved)) continue;
+    if (quantity) {
+      if (!IsNoEarlier(counted, day)) continue;
+      if (IsNoEarlier(day, counted) && !IsNoEarlier(moment, saved)) continue;
+    }
     quantity = counts.Fields("StockActual").Value();
+    day = counted;
     saved = moment;
   }
   return quantity;
@@ -41,11 +71,11 @@ std::optional<Value> NewestQuantity(Recordset& counts) {
 void StandInRecalculation::RecalcularProducto(ConnectionRef& conexion, std::string& clave_sucursal,
                                               std::string& codigo, std::string&) {
   RecordsetFactory& recordsets = context_.recordsets;
-  const std::string product = OfProduct(clave_sucursal, codigo);
   const std::optional<Value> quantity =
-      NewestQuantity(*ReadRows(recordsets, conexion, CountsOfNewestDay(product)));
+      NewestQuantity(*NewestCounts(recordsets, conexion, clave_sucursal, codigo));
   if (!quantity) return;
 
+  const std::string product = OfProduct(clave_sucursal, codigo);
   const RecordsetRef stock =
       ReadRows(recordsets, conexion, "SELECT Stock FROM ProdSucStock WHERE " + product);
   if (stock->AtEnd()) {

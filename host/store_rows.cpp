@@ -58,4 +58,12 @@ std::string SqlNumber(double number) {
   return {digits.data(), end};
 }
 
+std::string SqlMoment(const Connection& connection, Date moment) {
+  const std::string time = Region::English().Format(moment, " hh:nn:ss");
+  if (connection.Provider() == "SQLOLEDB.1") {
+    return "CONVERT(DATETIME, '" + Region::English().Format(moment, "yyyy-mm-dd") + time + "', 102)";
+  }
+  return "#" + Region::English().Format(moment, "m/d/yyyy") + time + "#";
+}
+
 }  // namespace orvendal

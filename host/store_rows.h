@@ -26,5 +26,7 @@ bool HasField(const Recordset& rows, std::string_view field);
 /// Values as they stand in a statement.
 std::string SqlText(std::string_view text);
 std::string SqlNumber(double number);
+/// As the dialect of the connection has it.
+std::string SqlMoment(const Connection& connection, Date moment);
 
 }  // namespace orvendal

@@ -54,8 +54,41 @@ struct Words {
   std::string_view store_damaged;
   std::string_view store_read_only;
   std::string_view store_refused;
-  std::string_view store_foreign;  // %2 is the table that it lacks
-  std::string_view store_other;    // %2 is what the engine says
+  std::string_view store_foreign;   // %2 is the table that it lacks
+  std::string_view store_other;     // %2 is what the engine says
+  std::string_view store_newer;     // %2 is its version, %3 the one that this program knows
+  std::string_view store_older;     // %2 is its version, %3 as above, %4 what it lacks, %5 how that is added
+  std::string_view store_lacks;     // %2 is what it lacks, %3 how that is added
+  std::string_view store_no_table;  // %2 is a name that is no table's
+  std::string_view store_no_date;   // %2 is the field that is not declared as a date
+  std::string_view store_demanding_field;  // %2 is a field that demands a value
+
+  // Why the store ends what is being done; %1 is its file.
+  std::string_view store_moved;
+  std::string_view store_full;
+  std::string_view store_disk_error;
+  std::string_view store_too_slow;
+  std::string_view store_not_allowed;
+  std::string_view text_not_understood;  // %2 is where it is not
+  std::string_view date_not_understood;
+  std::string_view table_missing;  // %2
+  std::string_view field_missing;  // %2
+  std::string_view field_missing_somewhere;
+  std::string_view row_twice;
+  std::string_view value_refused;
+  std::string_view value_of_wrong_kind;
+  std::string_view row_missing;
+  std::string_view connection_closed;
+  std::string_view rows_closed;
+  std::string_view rows_open;
+  std::string_view rows_fixed;
+  std::string_view rows_without_positions;
+  std::string_view not_now;
+  std::string_view wrong_argument;
+  std::string_view number_too_large;
+  std::string_view value_empty;
+  std::string_view object_missing;
+  std::string_view program_error;
 
   // Errors of the program.
   std::string_view error;         // %1 number, %2 description

@@ -41,6 +41,65 @@ const Words& CatalanWords() {
       .store_refused = "No hi ha permís per obrir la base de dades %1.",
       .store_foreign = "La base de dades %1 no és d’aquest programa: li falta la taula %2.",
       .store_other = "No es pot obrir la base de dades %1: %2",
+      .store_newer =
+          "La base de dades %1 és d’una versió més nova (%2) que la que coneix aquest programa (%3). "
+          "Actualitzeu el programa; no s’ha canviat res.",
+      .store_older =
+          "La base de dades %1 és d’una versió anterior (%2; aquest programa necessita la %3): li falta %4. "
+          "No s’ha canviat res. Per posar-la al dia, feu-ne una còpia i executeu-hi: %5",
+      .store_lacks =
+          "A la base de dades %1 li falta %2. No s’ha canviat res. Feu-ne una còpia i afegiu-ho, o trieu una "
+          "altra base de dades: %3",
+      .store_no_table =
+          "A la base de dades %1, %2 no és una taula. No s’ha canviat res; trieu una altra base de dades.",
+      .store_no_date =
+          "A la base de dades %1, el camp %2 no està declarat com a data (DATETIME). No s’ha canviat res; "
+          "corregiu la taula o trieu una altra base de dades.",
+      .store_demanding_field =
+          "A la base de dades %1, el camp %2 exigeix un valor que aquest programa no coneix. No s’ha canviat "
+          "res; doneu-li un valor per defecte o permeteu que quedi buit.",
+      .store_moved = "La base de dades %1 ja no és al seu lloc. Torneu-l’hi o reconnecteu amb F1.",
+      .store_full = "No queda lloc al disc de la base de dades %1. Allibereu espai i repetiu el que fèieu.",
+      .store_disk_error =
+          "El disc no deixa llegir o escriure la base de dades %1. Comproveu el disc o la xarxa i repetiu el "
+          "que fèieu.",
+      .store_too_slow =
+          "La base de dades ha trigat massa a respondre i s’ha interromput el que fèieu. Repetiu-ho més "
+          "tard.",
+      .store_not_allowed = "La base de dades no permet aquesta operació.",
+      .text_not_understood =
+          "No s’entén el text a prop de «%2». Escriviu-lo sense cometes ni signes i repetiu el que fèieu.",
+      .date_not_understood = "No s’entén una data. Corregiu-la i repetiu el que fèieu.",
+      .table_missing =
+          "A la base de dades li falta la taula %2. Comproveu amb F1 quina base de dades és oberta.",
+      .field_missing =
+          "A la base de dades li falta el camp %2. Comproveu amb F1 quina base de dades és oberta.",
+      .field_missing_somewhere =
+          "A la base de dades li falta un camp. Comproveu amb F1 quina base de dades és oberta.",
+      .row_twice = "La base de dades ja té una fila igual i no n’admet cap altra.",
+      .value_refused =
+          "La base de dades no admet un dels valors: és massa llarg, o falta on és obligatori. Corregiu-lo i "
+          "deseu una altra vegada.",
+      .value_of_wrong_kind =
+          "Un valor no és de la classe que admet el seu camp: un nombre o una data que no ho és. Corregiu-lo "
+          "i repetiu el que fèieu.",
+      .row_missing = "La base de dades no té la fila que es busca.",
+      .connection_closed = "No hi ha connexió amb la base de dades. Reconnecteu amb F1.",
+      .rows_closed =
+          "Les files de la base de dades ja són tancades. Repetiu el que fèieu; si no n’hi ha prou, "
+          "reconnecteu amb F1.",
+      .rows_open = "Les files de la base de dades ja són obertes. Repetiu el que fèieu.",
+      .rows_fixed = "Aquestes files de la base de dades només es poden llegir.",
+      .rows_without_positions = "Aquestes files de la base de dades no tenen número.",
+      .not_now = "La base de dades no pot fer això en aquest moment. Repetiu el que fèieu.",
+      .wrong_argument = "Una dada no val per al que es demana.",
+      .number_too_large =
+          "Un nombre és massa gran, o el recompte passa de 32.766 línies. Corregiu el nombre o traieu línies "
+          "i repetiu el que fèieu.",
+      .value_empty = "Falta un valor necessari. Completeu-lo a la base de dades i repetiu el que fèieu.",
+      .object_missing =
+          "Falta una part del programa que havia d’estar preparada. Tanqueu la pantalla i torneu-la a obrir.",
+      .program_error = "Error intern del programa. Tanqueu la pantalla i torneu-la a obrir.",
       .error = "Error %1: %2",
       .part_missing = "No es pot carregar %1. Ha de ser a la mateixa carpeta que el programa.",
       .no_display = "No hi ha pantalla. Amb --captura FITXER.png es desa una imatge sense pantalla.",

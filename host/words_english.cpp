@@ -41,6 +41,62 @@ const Words& EnglishWords() {
       .store_refused = "There is no permission to open the database %1.",
       .store_foreign = "The database %1 does not belong to this program: it lacks the table %2.",
       .store_other = "The database %1 cannot be opened: %2",
+      .store_newer =
+          "The database %1 is of a newer version (%2) than this program knows (%3). Update the program; "
+          "nothing has been changed.",
+      .store_older =
+          "The database %1 is of an older version (%2; this program needs %3): it lacks %4. Nothing has been "
+          "changed. To bring it up to date, make a copy and run in it: %5",
+      .store_lacks =
+          "The database %1 lacks %2. Nothing has been changed. Make a copy and add it, or choose another "
+          "database: %3",
+      .store_no_table =
+          "In the database %1, %2 is not a table. Nothing has been changed; choose another database.",
+      .store_no_date =
+          "In the database %1, the field %2 is not declared as a date (DATETIME). Nothing has been changed; "
+          "correct the table or choose another database.",
+      .store_demanding_field =
+          "In the database %1, the field %2 demands a value that this program does not know. Nothing has "
+          "been changed; give it a default value or let it stay empty.",
+      .store_moved = "The database %1 is no longer in its place. Put it back, or reconnect with F1.",
+      .store_full = "The disk of the database %1 is full. Make room and do it again.",
+      .store_disk_error =
+          "The disk does not let the database %1 be read or written. Check the disk or the network and do it "
+          "again.",
+      .store_too_slow =
+          "The database took too long to answer, and what was being done has been stopped. Do it again "
+          "later.",
+      .store_not_allowed = "The database does not allow that.",
+      .text_not_understood =
+          "The text is not understood near “%2”. Write it without quotes and signs and do it again.",
+      .date_not_understood = "A date is not understood. Correct it and do it again.",
+      .table_missing = "The database lacks the table %2. Look with F1 which database is open.",
+      .field_missing = "The database lacks the field %2. Look with F1 which database is open.",
+      .field_missing_somewhere = "The database lacks a field. Look with F1 which database is open.",
+      .row_twice = "The database has such a row already and takes no second one.",
+      .value_refused =
+          "The database does not take one of the values: it is too long, or it is missing where there has to "
+          "be one. Correct it and save again.",
+      .value_of_wrong_kind =
+          "A value is not of the kind that its field takes: a number or a date that is none. Correct it and "
+          "do it again.",
+      .row_missing = "The database does not have the row that is looked for.",
+      .connection_closed = "There is no connection to the database. Reconnect with F1.",
+      .rows_closed =
+          "The rows of the database are closed already. Do it again; if that is not enough, reconnect with "
+          "F1.",
+      .rows_open = "The rows of the database are open already. Do it again.",
+      .rows_fixed = "Those rows of the database can only be read.",
+      .rows_without_positions = "Those rows of the database have no number.",
+      .not_now = "The database cannot do that at this moment. Do it again.",
+      .wrong_argument = "A value does not serve for what is asked.",
+      .number_too_large =
+          "A number is too large, or the count has more than 32,766 lines. Correct the number or take lines "
+          "away, and do it again.",
+      .value_empty = "A value is missing that there has to be. Complete it in the database and do it again.",
+      .object_missing =
+          "A part of the program that should be ready is missing. Close the screen and open it again.",
+      .program_error = "Internal error of the program. Close the screen and open it again.",
       .error = "Error %1: %2",
       .part_missing = "%1 cannot be loaded. It has to be in the same folder as the program.",
       .no_display = "There is no display. With --captura FILE.png a picture is saved without one.",

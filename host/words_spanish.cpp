@@ -41,6 +41,66 @@ const Words& SpanishWords() {
       .store_refused = "No hay permiso para abrir la base de datos %1.",
       .store_foreign = "La base de datos %1 no es de este programa: le falta la tabla %2.",
       .store_other = "No se puede abrir la base de datos %1: %2",
+      .store_newer =
+          "La base de datos %1 es de una versión más nueva (%2) que la que conoce este programa (%3). "
+          "Actualice el programa; no se ha cambiado nada.",
+      .store_older =
+          "La base de datos %1 es de una versión anterior (%2; este programa necesita la %3): le falta %4. "
+          "No se ha cambiado nada. Para ponerla al día, haga una copia y ejecute en ella: %5",
+      .store_lacks =
+          "A la base de datos %1 le falta %2. No se ha cambiado nada. Haga una copia y añádalo, o elija otra "
+          "base de datos: %3",
+      .store_no_table =
+          "En la base de datos %1, %2 no es una tabla. No se ha cambiado nada; elija otra base de datos.",
+      .store_no_date =
+          "En la base de datos %1, el campo %2 no está declarado como fecha (DATETIME). No se ha cambiado "
+          "nada; corrija la tabla o elija otra base de datos.",
+      .store_demanding_field =
+          "En la base de datos %1, el campo %2 exige un valor que este programa no conoce. No se ha cambiado "
+          "nada; dele un valor por defecto o permita que quede vacío.",
+      .store_moved = "La base de datos %1 ya no está en su sitio. Devuélvala a él o reconecte con F1.",
+      .store_full =
+          "No queda sitio en el disco de la base de datos %1. Libere espacio y repita lo que hacía.",
+      .store_disk_error =
+          "El disco no deja leer o escribir la base de datos %1. Compruebe el disco o la red y repita lo que "
+          "hacía.",
+      .store_too_slow =
+          "La base de datos ha tardado demasiado en responder y se ha interrumpido lo que hacía. Repítalo "
+          "más tarde.",
+      .store_not_allowed = "La base de datos no permite esa operación.",
+      .text_not_understood =
+          "No se entiende el texto cerca de «%2». Escríbalo sin comillas ni signos y repita lo que hacía.",
+      .date_not_understood = "No se entiende una fecha. Corríjala y repita lo que hacía.",
+      .table_missing =
+          "A la base de datos le falta la tabla %2. Compruebe con F1 qué base de datos está abierta.",
+      .field_missing =
+          "A la base de datos le falta el campo %2. Compruebe con F1 qué base de datos está abierta.",
+      .field_missing_somewhere =
+          "A la base de datos le falta un campo. Compruebe con F1 qué base de datos está abierta.",
+      .row_twice = "La base de datos ya tiene una fila igual y no admite otra.",
+      .value_refused =
+          "La base de datos no admite uno de los valores: es demasiado largo, o falta donde es obligatorio. "
+          "Corríjalo y guarde otra vez.",
+      .value_of_wrong_kind =
+          "Un valor no es de la clase que admite su campo: un número o una fecha que no lo es. Corríjalo y "
+          "repita lo que hacía.",
+      .row_missing = "La base de datos no tiene la fila que se busca.",
+      .connection_closed = "No hay conexión con la base de datos. Reconecte con F1.",
+      .rows_closed =
+          "Las filas de la base de datos ya están cerradas. Repita lo que hacía; si no basta, reconecte con "
+          "F1.",
+      .rows_open = "Las filas de la base de datos ya están abiertas. Repita lo que hacía.",
+      .rows_fixed = "Esas filas de la base de datos solo se pueden leer.",
+      .rows_without_positions = "Esas filas de la base de datos no tienen número.",
+      .not_now = "La base de datos no puede hacer eso en este momento. Repita lo que hacía.",
+      .wrong_argument = "Un dato no vale para lo que se pide.",
+      .number_too_large =
+          "Un número es demasiado grande, o el recuento pasa de 32.766 líneas. Corrija el número o quite "
+          "líneas y repita lo que hacía.",
+      .value_empty = "Falta un valor que hace falta. Complételo en la base de datos y repita lo que hacía.",
+      .object_missing =
+          "Falta una parte del programa que debía estar preparada. Cierre la pantalla y ábrala otra vez.",
+      .program_error = "Error interno del programa. Cierre la pantalla y ábrala otra vez.",
       .error = "Error %1: %2",
       .part_missing = "No se puede cargar %1. Debe estar en la misma carpeta que el programa.",
       .no_display = "No hay pantalla. Con --captura FICHERO.png se guarda una imagen sin ella.",

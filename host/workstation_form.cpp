@@ -1,6 +1,7 @@
 #include "host/workstation_form.h"
 
 #include "host/branch_names.h"
+#include "host/error_words.h"
 #include "host/host_store.h"
 #include "host/sample_mark.h"
 #include "platform/base/text.h"
@@ -83,7 +84,7 @@ void WorkstationForm::ShowValues(std::string_view state) {
     const std::string_view sample = context_.words.get().sample_chain;
     LblMuestra.Caption(SaysItIsMadeUp(context_.recordsets, store_) ? std::string(sample) : std::string());
   } catch (const RuntimeError& error) {
-    LblEstado.Caption(error.Description());
+    LblEstado.Caption(DescriptionInWords(context_.words, error.Description(), context_.store_name));
   }
 }
 

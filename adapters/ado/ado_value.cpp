@@ -2,6 +2,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <new>
 
@@ -54,6 +55,7 @@ Value ValueOfDirect(const VARIANT& value, LCID lcid) {
     case VT_BSTR:
       return TextOfBstr(V_BSTR(&value));
     case VT_DATE:
+      if (!std::isfinite(V_DATE(&value))) throw RuntimeError(error_number::kOverflow);
       return Date::FromSerial(V_DATE(&value));
     case VT_R8:
       return V_R8(&value);

@@ -209,8 +209,10 @@ void QtWindowHost::ReportError(const RuntimeError& error) {
   while (!errors_to_report_.empty()) {
     const RuntimeError next = errors_to_report_.front();
     errors_to_report_.pop_front();
-    const QString text = options_.captions.error.arg(QString::number(next.Number()),
-                                                     QString::fromStdString(next.Description()));
+    const std::string description =
+        options_.describe_error ? options_.describe_error(next) : next.Description();
+    const QString text =
+        options_.captions.error.arg(QString::number(next.Number()), QString::fromStdString(description));
     RunBox(text, message_style::kStop, QString());
   }
   reporting_ = false;

@@ -28,6 +28,8 @@ struct QtHostOptions {
   /// Title of windows and message boxes that have none.
   QString application_title;
   QtCaptions captions;
+  /// The description of an error as the message box is to tell it; the error's own without it.
+  std::function<std::string(const RuntimeError&)> describe_error;
   /// Told of errors in place of the message box.
   std::function<void(const RuntimeError&)> on_error;
   /// The last form's window is gone and no other has come by the next turn of the event loop.

@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "adapters/sqlite/store_functions.h"
-#include "adapters/sqlite/text_folding.h"
 #include "adapters/sqlite/text_pattern.h"
 
 namespace orvendal::sqlite {
@@ -42,6 +41,11 @@ std::string ConditionWriter::Next(Parameter parameter) {
   return std::string("?").append(std::to_string(parameters_.size()));
 }
 
+std::string ConditionWriter::Within(const std::string& key, const IndexRange& range) {
+  const std::string above = key + " >= " + Next(range.low);
+  return range.high.empty() ? above : above + " AND " + key + " < " + Next(range.high);
+}
+
 // The column holds `text` in one of its spellings: exactly, which an index on this and further columns
 // answers, or with blanks after it, of which there are hardly ever any. Without an exact spelling to look
 // for, the texts near it are looked through.
@@ -49,14 +53,15 @@ Cases ConditionWriter::TextIs(const std::string& column, const std::string& text
   const std::string key = WithoutCase(column);
   const std::vector<std::string> spellings = CaseVariants(text);
   if (spellings.empty()) {
-    const IndexRange range = RangeOfPrefix(text);
-    return {key + " >= " + Next(range.low) + " AND " + key + " < " + Next(range.high) + " AND " + filter};
+    return {Within(key, RangeOfPrefix(text)) + " AND " + filter};
   }
+  // An index without case compares up to a NUL and no further.
+  const std::string unless_exact = text.find('\0') == std::string::npos ? "" : " AND " + filter;
   Cases exact;
   Cases with_blanks;
   for (const std::string& spelling : spellings) {
     const std::string parameter = Next(spelling);
-    exact.push_back(key + " = " + parameter);
+    exact.push_back(key + " = " + parameter + unless_exact);
     with_blanks.push_back(key + " > " + parameter + " AND " + key + " < " +
                           Next(AboveTrailingBlanks(spelling)) + " AND " + filter);
   }
@@ -78,9 +83,7 @@ Cases ConditionWriter::TextLike(const std::string& column, std::string_view patt
   const std::string filter = Call(function::kTextLike, column, Next(std::string(pattern)));
   if (!parsed.HasWildcards()) return TextIs(column, parsed.LiteralPrefix(), filter);
   if (parsed.LiteralPrefix().empty()) return {filter};
-  const IndexRange range = RangeOfPrefix(parsed.LiteralPrefix());
-  const std::string key = WithoutCase(column);
-  return {key + " >= " + Next(range.low) + " AND " + key + " < " + Next(range.high) + " AND " + filter};
+  return {Within(WithoutCase(column), RangeOfPrefix(parsed.LiteralPrefix())) + " AND " + filter};
 }
 
 std::string ConditionWriter::ValueLike(const std::string& column, std::string_view pattern) {

@@ -7,6 +7,7 @@
 #include "adapters/sqlite/dialect.h"
 #include "adapters/sqlite/statement_rewriter.h"
 #include "adapters/sqlite/stored_date.h"
+#include "adapters/sqlite/text_folding.h"
 #include "platform/base/region.h"
 
 namespace orvendal::sqlite {
@@ -44,6 +45,7 @@ class ConditionWriter {
 
  private:
   std::string Next(Parameter parameter);
+  std::string Within(const std::string& key, const IndexRange& range);
   Cases TextIs(const std::string& column, const std::string& text, const std::string& filter);
 
   Dialect dialect_;

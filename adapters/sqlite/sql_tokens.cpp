@@ -22,7 +22,13 @@ class Tokenizer {
   Tokenizer(std::string_view statement, Dialect dialect) : text_(statement), dialect_(dialect) {}
 
   std::vector<Token> Run() {
-    while (SkipBlanks(), at_ < text_.size()) tokens_.push_back(Next());
+    while (SkipBlanks(), at_ < text_.size()) {
+      tokens_.push_back(Next());
+      const Token& token = tokens_.back();
+      if (token.kind == TokenKind::kName && token.text.find('\0') != std::string::npos) {
+        throw SyntaxError(dialect_, token.text);
+      }
+    }
     return std::move(tokens_);
   }
 
@@ -132,7 +138,15 @@ std::string InQuotes(std::string_view text, char quote) {
 }  // namespace
 
 std::string QuotedText(std::string_view text) {
-  return InQuotes(text, '\'');
+  if (text.find('\0') == std::string_view::npos) return InQuotes(text, '\'');
+  constexpr std::string_view kDigits = "0123456789ABCDEF";
+  std::string bytes;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    bytes += kDigits[byte >> 4U];
+    bytes += kDigits[byte & 0xFU];
+  }
+  return "CAST(x'" + bytes + "' AS TEXT)";
 }
 
 std::string QuotedName(std::string_view name) {

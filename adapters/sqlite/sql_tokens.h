@@ -27,12 +27,13 @@ struct Token {
   bool IsName() const { return kind == TokenKind::kWord || kind == TokenKind::kName; }
 };
 
-/// A text or a name as it stands in a statement, the quotes inside it doubled.
+/// A text or a name as it stands in a statement, the quotes inside it doubled. A text may hold a NUL, which
+/// the engine would take for the end of the statement.
 std::string QuotedText(std::string_view text);
 std::string QuotedName(std::string_view name);
 
-/// Takes a statement of the dialect apart. Raises -2147217900 for a text, name or date that is not closed and
-/// for a character that no statement has.
+/// Takes a statement of the dialect apart. Raises -2147217900 for a text, name or date that is not closed,
+/// for a name with a NUL in it and for a character that no statement has.
 std::vector<Token> Tokenize(std::string_view statement, Dialect dialect);
 
 }  // namespace orvendal::sqlite

@@ -62,7 +62,11 @@ void RangeLowFunction(sqlite3_context* context, int, sqlite3_value** arguments) 
 }
 
 void RangeHighFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
-  if (!IsNull(arguments[0])) Answer(context, RangeOfEqualTexts(Text(arguments[0])).high);
+  if (IsNull(arguments[0])) return;
+  const std::string high = RangeOfEqualTexts(Text(arguments[0])).high;
+  // Bytes that are no text stand above every text.
+  if (high.empty()) return sqlite3_result_zeroblob(context, 0);
+  Answer(context, high);
 }
 
 void SortKeyFunction(sqlite3_context* context, int, sqlite3_value** arguments) {

@@ -9,8 +9,8 @@ namespace orvendal::sqlite {
 namespace {
 
 constexpr std::size_t kMostVariants = 4;
-constexpr char32_t kLastCharacter = 0x10FFFF;
 constexpr char kAfterBlank = ' ' + 1;
+constexpr char kLastByte = '\xFF';
 
 // The upper case of a lower letter outside A to Z; the letter itself if it has none.
 char32_t ToUpperOutsideAscii(char32_t lower) {
@@ -60,7 +60,13 @@ bool TextEquals(std::string_view left, std::string_view right) {
 }
 
 std::string AboveTextsBeginningWith(std::string_view text) {
-  return std::string(text) + FromCharacter(kLastCharacter);
+  std::string above(text);
+  while (!above.empty() && above.back() == kLastByte) above.pop_back();
+  if (above.empty()) return above;
+  // The index compares capitals as the small letters, which stand above the marks after Z.
+  char& last = above.back();
+  last = static_cast<char>((last >= 'A' && last <= 'Z' ? last - 'A' + 'a' : last) + 1);
+  return above;
 }
 
 std::string AboveTrailingBlanks(std::string_view text) {

@@ -14,12 +14,12 @@ bool TextEquals(std::string_view left, std::string_view right);
 
 std::string WithoutTrailingBlanks(std::string_view text);
 
-/// Above every text that begins with `text`, and for the blanks alone: above `text` with any number of blanks
-/// after it.
+/// Above every text that begins with `text`, whatever bytes follow, as an index without case compares; empty
+/// if there is no such text. And for the blanks alone: above `text` with any number of blanks after it.
 std::string AboveTextsBeginningWith(std::string_view text);
 std::string AboveTrailingBlanks(std::string_view text);
 
-/// A stretch of a NOCASE index: from `low` on, below `high`.
+/// A stretch of a NOCASE index: from `low` on, below `high`, or to the end of the index where that is empty.
 struct IndexRange {
   std::string low;
   std::string high;

@@ -43,8 +43,11 @@ std::size_t TextPattern::ParseSet(std::string_view pattern, std::size_t open) {
     element.negated = true;
     ++at;
   }
+  std::string_view first_written;
   while (at < set.size()) {
+    const std::size_t start = at;
     const char32_t first = ToLower(NextCharacter(set, at));
+    first_written = set.substr(start, at - start);
     char32_t last = first;
     if (at + 1 < set.size() && set[at] == '-') {
       ++at;
@@ -58,7 +61,7 @@ std::size_t TextPattern::ParseSet(std::string_view pattern, std::size_t open) {
   if (single) {
     element.kind = Kind::kCharacter;
     element.character = element.ranges[0].first;
-    if (!has_wildcards_) literal_prefix_.append(set);
+    if (!has_wildcards_) literal_prefix_.append(first_written);
   } else {
     has_wildcards_ = true;
   }

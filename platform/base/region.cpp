@@ -187,6 +187,7 @@ std::string Region::ToText(const Value& value) const {
 
 std::string Region::ToText(double number) const {
   if (number == 0.0) return "0";
+  if (!std::isfinite(number)) throw RuntimeError(error_number::kOverflow);
   // Fifteen significant digits decide; the E-form begins at 1E+15 and below 1E-4 where it is the shorter one.
   std::array<char, 40> scientific;
   const std::to_chars_result written = std::to_chars(scientific.data(), scientific.data() + scientific.size(),

@@ -51,7 +51,7 @@ class Region {
   const std::string& TodayWord() const { return today_word_; }
 
   /// A value as text: numbers with 15 digits at most and the decimal mark, dates in the short form with the
-  /// time if it is not midnight. Null raises error 94.
+  /// time if it is not midnight. Null raises error 94, a number that is not finite error 6.
   std::string ToText(const Value& value) const;
   std::string ToText(double number) const;
   std::string ToText(Date date) const;

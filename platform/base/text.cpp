@@ -19,6 +19,24 @@ std::size_t SequenceLength(unsigned char lead) {
   return 1;
 }
 
+// Whether a sequence of three or four bytes is the one way to write its character, and that is one of
+// Unicode.
+bool IsShortest(char lead, char second) {
+  const auto byte = static_cast<unsigned char>(second);
+  switch (static_cast<unsigned char>(lead)) {
+    case 0xE0U:
+      return byte >= 0xA0U;
+    case 0xEDU:
+      return byte < 0xA0U;
+    case 0xF0U:
+      return byte >= 0x90U;
+    case 0xF4U:
+      return byte < 0x90U;
+    default:
+      return true;
+  }
+}
+
 // Bytes of the character at `offset`; 1 for a byte that begins no well-formed sequence.
 std::size_t CharacterBytes(std::string_view text, std::size_t offset) {
   const std::size_t length = SequenceLength(static_cast<unsigned char>(text[offset]));
@@ -26,7 +44,7 @@ std::size_t CharacterBytes(std::string_view text, std::size_t offset) {
   for (std::size_t i = 1; i < length; ++i) {
     if (!IsContinuation(text[offset + i])) return 1;
   }
-  return length;
+  return length > 2 && !IsShortest(text[offset], text[offset + 1]) ? 1 : length;
 }
 
 char32_t WithoutAccent(char32_t c) {
@@ -103,7 +121,7 @@ std::string Trim(std::string_view text) {
 char32_t NextCharacter(std::string_view text, std::size_t& offset) {
   const std::size_t length = CharacterBytes(text, offset);
   const auto lead = static_cast<unsigned char>(text[offset]);
-  char32_t character = lead;
+  char32_t character = length == 1 && lead >= 0x80U ? kStrayByte + lead : lead;
   if (length > 1) {
     character = lead & (0x7FU >> length);
     for (std::size_t i = 1; i < length; ++i) {
@@ -116,7 +134,9 @@ char32_t NextCharacter(std::string_view text, std::size_t& offset) {
 
 void AppendCharacter(std::string& text, char32_t c) {
   const auto put = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
-  if (c < 0x80) {
+  if (c >= kStrayByte) {
+    put(c - kStrayByte);
+  } else if (c < 0x80) {
     put(c);
   } else if (c < 0x800) {
     put(0xC0 | (c >> 6));
@@ -168,6 +188,17 @@ std::string FoldForSearch(std::string_view text) {
     AppendCharacter(folded, WithoutAccent(ToLower(NextCharacter(text, offset))));
   }
   return folded;
+}
+
+std::string Showable(std::string_view text) {
+  constexpr char32_t kReplacement = 0xFFFD;
+  std::string shown;
+  shown.reserve(text.size());
+  for (std::size_t offset = 0; offset < text.size();) {
+    const char32_t character = NextCharacter(text, offset);
+    AppendCharacter(shown, character < kStrayByte ? character : kReplacement);
+  }
+  return shown;
 }
 
 bool EqualsIgnoringCase(std::string_view left, std::string_view right) {

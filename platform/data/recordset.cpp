@@ -1,5 +1,7 @@
 #include "platform/data/recordset.h"
 
+#include <cmath>
+
 #include "platform/data/ado_error.h"
 
 namespace orvendal {
@@ -7,7 +9,9 @@ namespace orvendal {
 void Connection::CheckNumber(const std::string& /*text*/) const {}
 
 Value Field::Value() const {
-  return recordset_->FieldValue(index_);
+  orvendal::Value value = recordset_->FieldValue(index_);
+  if (value.IsNumber() && !std::isfinite(value.Number())) throw RuntimeError(error_number::kOverflow);
+  return value;
 }
 
 RuntimeError AdoError(std::int32_t number) {

@@ -4,6 +4,7 @@
 
 #include <fstream>
 
+#include "host/private_file.h"
 #include "platform/data/ado_error.h"
 #include "tests/host/temporary_folder.h"
 
@@ -109,6 +110,29 @@ TEST_F(HostStore, TheReasonIsInTheLanguageChosen) {
     FAIL();
   } catch (const StoreUnavailable& error) {
     EXPECT_EQ(error.Description(), "The database " + file + " does not exist.");
+  }
+}
+
+TEST_F(HostStore, TheDefaultStoreIsForItsOwnerAlone) {
+  namespace fs = std::filesystem;
+  const std::string home = folder / "orvendal";
+  const std::string store_file = home + "/cadena.db";
+  const auto permissions = [](const std::string& path) {
+    return static_cast<unsigned>(fs::status(path).permissions());
+  };
+  for (const bool was_there : {false, true}) {
+    if (was_there) {  // as earlier versions left it
+      fs::permissions(home, fs::perms(0755));
+      fs::permissions(store_file, fs::perms(0644));
+    }
+    MakePrivateFile(store_file);
+    const auto store = OpenOrMakeStore(At(store_file), kToday);
+    store->Execute("DELETE FROM Productos WHERE Codigo = 'x'");
+    EXPECT_EQ(permissions(home), 0700U);
+    EXPECT_EQ(permissions(store_file), 0600U);
+    EXPECT_EQ(permissions(store_file + "-wal"), 0600U);
+    EXPECT_EQ(permissions(store_file + "-shm"), 0600U);
+    EXPECT_EQ(Read(*store, "SELECT COUNT(*) FROM Sucursales"), "12");
   }
 }
 

@@ -77,6 +77,18 @@ TEST_F(ProductSearch, NarrowsAsOneTypesOnAfterTheText) {
   EXPECT_EQ(code, "CHA01");
 }
 
+TEST_F(ProductSearch, AnotherEncodingShowsAReplacementSignAndIsChosenAsItIs) {
+  store->Execute("INSERT INTO Productos VALUES (CAST(x'4CD131' AS TEXT), CAST(x'436FF161' AS TEXT))");
+  const std::string code = Search("Descripcion", "co", [this](Form& form) {
+    EXPECT_EQ(Shown(), Codes{"L\uFFFD1"});
+    EXPECT_EQ(Column(*grid, 1), Codes{"Co\uFFFDa"});
+    Accept(form);
+  });
+  EXPECT_EQ(code,
+            "L\xD1"
+            "1");
+}
+
 TEST_F(ProductSearch, GivesNothingWhenItIsCancelled) {
   EXPECT_EQ(Search("Codigo", "CHA01", Cancel), "");
   EXPECT_EQ(Search("Codigo", "CHA01",

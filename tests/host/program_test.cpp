@@ -61,6 +61,15 @@ TEST_F(Program, WritesAPictureAndTheDaysLinesWithoutADisplay) {
   EXPECT_TRUE(std::filesystem::exists(folder / "orvendal/cadena.db"));
 }
 
+TEST_F(Program, TheStoreThatItMakesIsForItsOwnerAlone) {
+  ASSERT_EQ(Run("--captura '" + (folder / "pantalla.png") + "'"), 0) << errors;
+  const auto permissions = [this](const char* name) {
+    return static_cast<unsigned>(std::filesystem::status(folder / name).permissions());
+  };
+  EXPECT_EQ(permissions("orvendal"), 0700U);
+  EXPECT_EQ(permissions("orvendal/cadena.db"), 0600U);
+}
+
 TEST_F(Program, ShowsTheSameDayWithEitherProvider) {
   const std::string picture = " --captura '" + (folder / "pantalla.png") + "'";
   ASSERT_EQ(Run("--dialecto jet" + picture), 0) << errors;

@@ -3,6 +3,7 @@
 #include "platform/forms/label.h"
 #include "platform/library/library.h"
 #include "tests/host/host_fixture.h"
+#include "tests/host/temporary_folder.h"
 
 namespace orvendal {
 namespace {
@@ -111,6 +112,23 @@ TEST_F(WorkstationPanel, AStoreThatCannotBeOpenedIsToldAndTheConnectionStays) {
   EXPECT_EQ(connection, store);
   EXPECT_EQ(context.connection, store);
   EXPECT_TRUE(host.ReportedErrors().empty());
+}
+
+TEST_F(WorkstationPanel, AStoreThatNoLongerFitsIsRefusedAndTheConnectionStays) {
+  const TemporaryFolder folder;
+  const StoreSettings settings{folder / "cadena.db", Dialect::kSqlServer, Region::Spanish(), SpanishWords()};
+  const auto opened = OpenOrMakeStore(settings, Date(2026, 11, 16));
+  connection = context.connection = opened;
+  context.reopen_store = [settings]() -> ConnectionRef { return OpenExistingStore(settings); };
+  opened->Execute("ALTER TABLE HistOrvendalcial DROP COLUMN Actualizado");
+  Open([this](Form& form) {
+    Reconnect(form);
+    ASSERT_EQ(messages.shown.size(), 1U);
+    EXPECT_NE(messages.shown[0].text.find("le falta HistOrvendalcial.Actualizado"), std::string::npos)
+        << messages.shown[0].text;
+    Close(form);
+  });
+  EXPECT_EQ(connection, opened);
 }
 
 TEST_F(WorkstationPanel, ComesUpAlsoWhenTheStoreDoesNotAnswer) {

@@ -127,6 +127,36 @@ TEST_F(StandInTools, OfTwoCountsOfADayTakesTheOneSavedLast) {
   EXPECT_EQ(Stock("01", "CHA01"), "5");
 }
 
+TEST_F(StandInTools, OfTwoCountsOfTheSameMomentTakesTheOneAddedLast) {
+  for (const double quantity : {5.0, 8.0, 4.0}) {
+    Count("01", "2026-11-16 00:00:00", "CHA01", quantity, "2026-11-16 12:00:00");
+  }
+  Recalculate("01", "CHA01");
+  EXPECT_EQ(Stock("01", "CHA01"), "4");
+}
+
+TEST_F(StandInTools, AProductHasOneStockHoweverItsCodeIsSpelled) {
+  store->Execute("INSERT INTO ProdSucStock VALUES ('01', 'PEÑA', 9), ('01', 'LAC01 ', 8)");
+  Count("01", "2026-11-16 00:00:00", "peña", 5);
+  Count("01", "2026-11-16 00:00:00", "LAC01", 6);
+  Recalculate("01", "peña");
+  Recalculate("01", "LAC01");
+  EXPECT_EQ(Read("SELECT COUNT(*) FROM ProdSucStock"), "2");
+  EXPECT_EQ(Stock("01", "PEÑA"), "5");
+  EXPECT_EQ(Stock("01", "LAC01 "), "6");
+}
+
+TEST_F(StandInTools, TheNewestCountIsFoundHoweverItsCodeIsSpelled) {
+  Count("01", "2026-11-15 00:00:00", "peña", 3);
+  Count("01", "2026-11-16 00:00:00", "PEÑA ", 7);
+  Count("01", "2026-11-14 00:00:00", "PEÑA ", 2);
+  Recalculate("01", "peña");
+  EXPECT_EQ(Stock("01", "peña"), "7");
+  Recalculate("01", "PEÑA");  // a spelling that no count has
+  EXPECT_EQ(Stock("01", "peña"), "7");
+  EXPECT_EQ(Read("SELECT COUNT(*) FROM ProdSucStock"), "1");
+}
+
 TEST_F(StandInTools, MakesTheStockOfAProductThatHadNone) {
   Count("01", "2026-11-16 00:00:00", "CHA02", 6);
   Recalculate("01", "CHA02");

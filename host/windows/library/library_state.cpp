@@ -11,7 +11,9 @@
 #include "adapters/win32/module_use.h"
 #include "data_objects.h"
 #include "host/default_store.h"
+#include "host/error_words.h"
 #include "host/host_store.h"
+#include "host/private_file.h"
 
 namespace orvendal {
 namespace {
@@ -111,11 +113,11 @@ void LibraryState::SetLanguage(Language language) {
 void LibraryState::OpenConnection(const std::string& connection_string) {
   context_.connection = OpenedConnection(connection_string);
   context_.store_name = connection_string;
-  context_.reopen_store = [connection_string]() -> ConnectionRef {
+  context_.reopen_store = [this, connection_string]() -> ConnectionRef {
     try {
       return OpenedConnection(connection_string);
     } catch (const RuntimeError& error) {
-      throw StoreUnavailable(error.Description());
+      throw StoreUnavailable(DescriptionInWords(context_.words, error.Description(), context_.store_name));
     }
   };
 }
@@ -123,8 +125,7 @@ void LibraryState::OpenConnection(const std::string& connection_string) {
 void LibraryState::OpenStore(std::string file, const std::string& provider) {
   if (file.empty()) {
     file = DefaultStore();
-    std::error_code ignored;
-    std::filesystem::create_directories(PathOf(file).parent_path(), ignored);
+    MakePrivateFile(file);
   }
   const std::u8string absolute = std::filesystem::absolute(PathOf(file)).u8string();
   const std::string path(absolute.begin(), absolute.end());
@@ -134,6 +135,10 @@ void LibraryState::OpenStore(std::string file, const std::string& provider) {
       ->Close();
   OpenConnection("Provider=" + provider + ";Data Source=\"" + path + "\"");
   context_.store_name = path;
+  context_.reopen_store = [this, path, reopen = context_.reopen_store]() -> ConnectionRef {
+    OpenExistingStore({path, Dialect::kSqlServer, windows_.UserRegion(), context_.words})->Close();
+    return reopen();
+  };
 }
 
 void LibraryState::UseConnection(ConnectionRef connection) {

@@ -87,7 +87,11 @@ void ConnectionObject::ApplyCommandTimeout() {
   constexpr int kMilliseconds = 1000;
   constexpr int kLongest = std::numeric_limits<int>::max();
   const bool bounded = command_timeout_ > 0 && command_timeout_ < kLongest / kMilliseconds;
-  if (IsOpen()) store_->BusyTimeout(bounded ? static_cast<int>(command_timeout_) * kMilliseconds : kLongest);
+  if (!IsOpen()) return;
+  const int milliseconds = bounded ? static_cast<int>(command_timeout_) * kMilliseconds : 0;
+  store_->BusyTimeout(bounded ? milliseconds : kLongest);
+  // A client that asks for nothing gives its statements longer than the wait for another program.
+  if (command_timeout_set_) store_->CommandTimeout(milliseconds);
 }
 
 HRESULT ConnectionObject::Open(BSTR text, BSTR /*user*/, BSTR /*password*/, LONG options) noexcept {
@@ -197,6 +201,7 @@ HRESULT ConnectionObject::put_CommandTimeout(LONG seconds) noexcept {
   return Do([&] {
     RequireSeconds(seconds);
     command_timeout_ = seconds;
+    command_timeout_set_ = true;
     ApplyCommandTimeout();
   });
 }

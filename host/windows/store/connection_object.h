@@ -12,7 +12,8 @@ class RecordsetObject;
 
 /// ADO's Connection over one file of the embedded store. It opens at once and in place, commits each
 /// statement by itself outside a transaction, and has one level of transactions. CommandTimeout is how many
-/// seconds a statement waits for another program that holds the file, 2 at first; 0 waits without end.
+/// seconds a statement waits for another program that holds the file, and may run: 2 and 30 until it is set; 0 is
+/// without end.
 ///
 /// Invariant: open from Open until Close or the last reference; a transaction that is open then is rolled
 /// back.
@@ -75,6 +76,7 @@ class ConnectionObject final : public DataObject<::_Connection> {
   std::string provider_;  // as set; empty until then
   bool in_transaction_ = false;
   LONG command_timeout_ = 2;
+  bool command_timeout_set_ = false;
   LONG connection_timeout_ = 15;
   LONG cursor_location_ = 2;
 };

@@ -58,6 +58,8 @@ VARIANT VariantOf(const Value& value, const ColumnType& type) {
     V_DATE(&variant) = value.AsDate().Serial();
   } else if (value.IsText()) {
     WriteText(variant, value.Text());
+  } else if (!std::isfinite(value.Number())) {
+    throw RuntimeError(error_number::kOverflow);
   } else if (type.whole_numbers && FitsLong(value.Number())) {
     WriteLong(variant, static_cast<LONG>(value.Number()));
   } else {

@@ -262,6 +262,24 @@ TEST_P(AddingRows, AKeysetCountsTheRowsAdded) {
   EXPECT_EQ(table->RecordCount(), SqlServer() ? -1 : 2);
 }
 
+TEST_P(AddingRows, ASecondNewRowBeginsWithNoFieldAssigned) {
+  const RecordsetRef table = Write("SELECT Empleados.* FROM Empleados");
+  table->AddNew();
+  table->Collect("Codigo", "E1");
+  table->Collect("IdSucursal", "02");
+  table->Collect("Nombre", "Ana");
+  table->Update();
+  table->AddNew();
+  table->Collect("Codigo", "E2");
+  EXPECT_TRUE(table->Fields("Nombre").Value().IsNull());
+  table->AddNew();  // posts the one before
+  table->Collect("Codigo", "E3");
+  table->Collect("Nombre", "Eva");
+  table->Update();
+  EXPECT_EQ(Column("SELECT Codigo FROM Empleados WHERE IdSucursal = ''", "Codigo"), (Texts{"E2", "E3"}));
+  EXPECT_EQ(Native("SELECT Nombre IS NULL FROM Empleados WHERE Codigo = 'E2'"), "1");
+}
+
 INSTANTIATE_TEST_SUITE_P(BothDialects, AddingRows, ::testing::Values(Dialect::kSqlServer, Dialect::kJet),
                          DialectName);
 

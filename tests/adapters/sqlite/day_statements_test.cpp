@@ -194,6 +194,24 @@ TEST_P(JetDays, ADatePatternFollowsTheEnglishRegionToo) {
   EXPECT_EQ(Column(DayStatement("01", "LIKE '16/11/2026%'"), "IdProducto"), Texts{});
 }
 
+TEST_P(JetDays, ThePartOfADateFindsEveryDayThatBeginsSo) {
+  store->Execute(
+      "INSERT INTO HistOrvendalcial (IdSucursal, Fecha, IdProducto) VALUES ('77', '2026-11-16 00:00:00', "
+      "'A'), "
+      "('77', '2020-11-16 00:00:00', 'B'), ('77', '2026-11-16 09:05:00', 'C'), ('77', '16/11/2026x', 'D')");
+  const auto found = [&](const std::string& pattern) {
+    return Column("SELECT IdProducto FROM HistOrvendalcial WHERE IdSucursal = '77' AND Fecha LIKE '" +
+                      pattern + "' ORDER BY IdProducto",
+                  "IdProducto");
+  };
+  EXPECT_EQ(found("16/11/20%"), (Texts{"A", "B", "C", "D"}));
+  EXPECT_EQ(found("16/11/2026%"), (Texts{"A", "C"}));
+  EXPECT_EQ(found("16/11/2026"), Texts{"A"});
+  EXPECT_EQ(found("16/11/2026 9:05:0%"), Texts{"C"});
+  // With more than a date to look for, a text that is no date is looked at as well.
+  EXPECT_EQ(found("16/11/2026_"), Texts{"D"});
+}
+
 INSTANTIATE_TEST_SUITE_P(Dialect, JetDays, ::testing::Values(Dialect::kJet), DialectName);
 
 class ServerDays : public DayStatements {};

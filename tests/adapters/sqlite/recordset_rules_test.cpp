@@ -272,6 +272,36 @@ TEST_P(Finding, ACriteriaThatCannotBeReadIsRefused) {
   EXPECT_EQ(ErrorOf([&] { Found("Ciudad = 'x'"); }), ado_error::kItemNotFound);
 }
 
+TEST_P(RecordsetRules, FindKnowsAKeyWithBlanksAfterIt) {
+  store->Execute("INSERT INTO Sucursales VALUES ('4 ', 'Este')");
+  const RecordsetRef recordset = Read(rows);
+  recordset->Find("Sucursal = '4'", 0, SearchDirection::kForward);
+  ASSERT_FALSE(recordset->AtEnd());
+  EXPECT_EQ(recordset->Fields("Nombre").Value(), Value("Este"));
+  const RecordsetRef other = Read(rows);
+  other->Find("Sucursal = '02  '", 0, SearchDirection::kForward);
+  ASSERT_FALSE(other->AtEnd());
+  EXPECT_EQ(other->Fields("Nombre").Value(), Value("Sur"));
+}
+
+TEST_P(RecordsetRules, ANegationEndsBeforeTheNextCondition) {
+  store->Execute("INSERT INTO Productos VALUES ('P1', 'Gel'), ('P2', 'Gel'), ('P3', 'Laca')");
+  const std::string condition = "NOT Codigo = 'P1' AND Descripcion = 'Gel'";
+  EXPECT_EQ(Column("SELECT Codigo FROM Productos WHERE " + condition, "Codigo"), Texts{"P2"});
+}
+
+TEST_P(RecordsetRules, ANumberWithoutEndIsAnOverflowAndNotAText) {
+  store->Execute(
+      "INSERT INTO ProdSucStock VALUES ('01', 'P1', 9e999), ('01', 'P2', -9e999), ('01', 'P3', 3)");
+  const RecordsetRef stock = Read("SELECT * FROM ProdSucStock");
+  EXPECT_EQ(ErrorOf([&] { stock->Fields("Stock").Value(); }), error_number::kOverflow);
+  EXPECT_EQ(stock->Fields("IdProducto").Value(), Value("P1"));
+  stock->MoveNext();
+  EXPECT_EQ(ErrorOf([&] { stock->Fields("Stock").Value(); }), error_number::kOverflow);
+  stock->MoveNext();
+  EXPECT_EQ(stock->Fields("Stock").Value(), Value(3));
+}
+
 INSTANTIATE_TEST_SUITE_P(BothDialects, RecordsetRules, ::testing::Values(Dialect::kSqlServer, Dialect::kJet),
                          DialectName);
 INSTANTIATE_TEST_SUITE_P(BothDialects, Finding, ::testing::Values(Dialect::kSqlServer, Dialect::kJet),

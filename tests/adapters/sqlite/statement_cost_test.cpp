@@ -81,6 +81,15 @@ TEST_P(StatementCost, ALoadFindsItsDayByBranchAndDate) {
   EXPECT_FALSE(Contains(plan, "SCAN")) << plan;
 }
 
+TEST_P(StatementCost, AJoinWrittenTheOtherWayRoundGoesByIndexToo) {
+  const std::string plan = PlanOfReading(
+      "SELECT HistOrvendalcial.IdProducto FROM HistOrvendalcial INNER JOIN Productos ON Productos.Codigo = "
+      "HistOrvendalcial.IdProducto WHERE HistOrvendalcial.IdSucursal = '01'");
+  EXPECT_TRUE(Contains(plan, "SEARCH HistOrvendalcial USING")) << plan;
+  EXPECT_TRUE(Contains(plan, "SEARCH Productos USING")) << plan;
+  EXPECT_FALSE(Contains(plan, "SCAN")) << plan;
+}
+
 TEST_P(StatementCost, ADeleteFindsItsDayByBranchAndDate) {
   const std::string plan =
       Plan([&] { Write(DeleteStatement("01", SaveCondition(GetParam(), "2026-11-16"))); });
@@ -89,11 +98,20 @@ TEST_P(StatementCost, ADeleteFindsItsDayByBranchAndDate) {
 }
 
 TEST_P(StatementCost, LookUpsGoByIndex) {
-  const Texts statements = {CodeExistsStatement("P1"),       CodeExistsStatement("Ñ1"),
-                            ReferenceStatement("P1"),        CodeLikeStatement("P1"),
-                            CodeLikeStatement("P%"),         CodeLikeStatement("Ñandú%"),
-                            DescriptionLikeStatement("pro"), DescriptionLikeStatement("ñá"),
-                            DescriptionStatement("P1"),      StockStatement("01", "P1")};
+  const Texts statements = {CodeExistsStatement("P1"),
+                            CodeExistsStatement("Ñ1"),
+                            ReferenceStatement("P1"),
+                            CodeLikeStatement("P1"),
+                            CodeLikeStatement("P%"),
+                            CodeLikeStatement("Ñandú%"),
+                            DescriptionLikeStatement("pro"),
+                            DescriptionLikeStatement("ñá"),
+                            DescriptionStatement("P1"),
+                            StockStatement("01", "P1"),
+                            CodeExistsStatement("PE\xD1"
+                                                "A"),
+                            CodeLikeStatement("PE\xD1%"),
+                            CodeLikeStatement("\xFF%")};
   for (const std::string& statement : statements) {
     const std::string plan = PlanOfReading(statement);
     EXPECT_TRUE(Contains(plan, "SEARCH")) << statement << "\n" << plan;

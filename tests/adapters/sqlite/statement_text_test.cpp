@@ -29,6 +29,12 @@ TEST(Tokens, MarksInsideATextAreText) {
             "w:x s:= t:#1/1/2026# CONVERT( -- [a] % ");
 }
 
+// There a hyphen is a minus, and what follows two of them still counts.
+TEST(Tokens, OneDialectHasNoComments) {
+  EXPECT_EQ(Shape("x -- y", Dialect::kJet), "w:x s:- s:- w:y ");
+  EXPECT_EQ(Shape("/* x */", Dialect::kJet), "s:/ s:* w:x s:* s:/ ");
+}
+
 TEST(Tokens, WhatIsNotClosedIsRefused) {
   for (const char* statement : {"'a", "a'", "[a", "#1/1/2026", "'it's'", "\"a"}) {
     EXPECT_THROW(Tokenize(statement, Dialect::kJet), RuntimeError) << statement;
@@ -73,6 +79,21 @@ TEST(Rewriting, DatesOutsideConditionsTakeTheFormOfTheFile) {
             "INSERT INTO t ( day ) VALUES ( '2026-11-16 09:05:00' )");
   EXPECT_EQ(Rewritten("UPDATE t SET day = #2/3/2026#", Dialect::kJet).sql,
             "UPDATE t SET day = '2026-02-03 00:00:00'");
+}
+
+TEST(Rewriting, ADateInAnotherStyleIsRefused) {
+  EXPECT_THROW(Rewritten("SELECT * FROM t WHERE day = CONVERT(DATETIME, '16/11/2026', 103)"), RuntimeError);
+  EXPECT_THROW(Rewritten("SELECT * FROM t WHERE day = CONVERT(DATETIME, '2026-11-16', 101)"), RuntimeError);
+}
+
+TEST(Rewriting, AConditionGoesOnAfterABracket) {
+  const std::string in_bracket =
+      "SELECT * FROM t WHERE number IN (SELECT number FROM t ORDER BY number) AND ";
+  EXPECT_EQ(Rewritten(in_bracket + "number = 1").parameters.size(), 0U);
+  EXPECT_GT(Rewritten(in_bracket + "text = 'a'").parameters.size(), 0U);
+  // And the sorting after one is none of it.
+  EXPECT_EQ(Rewritten("SELECT text FROM t ORDER BY (SELECT 1 FROM t WHERE number = 1), text").sql,
+            "SELECT text FROM t ORDER BY ( SELECT 1 FROM t WHERE number = 1 ) , orvendal_sort_key(\"text\")");
 }
 
 TEST(Rewriting, TablesAreKnownByTheirAlias) {

@@ -49,6 +49,8 @@ TEST(LikePattern, ASetStandsForOneOfItsCharacters) {
   EXPECT_FALSE(Like("d", "[a-c]"));
   EXPECT_TRUE(Like("d", "[^a-c]"));
   EXPECT_FALSE(Like("", "[^a-c]"));
+  EXPECT_TRUE(Like("d", "[^a]"));
+  EXPECT_FALSE(Like("A", "[^a]"));
   EXPECT_TRUE(Like("-", "[a-]"));
   EXPECT_FALSE(Like("", "[]"));
   EXPECT_FALSE(Like("[a", "[a"));
@@ -71,6 +73,10 @@ TEST(LikePattern, ALongTextDoesNotMakeManyWildcardsSlow) {
 TEST(LikePattern, ItsLiteralBeginningIsKnown) {
   EXPECT_EQ(TextPattern("Ña1%x").LiteralPrefix(), "Ña1");
   EXPECT_EQ(TextPattern("50[%] x").LiteralPrefix(), "50% x");
+  EXPECT_EQ(TextPattern("A[1-1]x").LiteralPrefix(), "A1x");
+  EXPECT_EQ(TextPattern("A_[%]x").LiteralPrefix(), "A");
+  EXPECT_EQ(TextPattern("A[^x]").LiteralPrefix(), "A");
+  EXPECT_TRUE(TextPattern("A[^x]").HasWildcards());
   EXPECT_FALSE(TextPattern("50[%] x").HasWildcards());
   EXPECT_TRUE(TextPattern("a[bc]").HasWildcards());
   EXPECT_TRUE(TextPattern("abc%").IsPrefixOnly());

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include <clocale>
 
 #include "platform/base/runtime_error.h"
@@ -113,6 +115,19 @@ TEST(RegionTest, RegionsAreFoundByNameOrLanguage) {
   EXPECT_EQ(Region::Find("ca"), &Region::Catalan());
   EXPECT_EQ(Region::Find("es-ES"), &Region::Spanish());
   EXPECT_EQ(Region::Find("fr"), nullptr);
+}
+
+TEST(RegionTest, ANumberThatIsNotFiniteIsAnOverflow) {
+  for (const double number :
+       {std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+        std::numeric_limits<double>::quiet_NaN()}) {
+    try {
+      Region::Spanish().ToText(Value(number));
+      ADD_FAILURE();
+    } catch (const RuntimeError& error) {
+      EXPECT_EQ(error.Number(), error_number::kOverflow);
+    }
+  }
 }
 
 }  // namespace

@@ -38,6 +38,26 @@ TEST(TextTest, SearchFoldsAccentsToo) {
   EXPECT_EQ(FoldForSearch("CHAMPÚ Niño"), "champu nino");
 }
 
+TEST(TextTest, AByteThatIsNoUtf8IsACharacterOfItsOwn) {
+  EXPECT_TRUE(EqualsIgnoringCase("a\xD1", "A\xD1"));
+  EXPECT_FALSE(EqualsIgnoringCase("\xD1", "\xF1"));
+  EXPECT_FALSE(EqualsIgnoringCase("\xD1", "Ñ"));
+  EXPECT_EQ(ToLower("A\xD1\xC3"), "a\xD1\xC3");
+  EXPECT_EQ(FoldForSearch("A\xD1"), "a\xD1");
+  // Longer than need be, half of a pair, beyond Unicode.
+  for (const char* text : {"\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF0\x80\x80\x80"}) {
+    EXPECT_EQ(Len(text), std::string(text).size());
+    EXPECT_EQ(ToLower(text), text);
+  }
+}
+
+TEST(TextTest, AByteThatIsNoUtf8IsShownByAReplacementSign) {
+  EXPECT_EQ(Showable("Pe\xF1"
+                     "a ñ"),
+            "Pe\uFFFDa ñ");
+  EXPECT_EQ(Showable("ñandú €"), "ñandú €");
+}
+
 TEST(TextTest, CharactersGoThereAndBack) {
   for (const char32_t character : {U'a', U'ñ', U'€', U'\U0001F600'}) {
     const std::string text = FromCharacter(character);
