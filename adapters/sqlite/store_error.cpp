@@ -45,7 +45,7 @@ RuntimeError StatementError(const std::string& message, Dialect dialect) {
   if (message.find("syntax error") != std::string::npos || TakeAfter(message, "unrecognized token", name)) {
     return SyntaxError(dialect, BetweenQuotes(message));
   }
-  if (message.find("not authorized") == 0) return {ado_error::kPermissionDenied, kNotAllowed};
+  if (message.starts_with("not authorized")) return {ado_error::kPermissionDenied, kNotAllowed};
   return {ado_error::kSyntax, message};
 }
 

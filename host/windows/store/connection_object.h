@@ -12,8 +12,8 @@ class RecordsetObject;
 
 /// ADO's Connection over one file of the embedded store. It opens at once and in place, commits each
 /// statement by itself outside a transaction, and has one level of transactions. CommandTimeout is how many
-/// seconds a statement waits for another program that holds the file, and may run: 2 and 30 until it is set; 0 is
-/// without end.
+/// seconds a statement waits for another program that holds the file, and may run: 2 and 30 until it is set;
+/// 0 is without end.
 ///
 /// Invariant: open from Open until Close or the last reference; a transaction that is open then is rolled
 /// back.
