@@ -93,9 +93,10 @@ const Words& CatalanWords() {
       .rows_without_positions = "Aquestes files de la base de dades no tenen número.",
       .not_now = "La base de dades no pot fer això en aquest moment. Repetiu el que fèieu.",
       .wrong_argument = "Una dada no val per al que es demana.",
-      .number_too_large =
-          "Un nombre és massa gran, o el recompte passa de 32.766 línies. Corregiu el nombre o traieu línies "
-          "i repetiu el que fèieu.",
+      .number_too_large = "Un nombre és massa gran. Corregiu-lo i repetiu el que fèieu.",
+      .grid_too_long =
+          "El recompte té més de les %2 files que es poden desar. No s’ha esborrat ni desat res. Apunteu les "
+          "línies noves, premeu Cancel·lar per carregar el dia una altra vegada i introduïu-ne menys.",
       .value_empty = "Falta un valor necessari. Completeu-lo a la base de dades i repetiu el que fèieu.",
       .object_missing =
           "Falta una part del programa que havia d’estar preparada. Tanqueu la pantalla i torneu-la a obrir.",

@@ -90,9 +90,10 @@ const Words& EnglishWords() {
       .rows_without_positions = "Those rows of the database have no number.",
       .not_now = "The database cannot do that at this moment. Do it again.",
       .wrong_argument = "A value does not serve for what is asked.",
-      .number_too_large =
-          "A number is too large, or the count has more than 32,766 lines. Correct the number or take lines "
-          "away, and do it again.",
+      .number_too_large = "A number is too large. Correct it and do it again.",
+      .grid_too_long =
+          "The count has more than the %2 rows that can be saved. Nothing was deleted or saved. Note the "
+          "lines that are new, press Cancel to load the day again, and enter fewer of them.",
       .value_empty = "A value is missing that there has to be. Complete it in the database and do it again.",
       .object_missing =
           "A part of the program that should be ready is missing. Close the screen and open it again.",

@@ -94,9 +94,10 @@ const Words& SpanishWords() {
       .rows_without_positions = "Esas filas de la base de datos no tienen número.",
       .not_now = "La base de datos no puede hacer eso en este momento. Repita lo que hacía.",
       .wrong_argument = "Un dato no vale para lo que se pide.",
-      .number_too_large =
-          "Un número es demasiado grande, o el recuento pasa de 32.766 líneas. Corrija el número o quite "
-          "líneas y repita lo que hacía.",
+      .number_too_large = "Un número es demasiado grande. Corríjalo y repita lo que hacía.",
+      .grid_too_long =
+          "El recuento tiene más de las %2 filas que se pueden guardar. No se ha borrado ni guardado nada. "
+          "Apunte las líneas nuevas, pulse Cancelar para cargar el día otra vez e introduzca menos.",
       .value_empty = "Falta un valor que hace falta. Complételo en la base de datos y repita lo que hacía.",
       .object_missing =
           "Falta una parte del programa que debía estar preparada. Cierre la pantalla y ábrala otra vez.",

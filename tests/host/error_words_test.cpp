@@ -50,10 +50,15 @@ TEST(ErrorWords, WhatIsNotKnownIsToldAsItIs) {
 }
 
 TEST(ErrorWords, AnOverflowSaysWhatToDo) {
+  EXPECT_EQ(ErrorInWords(SpanishWords(), RuntimeError(error_number::kOverflow), kStore),
+            "Error 6: Un número es demasiado grande. Corríjalo y repita lo que hacía.");
+  // As a save refuses a grid that its counter cannot count.
   EXPECT_EQ(
-      ErrorInWords(SpanishWords(), RuntimeError(error_number::kOverflow), kStore),
-      "Error 6: Un número es demasiado grande, o el recuento pasa de 32.766 líneas. Corrija el número o "
-      "quite líneas y repita lo que hacía.");
+      Spanish("Overflow: the grid has more than the 32767 rows that a save takes. Nothing was deleted or "
+              "saved. Note the lines that are new, press Cancel to load the day again, and enter fewer of "
+              "them."),
+      "El recuento tiene más de las 32767 filas que se pueden guardar. No se ha borrado ni guardado nada. "
+      "Apunte las líneas nuevas, pulse Cancelar para cargar el día otra vez e introduzca menos.");
 }
 
 // Every way in which the store and the runtime describe an error has its sentence in every language.
