@@ -1,7 +1,8 @@
 // What the C++ runtime asks of the system's threads, for modules that are unloaded: mutexes, one-time
-// initialisation and values of a thread. The toolchain's own layer keeps kernel handles, memory and a slot of
-// the process for each load of a module, and of each thread that ever raised an error in it, and gives none
-// of them back. What stands here lies in the module itself, and ReleaseThreadValues gives back the rest.
+// initialisation, values of a thread, and clocks. The toolchain's own layer keeps kernel handles, memory and
+// a slot of the process for each load of a module, and of each thread that ever raised an error in it, and
+// gives none of them back. What stands here lies in the module itself, and ReleaseThreadValues gives back the
+// rest.
 //
 // The runtime's functions are found here first when a module is linked with this file. One that is missing
 // shows at that moment, by functions that are defined twice.
@@ -9,6 +10,7 @@
 #include "adapters/automation/runtime_threads.h"
 
 #include <pthread.h>
+#include <pthread_time.h>
 
 #include <array>
 #include <atomic>
@@ -243,6 +245,35 @@ void* pthread_getspecific(pthread_key_t key) {
 }
 int pthread_setspecific(pthread_key_t key, const void* value) {
   return FlsSetValue(values[key].slot, const_cast<void*>(value)) ? 0 : ENOMEM;
+}
+
+// The layer's clocks come with all of its threads.
+int clock_gettime(clockid_t clock, struct timespec* time) {
+  constexpr LONGLONG kNanoseconds = 1'000'000'000;
+  if (clock == CLOCK_MONOTONIC) {
+    LARGE_INTEGER frequency, ticks;
+    QueryPerformanceFrequency(&frequency);
+    QueryPerformanceCounter(&ticks);
+    time->tv_sec = static_cast<time_t>(ticks.QuadPart / frequency.QuadPart);
+    time->tv_nsec =
+        static_cast<long>(ticks.QuadPart % frequency.QuadPart * kNanoseconds / frequency.QuadPart);
+    return 0;
+  }
+  if (clock != CLOCK_REALTIME) {
+    errno = EINVAL;
+    return -1;
+  }
+  constexpr LONGLONG kTick = 100;  // nanoseconds, since 1601
+  constexpr LONGLONG kTicks = kNanoseconds / kTick;
+  constexpr LONGLONG kFrom1601To1970 = 11'644'473'600 * kTicks;
+  FILETIME now;
+  GetSystemTimeAsFileTime(&now);
+  const LONGLONG ticks =
+      static_cast<LONGLONG>(ULARGE_INTEGER{{now.dwLowDateTime, now.dwHighDateTime}}.QuadPart) -
+      kFrom1601To1970;
+  time->tv_sec = static_cast<time_t>(ticks / kTicks);
+  time->tv_nsec = static_cast<long>(ticks % kTicks * kTick);
+  return 0;
 }
 
 }  // extern "C"
