@@ -43,7 +43,10 @@ double NumberOf(const VARIANT& variant) {
                                  VT_R8))) {
     RaiseConversion();
   }
-  return V_R8(&converted.Get());
+  const double number = V_R8(&converted.Get());
+  // The store would keep no value at all in its place.
+  if (!std::isfinite(number)) throw RuntimeError(error_number::kOverflow);
+  return number;
 }
 
 }  // namespace
@@ -79,6 +82,7 @@ Value ValueOf(const VARIANT& variant) {
     case VT_BSTR:
       return TextOfBstr(V_BSTR(&held));
     case VT_DATE:
+      if (!std::isfinite(V_DATE(&held))) throw RuntimeError(error_number::kOverflow);
       try {
         return Date::FromSerial(V_DATE(&held));
       } catch (const RuntimeError&) {

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "tests/windows/ado/ado_fixture.h"
 
 namespace orvendal::ado_testing {
@@ -93,6 +95,25 @@ TEST_F(RecordsetCalls, AValueIsAssignedInTheTypeThatItHas) {
   EXPECT_EQ(provider.calls, (Calls{"Collect('stockAnterior', '12,5')", "Collect('Nombre', 'Núñez')",
                                    "Collect('StockActual', R8 12.5)", "Collect('Fecha', DATE 46342.5)",
                                    "Collect('IdEmpleado', Null)"}));
+}
+
+TEST_F(RecordsetCalls, ANumberThatIsNoneIsAnOverflow) {
+  OpenRows();
+  for (const double number :
+       {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),
+        -std::numeric_limits<double>::infinity()}) {
+    VARIANT wide = {}, narrow = {}, date = {};
+    V_VT(&wide) = VT_R8;
+    V_R8(&wide) = number;
+    V_VT(&narrow) = VT_R4;
+    V_R4(&narrow) = static_cast<float>(number);
+    V_VT(&date) = VT_DATE;
+    V_DATE(&date) = number;
+    provider.values = {{"Stock", wide}, {"Corto", narrow}, {"Fecha", date}};
+    for (const char* field : {"Stock", "Corto", "Fecha"}) {
+      EXPECT_EQ(NumberOf([&] { Read(field); }), error_number::kOverflow) << field << " " << number;
+    }
+  }
 }
 
 TEST_F(RecordsetCalls, AFieldIsLookedUpOnceForAllRowsOfAStatement) {

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "adapters/win32/user_region.h"
 #include "tests/windows/store/store_client.h"
 
@@ -136,6 +138,27 @@ TEST_P(RecordsetWriting, AFieldOfAnotherRecordsetStandsForItsValue) {
   StartRow(recordset.Get());
   Collect(recordset.Get(), "ModificadoPor", Arg(field.Get()));
   EXPECT_EQ(ValueOf(recordset.Get(), "ModificadoPor"), "01");
+}
+
+TEST_P(RecordsetWriting, ANumberThatIsNoneIsAnOverflowInBothDirections) {
+  Native("INSERT INTO ProdSucStock VALUES ('01','P1',9e999),('01','P2',-9e999)");
+  const auto stored =
+      Opened(Connected(), "SELECT * FROM ProdSucStock ORDER BY IdProducto", kStatic, kReadOnly);
+  for (int row = 0; row < 2; ++row) {
+    EXPECT_EQ(ValueOf(stored.Get(), "IdProducto"), "P" + std::to_string(row + 1));
+    EXPECT_EQ(ValueOf(stored.Get(), "Stock"), "Overflow");
+    Variant collected;
+    EXPECT_EQ(stored->get_Collect(Arg("Stock"), collected.Address()), AdoFailure(6));
+    EXPECT_EQ(stored->MoveNext(), S_OK);
+  }
+  const auto added = Opened(Connected(), "SELECT * FROM ProdSucStock", kDynamic, kOptimistic);
+  ASSERT_EQ(added->AddNew(Arg(), Arg()), S_OK);
+  for (const double number :
+       {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+    EXPECT_EQ(added->put_Collect(Arg("Stock"), Arg(number)), AdoFailure(6)) << number;
+    EXPECT_EQ(added->put_Collect(Arg("Stock"), Arg::Date(number)), AdoFailure(6)) << number;
+  }
+  EXPECT_EQ(added->CancelUpdate(), S_OK);
 }
 
 TEST_P(RecordsetWriting, AReferenceToNothingIsNoValueAndNoField) {
