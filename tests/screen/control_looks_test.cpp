@@ -56,6 +56,28 @@ TEST_F(ControlLooksTest, TheBackgroundBitmap) {
   EXPECT_EQ(colors.size(), 85U);
 }
 
+TEST_F(ControlLooksTest, OnAWideDisplayTheBackgroundFadesIntoTheSurfaceBehindIt) {
+  const Bitmap& picture = *form.PicServicios.Picture();
+  const Rgb surface = form.Host().Resolve(form.PicServicios.BackColor());
+  const auto color_at = [&](int x, int y) {
+    return picture.palette[picture.pixels[static_cast<std::size_t>(y) * 1149 + static_cast<std::size_t>(x)]];
+  };
+  for (int y = 0; y < 770; ++y) EXPECT_EQ(color_at(1148, y), surface) << y;
+  for (int x = 0; x < 1149; ++x) EXPECT_EQ(color_at(x, 769), surface) << x;
+  // Of the strip that shows above the panel no column differs much from the next one.
+  const auto redness = [&](int x) {
+    double sum = 0;
+    for (int y = 0; y < 88; ++y) sum += color_at(x, y).red;
+    return sum / 88;
+  };
+  int darkest = 255;
+  for (int x = 0; x < 1148; ++x) {
+    EXPECT_NEAR(redness(x), redness(x + 1), 2.5) << x;
+    darkest = std::min(darkest, static_cast<int>(redness(x)));
+  }
+  EXPECT_LT(darkest, 225);
+}
+
 TEST_F(ControlLooksTest, Boxes) {
   for (const TextBox* box :
        {&form.TxtEmpleado, &form.TxtCodigo, &form.TxtMSF, &form.MkFecha, &form.TxtFechaHora}) {
