@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <chrono>
+#include <cstring>
 #include <utility>
 
 #include "platform/forms/keys.h"
@@ -97,6 +98,24 @@ bool IsDigit(int qt_key) {
   return qt_key >= Qt::Key_0 && qt_key <= Qt::Key_9;
 }
 
+// The Latin letter that a key bears on most keyboards, by its place: on a Cyrillic, Greek or Arabic layout
+// the key has another letter, and people press it with Ctrl all the same. 0 for a key that is no letter's,
+// and where the layout is Latin, which puts its letters where it likes.
+int LetterByPlace(const QKeyEvent& event) {
+  constexpr int kLastLatin = 0x24F;
+  if (event.key() <= kLastLatin || event.key() > 0xFFFF) return 0;
+  struct Row {
+    quint32 first;  // code of its first key on X11 and Wayland
+    const char* letters;
+  };
+  constexpr Row kRows[] = {{24, "QWERTYUIOP"}, {38, "ASDFGHJKL"}, {52, "ZXCVBNM"}};
+  for (const Row& row : kRows) {
+    const quint32 place = event.nativeScanCode() - row.first;
+    if (event.nativeScanCode() >= row.first && place < std::strlen(row.letters)) return row.letters[place];
+  }
+  return 0;
+}
+
 }  // namespace
 
 int KeyCodeOf(int qt_key, Qt::KeyboardModifiers modifiers) {
@@ -170,8 +189,9 @@ std::vector<char32_t> CharactersOf(const QKeyEvent& event) {
       break;
   }
   if (control && !alt) {
-    if (!IsLetter(event.key())) return {};
-    return {static_cast<char32_t>(event.key() - Qt::Key_A + 1)};
+    const int letter = IsLetter(event.key()) ? event.key() : LetterByPlace(event);
+    if (letter == 0) return {};
+    return {static_cast<char32_t>(letter - Qt::Key_A + 1)};
   }
   std::vector<char32_t> characters;
   for (const uint point : event.text().toUcs4()) {

@@ -58,6 +58,30 @@ TEST(Keys, ControlKeysGiveControlCharacters) {
   EXPECT_EQ(Characters(Qt::Key_Escape, Qt::NoModifier, "\x1b"), U"\x1b");
 }
 
+std::u32string WithControl(int key, quint32 place, const QString& text) {
+  const QKeyEvent event(QEvent::KeyPress, key, Qt::ControlModifier, place, 0, 0, text);
+  const std::vector<char32_t> characters = CharactersOf(event);
+  return std::u32string(characters.begin(), characters.end());
+}
+
+TEST(Keys, WhereTheLayoutIsNotLatinTheKeysPlaceDecidesWithControl) {
+  // The keys A, C, V, X and Z of a Russian and a Greek keyboard.
+  EXPECT_EQ(WithControl(0x0424, 38, QString::fromUtf8("ф")), U"\x01");
+  EXPECT_EQ(WithControl(0x0421, 54, QString::fromUtf8("с")), U"\x03");
+  EXPECT_EQ(WithControl(0x041C, 55, QString::fromUtf8("м")), U"\x16");
+  EXPECT_EQ(WithControl(0x0427, 53, QString::fromUtf8("ч")), U"\x18");
+  EXPECT_EQ(WithControl(0x042F, 52, QString::fromUtf8("я")), U"\x1a");
+  EXPECT_EQ(WithControl(0x03A8, 54, QString::fromUtf8("ψ")), U"\x03");
+  EXPECT_EQ(WithControl(0x0416, 47, QString::fromUtf8("ж")), U"");  // no letter's place
+  EXPECT_EQ(WithControl(0x0424, 0, QString::fromUtf8("ф")), U"");   // no place known
+}
+
+TEST(Keys, ALatinLayoutPutsItsLettersWhereItLikes) {
+  EXPECT_EQ(WithControl(Qt::Key_Q, 38, "q"), U"\x11");  // where a French keyboard has it
+  EXPECT_EQ(WithControl(Qt::Key_Ntilde, 47, QString::fromUtf8("ñ")), U"");
+  EXPECT_EQ(WithControl(Qt::Key_1, 10, "1"), U"");
+}
+
 TEST(Keys, KeysThatWriteNothingGiveNoCharacter) {
   EXPECT_EQ(Characters(Qt::Key_Tab, Qt::NoModifier, "\t"), U"");
   EXPECT_EQ(Characters(Qt::Key_Backtab, Qt::ShiftModifier, "\t"), U"");
