@@ -5,7 +5,9 @@
 #include <iostream>
 #include <memory>
 
+#include "adapters/headless/headless_host.h"
 #include "adapters/qt/qt_picture.h"
+#include "adapters/qt/qt_text_measures.h"
 #include "host/guion_parser.h"
 #include "host/printed_text.h"
 
@@ -40,7 +42,11 @@ SavePicture QtPictures(const char* program_name) {
   return [name = std::string(program_name), qt = std::shared_ptr<OffscreenQt>()](
              Form& form, const std::string& path) mutable {
     if (!qt) qt = std::make_shared<OffscreenQt>(name);
-    return SavePng(form, path);
+    // The layout is that of every machine; what is painted is measured by the fonts that paint it.
+    QtFonts fonts;
+    QtTextMeasures measures(fonts);
+    const HeadlessHost::MeasuredBy painting(dynamic_cast<HeadlessHost&>(form.Host()), measures);
+    return SavePng(form, fonts, path);
   };
 }
 

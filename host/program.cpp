@@ -3,9 +3,12 @@
 #include <QApplication>
 #include <cstdlib>
 #include <iostream>
+#include <optional>
 
+#include "adapters/qt/qt_close_requests.h"
 #include "adapters/qt/qt_icon.h"
 #include "adapters/qt/qt_picture.h"
+#include "adapters/qt/qt_start.h"
 #include "adapters/qt/qt_window_host.h"
 #include "component/class_orvendal.h"
 #include "form/frm_orvendalciales.h"
@@ -59,6 +62,10 @@ QString TextOf(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
+QtEditCaptions EditCaptionsOf(const Words& words) {
+  return {TextOf(words.cut), TextOf(words.copy), TextOf(words.paste), TextOf(words.select_all)};
+}
+
 // The host application for one run.
 class Program {
  public:
@@ -110,6 +117,12 @@ class Program {
   }
 
   const std::string& StoreName() const { return context_.store_name; }
+
+  int RunUntilClosed() {
+    const QtCloseRequests close_requests(host_);
+    return HasScreen() ? QApplication::exec() : 0;
+  }
+
   bool HasScreen() const { return state_.form && state_.form->IsLoaded(); }
 
   /// False if the picture cannot be written.
@@ -130,6 +143,7 @@ class Program {
     if (options_.display) host.display = QSize(options_.display->width, options_.display->height);
     host.application_title = QApplication::applicationDisplayName();
     host.captions = CaptionsOf(words_);
+    host.edit_captions = EditCaptionsOf(words_);
     host.describe_error = [this](const RuntimeError& error) {
       return DescriptionInWords(words_, error.Description(), context_.store_name);
     };
@@ -184,7 +198,10 @@ int RunProgram(const Options& options, const char* program_name) {
   int argument_count = 1;
   std::string name(program_name);
   char* arguments[] = {name.data(), nullptr};
+  std::optional<QtStart> start;
+  if (!paints) start.emplace(ErrorLine(std::string(words.no_display)), kExitFailure);
   QApplication application(argument_count, arguments);
+  start.reset();
   QApplication::setApplicationName("orvendal");
   QApplication::setApplicationDisplayName("Orvendal");
   QApplication::setDesktopFileName("orvendal");
@@ -201,7 +218,7 @@ int RunProgram(const Options& options, const char* program_name) {
     } catch (const RuntimeError& error) {
       return fail(ErrorInWords(words, error, program.StoreName()));
     }
-    if (!paints) return program.HasScreen() ? QApplication::exec() : 0;
+    if (!paints) return program.RunUntilClosed();
     const bool written = program.WritePicture();
     program.UnloadScreen();
     return written ? 0 : fail(Fill(words.picture_not_written, {options.picture}));

@@ -71,7 +71,7 @@ bool IsWhollySelected(const EditedText& box) {
 
 // The box pastes by itself what it can take as it is; what has to be trimmed is put in for it.
 QuantityKey FilterPaste(const EditedText& box, WindowHost& host, bool decimals) {
-  const std::string clipboard = host.ClipboardText();
+  const std::string clipboard = host.PastedText();
   const std::string trimmed = WithoutWhiteSpaceAround(clipboard);
   const bool fits = IsQuantity(TextWith(box, trimmed), host.UserRegion(), decimals, KeepsSign(box));
   if (trimmed.empty() || !fits) return {};

@@ -10,6 +10,8 @@
 #include <memory>
 
 #include "adapters/qt/qt_icon.h"
+#include "adapters/qt/qt_start.h"
+#include "host/command_line.h"
 #include "host/printed_text.h"
 
 namespace orvendal {
@@ -34,6 +36,7 @@ void ShowBox(const std::string& sentence, const Words& words, const char* progra
   char* arguments[] = {name.data(), nullptr};
   std::unique_ptr<QApplication> application;
   if (QCoreApplication::instance() == nullptr) {
+    const QtStart start("", kExitFailure);  // without a display the line is all
     application = std::make_unique<QApplication>(argument_count, arguments);
     QApplication::setWindowIcon(ProgramIcon());
   }

@@ -17,6 +17,12 @@ struct Words {
   std::string_view yes;
   std::string_view no;
 
+  // The menu of a text box.
+  std::string_view cut;
+  std::string_view copy;
+  std::string_view paste;
+  std::string_view select_all;
+
   // Columns and fields.
   std::string_view code;
   std::string_view description;

@@ -1,19 +1,42 @@
 #include "adapters/headless/headless_host.h"
 
-#include "adapters/headless/font_widths.h"
+#include <cmath>
+
+#include "adapters/headless/font_tables.h"
 #include "platform/base/text.h"
 #include "platform/forms/timer.h"
 
 namespace orvendal {
 namespace {
 
-constexpr double kTwipsPerPoint = 20.0;
-constexpr double kLineHeightToSize = 1.2;
+constexpr double kPixelsPerPoint = 96.0 / 72.0;
+constexpr int kLightestBold = 600;
 
-std::uint16_t WidthOf(const CharacterWidths& widths, char32_t character) {
-  if (character >= 32 && character <= 126) return widths[character - 32];
-  if (character >= 160 && character <= 255) return widths[character - 160 + 95];
-  return widths['n' - 32];
+const FontTable& TableOf(const FontSpec& font) {
+  const bool is_bookman = font.name.find("Bookman") != std::string::npos;
+  if (is_bookman) return font.italic ? kBookmanDemiItalic : kBookmanDemi;
+  return font.weight >= kLightestBold ? kSansBold : kSans;
+}
+
+std::uint16_t WidthOf(const FontTable& table, char32_t character) {
+  if (character >= 32 && character <= 126) return table.widths[character - 32];
+  if (character >= 160 && character <= 255) return table.widths[character - 160 + 95];
+  if (character == U'’') return table.apostrophe;
+  return table.widths['n' - 32];
+}
+
+double PixelsOf(const FontSpec& font) {
+  return std::max(1.0, std::floor(font.size * kPixelsPerPoint + 0.5));
+}
+
+// Letters are as wide as whole 64ths of a pixel.
+double WidthInPixels(double pixels, double thousandths) {
+  constexpr double kParts = 64.0;
+  return std::floor(pixels * thousandths / 1000.0 * kParts) / kParts;
+}
+
+double Share(double pixels, double thousandths) {
+  return pixels * thousandths / 1000.0;
 }
 
 }  // namespace
@@ -37,16 +60,40 @@ Rect HeadlessHost::RoomInFrame() {
 }
 
 double HeadlessHost::TextWidth(const FontSpec& font, std::string_view text) {
-  const bool is_bookman = font.name.find("Bookman") != std::string::npos;
-  const CharacterWidths& widths = is_bookman ? kBookmanDemiWidths : kSansWidths;
-  double thousandths = 0;
+  if (measures_ != nullptr) return measures_->TextWidth(font, text);
+  const FontTable& table = TableOf(font);
+  const double pixels = PixelsOf(font);
+  double width = 0;
   for (std::size_t offset = 0; offset < text.size();)
-    thousandths += WidthOf(widths, NextCharacter(text, offset));
-  return thousandths * font.size * kTwipsPerPoint / 1000.0;
+    width += WidthInPixels(pixels, WidthOf(table, NextCharacter(text, offset)));
+  return width * kTwipsPerPixel;
 }
 
 double HeadlessHost::LineHeight(const FontSpec& font) {
-  return font.size * kTwipsPerPoint * kLineHeightToSize;
+  if (measures_ != nullptr) return measures_->LineHeight(font);
+  const FontTable& table = TableOf(font);
+  const double pixels = PixelsOf(font);
+  return (std::ceil(Share(pixels, table.ascent)) + std::ceil(Share(pixels, table.descent))) * kTwipsPerPixel;
+}
+
+// From the accents of capitals to the tails, and as far to the side as letters lean.
+Rect HeadlessHost::TextInk(const FontSpec& font, std::string_view text) {
+  if (measures_ != nullptr) return measures_->TextInk(font, text);
+  constexpr double kAccents = 900;
+  constexpr double kTails = 210;
+  constexpr double kLeaning = 2;  // pixels
+  const double pixels = PixelsOf(font);
+  const double base = std::ceil(Share(pixels, TableOf(font).ascent));
+  const double top = base - std::ceil(Share(pixels, kAccents));
+  const double bottom = base + std::ceil(Share(pixels, kTails));
+  const std::size_t end = text.find_last_not_of(' ');
+  if (end == std::string_view::npos) return {0, base * kTwipsPerPixel, 0, 0};
+  const double width = std::ceil(TextWidth(font, text.substr(0, end + 1)) / kTwipsPerPixel) + kLeaning;
+  return {0, top * kTwipsPerPixel, width * kTwipsPerPixel, (bottom - top) * kTwipsPerPixel};
+}
+
+std::optional<EditCommand> HeadlessHost::RunEditMenu(Form&, Point, const EditMenu& menu) {
+  return OnEditMenu ? OnEditMenu(menu) : std::nullopt;
 }
 
 std::unique_ptr<FormWindow> HeadlessHost::CreateFormWindow(Form& form) {

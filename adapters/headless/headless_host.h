@@ -33,8 +33,9 @@ class UnansweredDialog : public std::logic_error {
 
 class HeadlessWindow;
 
-/// A whole system without a display: nothing is shown, texts measure the same on every machine, dialogs are
-/// answered by functions queued beforehand, timers run when told to.
+/// A whole system without a display: nothing is shown, texts measure the same on every machine (a whole
+/// number of pixels high, as on a desktop), dialogs are answered by functions queued beforehand, timers run
+/// when told to.
 class HeadlessHost final : public WindowHost {
  public:
   HeadlessHost(const Region& region, Clock& clock) : region_(region), clock_(clock) {}
@@ -50,8 +51,22 @@ class HeadlessHost final : public WindowHost {
   std::size_t QueuedDialogs() const { return dialogs_.size(); }
   /// Runs at the next DoEvents, in order.
   void QueueEvent(std::function<void()> event) { events_.push_back(std::move(event)); }
+  /// Chooses from the menus of text boxes that come up; without it they are closed.
+  std::function<std::optional<EditCommand>(const EditMenu&)> OnEditMenu;
   /// Lets that many milliseconds pass for the timers.
   void PassTime(int milliseconds);
+
+  /// While it lives, texts are measured by somebody else: by the fonts that paint a picture.
+  class MeasuredBy {
+   public:
+    MeasuredBy(HeadlessHost& host, TextMeasures& measures) : host_(host) { host_.measures_ = &measures; }
+    ~MeasuredBy() { host_.measures_ = nullptr; }
+    MeasuredBy(const MeasuredBy&) = delete;
+    MeasuredBy& operator=(const MeasuredBy&) = delete;
+
+   private:
+    HeadlessHost& host_;
+  };
 
   const std::vector<RuntimeError>& ReportedErrors() const { return errors_; }
   void ForgetErrors() { errors_.clear(); }
@@ -68,6 +83,7 @@ class HeadlessHost final : public WindowHost {
   Rect RoomInFrame() override;
   double TextWidth(const FontSpec& font, std::string_view text) override;
   double LineHeight(const FontSpec& font) override;
+  Rect TextInk(const FontSpec& font, std::string_view text) override;
   std::unique_ptr<FormWindow> CreateFormWindow(Form& form) override;
   void RunModal(Form& form) override;
   void DoEvents() override;
@@ -75,6 +91,9 @@ class HeadlessHost final : public WindowHost {
   void Beep() override { ++beeps_; }
   std::string ClipboardText() override { return clipboard_; }
   void ClipboardText(const std::string& text) override { clipboard_ = text; }
+  std::string SelectedText() override { return selected_; }
+  void SelectedText(const std::string& text) override { selected_ = text; }
+  std::optional<EditCommand> RunEditMenu(Form& form, Point place, const EditMenu& menu) override;
   void ReportError(const RuntimeError& error) override;
 
  private:
@@ -91,6 +110,8 @@ class HeadlessHost final : public WindowHost {
   std::vector<RuntimeError> errors_;
   std::map<const Form*, HeadlessWindow*> windows_;
   std::string clipboard_;
+  std::string selected_;
+  TextMeasures* measures_ = nullptr;
   int beeps_ = 0;
 };
 

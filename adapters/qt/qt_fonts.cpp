@@ -74,4 +74,8 @@ double QtFonts::TextWidth(const FontSpec& spec, const QString& text) {
   return Entry(spec).metrics.horizontalAdvance(text);
 }
 
+QRectF QtFonts::TextInk(const FontSpec& spec, const QString& text) {
+  return Entry(spec).metrics.tightBoundingRect(text).translated(0, LineMeasures(spec).ascent);
+}
+
 }  // namespace orvendal

@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QRectF>
 #include <QString>
 #include <map>
 #include <string_view>
@@ -30,6 +31,8 @@ class QtFonts {
   /// Whole pixels.
   Measures LineMeasures(const FontSpec& spec);
   double TextWidth(const FontSpec& spec, const QString& text);
+  /// The pixels that the letters touch, from the upper left corner of the line.
+  QRectF TextInk(const FontSpec& spec, const QString& text);
   /// The family that stands in for `name`; `name` itself if the system has it.
   static QString FamilyFor(const QString& name);
 

@@ -163,6 +163,13 @@ Point QtFormWidget::PlaceOnForm(QPointF position) const {
   return {position.x() * kTwipsPerPixel - origin_.x, position.y() * kTwipsPerPixel - origin_.y};
 }
 
+QPoint QtFormWidget::PlaceOnScreen(Point twips) const {
+  return mapToGlobal(
+      QPoint(qRound((origin_.x + twips.x) / kTwipsPerPixel), qRound((origin_.y + twips.y) / kTwipsPerPixel)));
+}
+
+// A window that says to be minimised and still takes input is on a display without a window manager: the
+// event is spent on bringing it back.
 void QtFormWidget::Press(QMouseEvent& event, bool second_of_double) {
   const int button = ButtonOf(event.button());
   if (form_ == nullptr || button == 0 || BroughtBack()) return;

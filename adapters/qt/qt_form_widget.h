@@ -37,6 +37,10 @@ class QtFormWidget final : public QWidget {
   /// Tells the window system the state that the form has taken already.
   void ApplyState(WindowState state, Qt::WindowStates states);
 
+  /// A window that says to be minimised comes back as it was; true if it was so.
+  bool BroughtBack();
+  QPoint PlaceOnScreen(Point twips) const;
+
   const std::optional<Rect>& CaretArea() const { return caret_; }
 
  protected:
@@ -64,9 +68,6 @@ class QtFormWidget final : public QWidget {
   void RequestLeftOvers(const QRegion& painted);
   void Press(QMouseEvent& event, bool second_of_double);
   void TakeStateFromSystem();
-  /// A window that says to be minimised and still takes input is on a display without a window manager.
-  /// True if the event was spent on bringing it back.
-  bool BroughtBack();
   void Blink();
   void UpdateCaretArea();
 

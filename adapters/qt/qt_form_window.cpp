@@ -34,6 +34,14 @@ QWidget& QtFormWindow::Widget() const {
   return *widget_;
 }
 
+void QtFormWindow::BringBack() {
+  widget_->BroughtBack();
+}
+
+QPoint QtFormWindow::PlaceOnScreen(Point twips) const {
+  return widget_->PlaceOnScreen(twips);
+}
+
 bool QtFormWindow::SimulatesDisplay() const {
   return host_.options_.display.has_value() && !IsFramed() && !modal_;
 }

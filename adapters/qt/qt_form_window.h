@@ -28,6 +28,10 @@ class QtFormWindow final : public FormWindow {
   /// The window in front of which a modal one was shown.
   QWidget* Owner() const { return owner_; }
 
+  /// The window out of its minimised state, as it was before; does nothing to one that is not.
+  void BringBack();
+  QPoint PlaceOnScreen(Point twips) const;
+
   void Show() override;
   void Hide() override;
   void Raise() override;

@@ -44,8 +44,13 @@ QImage RenderForm(Form& form, double scale) {
   return RenderForm(form, fonts, scale);
 }
 
+bool SavePng(Form& form, QtFonts& fonts, const std::string& path, double scale) {
+  return WritePng(RenderForm(form, fonts, scale), QString::fromStdString(path));
+}
+
 bool SavePng(Form& form, const std::string& path, double scale) {
-  return WritePng(RenderForm(form, scale), QString::fromStdString(path));
+  QtFonts fonts;
+  return SavePng(form, fonts, path, scale);
 }
 
 }  // namespace orvendal

@@ -14,6 +14,7 @@ QImage RenderForm(Form& form, QtFonts& fonts, double scale = 1.0);
 QImage RenderForm(Form& form, double scale = 1.0);
 
 /// The same into a PNG file; false if it cannot be written.
+bool SavePng(Form& form, QtFonts& fonts, const std::string& path, double scale = 1.0);
 bool SavePng(Form& form, const std::string& path, double scale = 1.0);
 
 }  // namespace orvendal

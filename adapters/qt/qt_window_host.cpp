@@ -9,6 +9,7 @@
 #include <QWindow>
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "adapters/qt/qt_form_window.h"
 #include "adapters/qt/qt_icon.h"
@@ -31,7 +32,7 @@ void GiveKeyboardTo(QWidget* window) {
 }  // namespace
 
 QtWindowHost::QtWindowHost(const Region& region, Clock& clock, QtHostOptions options)
-    : region_(region), clock_(clock), options_(std::move(options)), timers_(*this) {
+    : region_(region), clock_(clock), options_(std::move(options)), measures_(fonts_), timers_(*this) {
   if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(ProgramIcon());
 }
 
@@ -66,14 +67,6 @@ Rect QtWindowHost::RoomInFrame() {
   const QSize room =
       QGuiApplication::primaryScreen()->availableGeometry().marginsRemoved(FrameMargins()).size();
   return {0, 0, room.width() * kTwipsPerPixel, room.height() * kTwipsPerPixel};
-}
-
-double QtWindowHost::TextWidth(const FontSpec& font, std::string_view text) {
-  return fonts_.TextWidth(font, SingleLine(text)) * kTwipsPerPixel;
-}
-
-double QtWindowHost::LineHeight(const FontSpec& font) {
-  return fonts_.LineMeasures(font).height * kTwipsPerPixel;
 }
 
 // Windows.
@@ -118,6 +111,7 @@ void QtWindowHost::RunModal(Form& form) {
   loop.exec(QEventLoop::DialogExec);
   modal_loops_.pop_back();
   GiveKeyboardTo(owner);
+  DialogOver();
 }
 
 void QtWindowHost::WindowHidden(const QtFormWindow& window) {
@@ -136,6 +130,37 @@ void QtWindowHost::WindowGone(const QtFormWindow& window) {
         if (windows_.empty()) options_.on_last_window_gone();
       },
       Qt::QueuedConnection);
+}
+
+bool QtWindowHost::AskToClose(IfDialogIsUp dialog) {
+  if (asking_to_close_) return false;  // the question stays
+  std::vector<std::weak_ptr<Object>> open;
+  for (const QtFormWindow* window : windows_) open.push_back(window->TheForm().weak_from_this());
+  const bool dialog_is_up = std::any_of(windows_.begin(), windows_.end(), [&](const QtFormWindow* window) {
+    return !TakesInput(window->TheForm());
+  });
+  if (dialog_is_up) {
+    close_when_dialogs_are_over_ = dialog == IfDialogIsUp::kWait;
+    if (QWidget* front = FrontWindow()) QApplication::alert(front);
+    Beep();
+    return false;
+  }
+  asking_to_close_ = true;
+  for (const std::weak_ptr<Object>& object : open) {
+    const auto form = std::dynamic_pointer_cast<Form>(object.lock());
+    QtFormWindow* window = form == nullptr ? nullptr : WindowOf(*form);
+    if (window == nullptr) continue;
+    window->BringBack();
+    Guard([&] { form->CloseRequest(); });
+  }
+  asking_to_close_ = false;
+  return windows_.empty();
+}
+
+void QtWindowHost::DialogOver() {
+  if (!std::exchange(close_when_dialogs_are_over_, false)) return;
+  QMetaObject::invokeMethod(
+      &timers_, [this] { AskToClose(IfDialogIsUp::kWait); }, Qt::QueuedConnection);
 }
 
 void QtWindowHost::DoEvents() {
@@ -183,6 +208,26 @@ void QtWindowHost::ClipboardText(const std::string& text) {
   QGuiApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
+std::string QtWindowHost::SelectedText() {
+  const QClipboard* clipboard = QGuiApplication::clipboard();
+  return clipboard->supportsSelection() ? clipboard->text(QClipboard::Selection).toStdString()
+                                        : std::string();
+}
+
+void QtWindowHost::SelectedText(const std::string& text) {
+  QClipboard* clipboard = QGuiApplication::clipboard();
+  if (clipboard->supportsSelection()) clipboard->setText(QString::fromStdString(text), QClipboard::Selection);
+}
+
+std::optional<EditCommand> QtWindowHost::RunEditMenu(Form& form, Point place, const EditMenu& menu) {
+  const QtFormWindow* window = WindowOf(form);
+  if (window == nullptr) return std::nullopt;
+  const auto chosen =
+      orvendal::RunEditMenu(&window->Widget(), window->PlaceOnScreen(place), menu, options_.edit_captions);
+  DialogOver();
+  return chosen;
+}
+
 // Messages and errors.
 
 int QtWindowHost::RunBox(const QString& text, int style, const QString& title) {
@@ -191,6 +236,7 @@ int QtWindowHost::RunBox(const QString& text, int style, const QString& title) {
   const int answer = RunMessageBox(owner, text, style, title.isEmpty() ? options_.application_title : title,
                                    options_.captions, Keys(), [this] { Beep(); });
   GiveKeyboardTo(owner);
+  DialogOver();
   return answer;
 }
 

@@ -12,8 +12,10 @@
 #include <string_view>
 #include <vector>
 
+#include "adapters/qt/qt_edit_menu.h"
 #include "adapters/qt/qt_fonts.h"
 #include "adapters/qt/qt_message_box.h"
+#include "adapters/qt/qt_text_measures.h"
 #include "platform/forms/window_host.h"
 
 class QEventLoop;
@@ -28,6 +30,7 @@ struct QtHostOptions {
   /// Title of windows and message boxes that have none.
   QString application_title;
   QtCaptions captions;
+  QtEditCaptions edit_captions;
   /// The description of an error as the message box is to tell it; the error's own without it.
   std::function<std::string(const RuntimeError&)> describe_error;
   /// Told of errors in place of the message box.
@@ -51,8 +54,11 @@ class QtWindowHost : public WindowHost {
   double ScreenWidth() override;
   double ScreenHeight() override;
   Rect RoomInFrame() override;
-  double TextWidth(const FontSpec& font, std::string_view text) override;
-  double LineHeight(const FontSpec& font) override;
+  double TextWidth(const FontSpec& font, std::string_view text) override {
+    return measures_.TextWidth(font, text);
+  }
+  double LineHeight(const FontSpec& font) override { return measures_.LineHeight(font); }
+  Rect TextInk(const FontSpec& font, std::string_view text) override { return measures_.TextInk(font, text); }
   std::unique_ptr<FormWindow> CreateFormWindow(Form& form) override;
   void RunModal(Form& form) override;
   void DoEvents() override;
@@ -60,6 +66,9 @@ class QtWindowHost : public WindowHost {
   void Beep() override;
   std::string ClipboardText() override;
   void ClipboardText(const std::string& text) override;
+  std::string SelectedText() override;
+  void SelectedText(const std::string& text) override;
+  std::optional<EditCommand> RunEditMenu(Form& form, Point place, const EditMenu& menu) override;
   /// A message box with number and description. An error that comes while it is up waits for its turn.
   void ReportError(const RuntimeError& error) override;
 
@@ -72,6 +81,12 @@ class QtWindowHost : public WindowHost {
   /// What a frame of the system's takes around a window, in logical pixels: as it was seen around one, or
   /// what most window managers take at most.
   QMargins FrameMargins() const;
+  bool HasWindows() const { return !windows_.empty(); }
+  enum class IfDialogIsUp { kWait, kRefuse };
+  /// Asks each window that is no dialog to close, as its close button does; a minimised one comes back first,
+  /// so that its question is seen. True if none is left open. A dialog that is up stays: then nothing is
+  /// asked until it is over (kWait) or at all (kRefuse). While a question of an earlier call is up, it stays.
+  bool AskToClose(IfDialogIsUp dialog);
   /// The widget of a loaded form; nullptr without one.
   QWidget* WidgetOf(const Form& form) const;
 
@@ -110,16 +125,20 @@ class QtWindowHost : public WindowHost {
   void WindowHidden(const QtFormWindow& window);
   void WindowGone(const QtFormWindow& window);
   int RunBox(const QString& text, int style, const QString& title);
+  void DialogOver();
 
   const Region& region_;
   Clock& clock_;
   QtHostOptions options_;
   QtFonts fonts_;
+  QtTextMeasures measures_;
   Timers timers_;
   std::vector<QtFormWindow*> windows_;
   std::vector<ModalLoop> modal_loops_;
   std::deque<RuntimeError> errors_to_report_;
   bool reporting_ = false;
+  bool asking_to_close_ = false;
+  bool close_when_dialogs_are_over_ = false;
 };
 
 }  // namespace orvendal

@@ -136,4 +136,36 @@ int Win32Fonts::TextWidth(const FontSpec& spec, int dpi, std::wstring_view text)
   return size.cx;
 }
 
+// Smoothing may touch one pixel more than the outline that is asked for here.
+RECT Win32Fonts::TextInk(const FontSpec& spec, int dpi, std::wstring_view text) {
+  constexpr int kSmoothing = 1;
+  constexpr MAT2 kUpright = {{0, 1}, {0, 0}, {0, 0}, {0, 1}};
+  const int base = LineMeasures(spec, dpi).ascent;
+  const HGDIOBJ before = SelectObject(dc_, Font(spec, dpi));
+  RECT ink{0, base, 0, base};
+  bool any = false;
+  int x = 0;
+  for (const wchar_t letter : text) {
+    GLYPHMETRICS glyph{};
+    if (GetGlyphOutlineW(dc_, letter, GGO_METRICS, &glyph, 0, nullptr, &kUpright) == GDI_ERROR) {
+      const int width = TextWidth(spec, dpi, {&letter, 1});
+      x += width;
+      continue;
+    }
+    if (letter != L' ') {
+      const RECT touched{x + glyph.gmptGlyphOrigin.x, base - glyph.gmptGlyphOrigin.y,
+                         x + glyph.gmptGlyphOrigin.x + static_cast<LONG>(glyph.gmBlackBoxX),
+                         base - glyph.gmptGlyphOrigin.y + static_cast<LONG>(glyph.gmBlackBoxY)};
+      ink = any ? RECT{std::min(ink.left, touched.left), std::min(ink.top, touched.top),
+                       std::max(ink.right, touched.right), std::max(ink.bottom, touched.bottom)}
+                : touched;
+      any = true;
+    }
+    x += glyph.gmCellIncX;
+  }
+  SelectObject(dc_, before);
+  if (any) ink.right += kSmoothing;
+  return ink;
+}
+
 }  // namespace orvendal

@@ -31,6 +31,8 @@ class Win32Fonts {
   HFONT Font(const FontSpec& spec, int dpi) { return Entry(spec, dpi).font; }
   Measures LineMeasures(const FontSpec& spec, int dpi) { return Entry(spec, dpi).measures; }
   int TextWidth(const FontSpec& spec, int dpi, std::wstring_view text);
+  /// The pixels that the letters touch, from the upper left corner of the line.
+  RECT TextInk(const FontSpec& spec, int dpi, std::wstring_view text);
 
  private:
   using Key = std::tuple<std::string, int, int, bool>;  // name, height in pixels, weight, italic

@@ -110,6 +110,12 @@ double Win32WindowHost::LineHeight(const FontSpec& font) {
   return fonts_.LineMeasures(font, dpi_).height * kTwipsPerInch / dpi_;
 }
 
+Rect Win32WindowHost::TextInk(const FontSpec& font, std::string_view text) {
+  const RECT ink = fonts_.TextInk(font, dpi_, SingleLine(text));
+  const double twips = kTwipsPerInch / dpi_;
+  return {ink.left * twips, ink.top * twips, (ink.right - ink.left) * twips, (ink.bottom - ink.top) * twips};
+}
+
 DibSurface& Win32WindowHost::Surface(int width, int height) {
   if (!surface_ || surface_->Width() < width || surface_->Height() < height) {
     const int wider = surface_ ? std::max(width, surface_->Width()) : width;

@@ -53,6 +53,7 @@ class Win32WindowHost : public WindowHost {
   ColorWord SystemColor(std::uint32_t index) override;
   double TextWidth(const FontSpec& font, std::string_view text) override;
   double LineHeight(const FontSpec& font) override;
+  Rect TextInk(const FontSpec& font, std::string_view text) override;
   std::unique_ptr<FormWindow> CreateFormWindow(Form& form) override;
   /// A program that quits meanwhile hides the form, and the program's own loop learns of it too.
   void RunModal(Form& form) override;

@@ -166,6 +166,8 @@ class Control {
   virtual void MouseMoved(int /*buttons*/, int /*shift*/, Point /*local*/) {}
   /// Before MouseUp and Click are raised.
   virtual void MouseReleased(int /*button*/, int /*shift*/, Point /*local*/) {}
+  /// After MouseUp and Click of a press that no dialog took.
+  virtual void PressEnded(int /*button*/, Point /*local*/) {}
   /// The press that is under way ends without a release: a dialog or an error came between.
   virtual void GestureCancelled() {}
   virtual void MouseDoubleClicked(int /*button*/, int /*shift*/, Point /*local*/) {}

@@ -96,29 +96,59 @@ CaptionText ReadCaption(std::string_view caption) {
   return read;
 }
 
-void PaintCaption(Canvas& canvas, WindowHost& host, const Rect& box, std::string_view caption,
-                  const FontSpec& font, Rgb color, HorizontalAlign horizontal, VerticalAlign vertical) {
+Point RoomOf(TextMeasures& measures, const FontSpec& font, std::string_view text) {
+  const Rect ink = measures.TextInk(font, text);
+  const double left = std::min(0.0, ink.left);
+  // On a finer display letters are drawn anew, a little higher or lower than in the pixels measured here.
+  return {std::max(measures.TextWidth(font, text), ink.Right()) - left, ink.height + 2 * kTwipsPerPixel};
+}
+
+// A design was measured with the fonts of its own desktop, and its sizes stay. What counts is the font that
+// this desktop really gives for a size, so each size is measured; the steps are finer than any desktop's.
+FontSpec FittingFont(TextMeasures& measures, const FontSpec& font, std::string_view text, const Rect& box) {
+  constexpr double kStep = 0.25;  // points
+  constexpr double kSmallestShare = 0.6;
+  FontSpec fitting = font;
+  for (; fitting.size >= font.size * kSmallestShare; fitting.size -= kStep) {
+    const Point room = RoomOf(measures, fitting, text);
+    if (room.x <= box.width && room.y <= box.height) return fitting;
+  }
+  return font;
+}
+
+void PaintCaption(Canvas& canvas, TextMeasures& measures, const Rect& box, std::string_view caption,
+                  const FontSpec& wanted, Rgb color, HorizontalAlign horizontal, VerticalAlign vertical) {
   const CaptionText read = ReadCaption(caption);
   if (read.text.empty()) return;
-  canvas.DrawText(box, read.text, font, color, horizontal, vertical);
-  if (!read.underlined) return;
+  const std::string_view text = read.text;
+  const FontSpec font = FittingFont(measures, wanted, text, box);
+  const Rect ink = measures.TextInk(font, text);
+  const double width = measures.TextWidth(font, text);
 
-  const double width = host.TextWidth(font, read.text);
-  const double height = host.LineHeight(font);
+  Rect line{box.left, box.top, box.width, measures.LineHeight(font)};
+  if (vertical == VerticalAlign::kCenter) line.top += (box.height - line.height) / 2;
+  if (vertical == VerticalAlign::kBottom) line.top += box.height - line.height;
+  // A line that is taller than its box stands so that the box shows all of its letters.
+  if (line.height > box.height) line.top = box.top + (box.height - ink.height) / 2 - ink.top;
   double left = box.left;
   if (horizontal == HorizontalAlign::kCenter) left += (box.width - width) / 2;
   if (horizontal == HorizontalAlign::kRight) left += box.width - width;
-  double bottom = box.top + height;
-  if (vertical == VerticalAlign::kCenter) bottom = box.top + (box.height + height) / 2;
-  if (vertical == VerticalAlign::kBottom) bottom = box.Bottom();
+  if (horizontal == HorizontalAlign::kLeft && ink.left < 0) {
+    line.left -= ink.left;
+    line.width += ink.left;
+    left -= ink.left;
+  }
+  canvas.Push({0, 0}, box);
+  canvas.DrawText(line, text, font, color, horizontal, VerticalAlign::kTop);
+  canvas.Pop();
+  if (!read.underlined) return;
 
   std::size_t end = *read.underlined;
   NextCharacter(read.text, end);
-  const std::string_view text = read.text;
-  const double from = left + host.TextWidth(font, text.substr(0, *read.underlined));
-  const double to = left + host.TextWidth(font, text.substr(0, end));
-  canvas.DrawLine({from, bottom - 2 * kTwipsPerPixel}, {to, bottom - 2 * kTwipsPerPixel}, color,
-                  kTwipsPerPixel);
+  const double from = left + measures.TextWidth(font, text.substr(0, *read.underlined));
+  const double to = left + measures.TextWidth(font, text.substr(0, end));
+  const double bottom = line.Bottom() - 2 * kTwipsPerPixel;
+  canvas.DrawLine({from, bottom}, {to, bottom}, color, kTwipsPerPixel);
 }
 
 }  // namespace orvendal

@@ -33,8 +33,14 @@ struct CaptionText {
   std::optional<std::size_t> underlined;  // byte offset in `text`
 };
 CaptionText ReadCaption(std::string_view caption);
-/// One line of a caption in `box`, its marked letter underlined.
-void PaintCaption(Canvas& canvas, WindowHost& host, const Rect& box, std::string_view caption,
+/// Width and height of a box that shows the whole of one line of `text`, its leaning letters included.
+Point RoomOf(TextMeasures& measures, const FontSpec& font, std::string_view text);
+/// `font`, or the nearest smaller one in which the whole of `text` shows in a box of that size. A text that
+/// would become too small to read keeps its font, and is cut.
+FontSpec FittingFont(TextMeasures& measures, const FontSpec& font, std::string_view text, const Rect& box);
+/// One line of a caption in `box`, its marked letter underlined: written smaller rather than cut, and as high
+/// in the box as its letters need, where the line itself is taller.
+void PaintCaption(Canvas& canvas, TextMeasures& measures, const Rect& box, std::string_view caption,
                   const FontSpec& font, Rgb color, HorizontalAlign horizontal, VerticalAlign vertical);
 
 }  // namespace orvendal

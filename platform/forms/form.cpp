@@ -12,6 +12,7 @@ Form::Form(WindowHost& host, std::string name) : host_(host), name_(std::move(na
 
 Form::~Form() {
   if (host_.active_form_ == this) host_.active_form_ = nullptr;
+  if (host_.input_form_ == this) host_.input_form_ = nullptr;
 }
 
 Control* Form::FindControl(std::string_view full_name) const {
@@ -159,6 +160,7 @@ void Form::Unload() {
   dirty_.clear();
   ++focus_serial_;
   if (host_.active_form_ == this) host_.active_form_ = nullptr;
+  if (host_.input_form_ == this) host_.input_form_ = nullptr;
   for (Control* control : controls_) {
     if (control->Kind() == ControlKind::kTimer) static_cast<Timer*>(control)->Enabled(false);
   }

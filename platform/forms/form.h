@@ -100,6 +100,8 @@ class Form : public Object {
   void Character(char32_t character);
   void KeyRelease(int key_code, int shift);
   void CloseRequest();
+  /// A character for `target` that no key stands behind: what is chosen from a menu passes its filters too.
+  void SendCharacter(Control& target, int character);
   void TimerElapsed(Timer& timer);
 
   /// Paints what lies in `area`, everything included.
@@ -118,16 +120,19 @@ class Form : public Object {
 
  private:
   friend class Control;
+  friend class ModalScope;
+  enum class Source { kGesture, kOther };
   struct Gesture {
     Control* target = nullptr;
     int button = 0;
+    Point position;  // of the pointer, seen last
     bool pressed = false;
     bool swallowed = false;
     bool click_wanted = false;
   };
 
   void Register(Control* control) { controls_.push_back(control); }
-  void Dispatch(const std::function<void()>& event);
+  void Dispatch(const std::function<void()>& event, Source source = Source::kOther);
   bool StillLoaded(std::uint64_t life) const { return loaded_ && life == life_; }
   void SizeWasChanged();
   void LayOutAligned();
@@ -144,6 +149,8 @@ class Form : public Object {
   void PressSecondOfDouble(Control* target, Point position, int button, int shift);
   void Release(Control* target, Point position, int button, int shift);
   bool GestureOver(std::uint64_t life, std::uint64_t modal_serial);
+  /// The press ends without a click; its handlers are told of the release that will not come.
+  void EndGesture();
 
   // Painting (form_paint.cpp).
   void InvalidateArea(const Rect& area);
@@ -174,6 +181,7 @@ class Form : public Object {
   Control* key_target_ = nullptr;
   bool character_swallowed_ = false;
   Gesture gesture_;
+  int gesture_events_ = 0;  // events of the gesture that are under way, one inside the other
   std::vector<Rect> dirty_;
 };
 

@@ -11,18 +11,27 @@ Point LocalTo(const Control& control, Point position) {
 
 }  // namespace
 
-void Form::Dispatch(const std::function<void()>& event) {
+void Form::Dispatch(const std::function<void()>& event, Source source) {
   if (!loaded_) return;
   const ObjectRef self = shared_from_this();
   const std::uint64_t life = life_;
+  const int outer_gesture_events = gesture_events_;
+  if (source == Source::kGesture) ++gesture_events_;
   try {
     event();
+    gesture_events_ = outer_gesture_events;
   } catch (const RuntimeError& error) {
+    if (source == Source::kGesture) {
+      gesture_.pressed = false;
+      gesture_.swallowed = true;
+      if (gesture_.target != nullptr) gesture_.target->GestureCancelled();
+    }
+    gesture_events_ = outer_gesture_events;
     const ModalScope report(host_);
     host_.ReportError(error);
-    gesture_.pressed = false;
-    gesture_.swallowed = true;
-    if (gesture_.target != nullptr) gesture_.target->GestureCancelled();
+  } catch (...) {
+    gesture_events_ = outer_gesture_events;
+    throw;
   }
   if (StillLoaded(life)) UpdateCaret();
 }
@@ -36,9 +45,25 @@ bool Form::GestureOver(std::uint64_t life, std::uint64_t modal_serial) {
   return true;
 }
 
+void Form::EndGesture() {
+  if (gesture_events_ > 0) return;  // these look after it themselves, as each of them ends
+  if (active_control_ != nullptr) active_control_->GestureCancelled();
+  if (!gesture_.pressed) return;
+  gesture_.pressed = false;
+  gesture_.swallowed = true;
+  Control* target = gesture_.target;
+  target->GestureCancelled();
+  if (!target->OnMouseUp || !target->IsOperable()) return;
+  const Point local = LocalTo(*target, gesture_.position);
+  Dispatch([&] { target->OnMouseUp(gesture_.button, 0, local.x, local.y); });
+}
+
 void Form::MousePress(Point position, int button, int shift, bool second_of_double) {
   if (!host_.TakesInput(*this)) return;
-  Dispatch([&] {
+  host_.input_form_ = this;
+  // The button that counts as held goes down: its release went elsewhere.
+  if (gesture_.pressed && button == gesture_.button) EndGesture();
+  const auto press = [&] {
     if (second_of_double && gesture_.swallowed) return;
     if (gesture_.pressed) return;  // another button while one is held
     Control* target = ControlAt(position);
@@ -50,13 +75,15 @@ void Form::MousePress(Point position, int button, int shift, bool second_of_doub
     } else {
       PressFirst(target, position, button, shift);
     }
-  });
+  };
+  Dispatch(press, Source::kGesture);
 }
 
 void Form::PressFirst(Control* target, Point position, int button, int shift) {
   gesture_ = {};
   gesture_.target = target;
   gesture_.button = button;
+  gesture_.position = position;
   if (target == nullptr) {
     if (OnMouseDown) OnMouseDown();
     return;
@@ -95,6 +122,7 @@ void Form::MouseMove(Point position, int buttons, int shift) {
     if (window_) {
       window_->Cursor(target != nullptr ? target->Cursor(LocalTo(*target, position)) : CursorShape::kArrow);
     }
+    gesture_.position = position;
     if (target == nullptr || !target->IsOperable()) return;
     const std::uint64_t life = life_;
     const Point local = LocalTo(*target, position);
@@ -105,11 +133,12 @@ void Form::MouseMove(Point position, int buttons, int shift) {
 
 void Form::MouseRelease(Point position, int button, int shift) {
   if (!host_.TakesInput(*this)) return;
-  Dispatch([&] {
+  const auto release = [&] {
     if (!gesture_.pressed || button != gesture_.button) return;
     gesture_.pressed = false;
     if (gesture_.target != nullptr) Release(gesture_.target, position, button, shift);
-  });
+  };
+  Dispatch(release, Source::kGesture);
 }
 
 void Form::Release(Control* target, Point position, int button, int shift) {
@@ -128,6 +157,8 @@ void Form::Release(Control* target, Point position, int button, int shift) {
   if (target->OnMouseUp && target->IsOperable()) target->OnMouseUp(button, shift, local.x, local.y);
   if (GestureOver(life, serial)) return;
   if (!click_first) raise_click();
+  if (GestureOver(life, serial)) return;
+  if (target->IsOperable()) target->PressEnded(button, LocalTo(*target, position));
   GestureOver(life, serial);
 }
 
@@ -144,6 +175,7 @@ void Form::MouseWheel(Point position, double lines) {
 
 void Form::KeyPress(int key_code, int shift) {
   if (!host_.TakesInput(*this)) return;
+  host_.input_form_ = this;
   if (key_code == key::kF4 && (shift & shift_mask::kAlt) != 0) {
     character_swallowed_ = true;
     CloseRequest();
@@ -187,6 +219,13 @@ void Form::Character(char32_t character) {
     // A handler that hid its control without taking the character lets it in all the same.
     if (StillLoaded(life) && ascii != 0) target->CharacterDefault(ascii);
   });
+}
+
+void Form::SendCharacter(Control& target, int character) {
+  key_target_ = &target;
+  character_swallowed_ = false;
+  Character(static_cast<char32_t>(character));
+  key_target_ = nullptr;
 }
 
 void Form::KeyRelease(int key_code, int shift) {

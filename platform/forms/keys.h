@@ -22,9 +22,11 @@ inline constexpr int kRight = 39;
 inline constexpr int kDown = 40;
 inline constexpr int kInsert = 45;
 inline constexpr int kDelete = 46;
+inline constexpr int kMenu = 93;
 inline constexpr int kF1 = 112;
 inline constexpr int kF2 = 113;
 inline constexpr int kF4 = 115;
+inline constexpr int kF10 = 121;
 inline constexpr int kF12 = 123;
 }  // namespace key
 

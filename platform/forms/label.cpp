@@ -1,6 +1,9 @@
 #include "platform/forms/label.h"
 
+#include <algorithm>
+
 #include "platform/forms/control_looks.h"
+#include "platform/forms/form.h"
 
 namespace orvendal {
 
@@ -64,19 +67,37 @@ void Label::FontChanged() {
 void Label::Fit() {
   const double borders = BorderStyle() == 0 ? 0 : 2 * kTwipsPerPixel;
   const FontSpec& font = Font().Spec();
-  Move(Left(), Top(), Host().TextWidth(font, ReadCaption(caption_).text) + borders,
+  Move(Left(), Top(), RoomOf(Host(), font, ReadCaption(caption_).text).x + borders,
        Host().LineHeight(font) + borders);
 }
 
-// A design was measured with the fonts of its own desktop, and its sizes stay. Where this desktop's letters
-// are a little wider, an AutoSize label is written a little smaller rather than cut.
-FontSpec Label::FittingFont(double width) const {
-  constexpr double kMostShrinking = 0.85;
-  FontSpec font = Font().Spec();
-  if (!auto_size_) return font;
-  const double needed = Host().TextWidth(font, ReadCaption(caption_).text);
-  if (needed > width && needed * kMostShrinking <= width) font.size *= width / needed;
-  return font;
+// The largest part that neither the container's edges nor the windows in front of all labels cover.
+Rect Label::ShownPart() const {
+  const auto largest = [](std::initializer_list<Rect> parts) {
+    return *std::max_element(parts.begin(), parts.end(), [](const Rect& left, const Rect& right) {
+      return left.width * left.height < right.width * right.height;
+    });
+  };
+  Rect shown{Left(), Top(), Width(), Height()};
+  if (Container() == nullptr) {
+    shown = shown.Intersection({0, 0, Parent().Width(), Parent().Height()});
+  } else {
+    const Point inside = Container()->ClientOrigin();
+    shown =
+        shown.Intersection({0, 0, Container()->Width() - 2 * inside.x, Container()->Height() - 2 * inside.y});
+  }
+  for (const Control* other : Parent().Controls()) {
+    const Rect cover{other->Left(), other->Top(), other->Width(), other->Height()};
+    if (other->Container() != Container() || other->IsLightweight() || !other->Visible() ||
+        !cover.Intersects(shown))
+      continue;
+    shown =
+        largest({{shown.left, shown.top, std::max(0.0, cover.left - shown.left), shown.height},
+                 {shown.left, shown.top, shown.width, std::max(0.0, cover.top - shown.top)},
+                 {cover.Right(), shown.top, std::max(0.0, shown.Right() - cover.Right()), shown.height},
+                 {shown.left, cover.Bottom(), shown.width, std::max(0.0, shown.Bottom() - cover.Bottom())}});
+  }
+  return shown.Moved(-Left(), -Top());
 }
 
 void Label::Paint(Canvas& canvas) {
@@ -89,10 +110,8 @@ void Label::Paint(Canvas& canvas) {
     inside = inside.Deflated(kTwipsPerPixel);
   }
   const Rgb color = Resolve(IsOperable() ? ForeColor() : system_color::kGrayText);
-  const FontSpec font = FittingFont(inside.width);
-  const bool is_tall = Host().LineHeight(font) > inside.height;
-  PaintCaption(canvas, Host(), inside, caption_, font, color, alignment_,
-               is_tall ? VerticalAlign::kCenter : VerticalAlign::kTop);
+  PaintCaption(canvas, Host(), inside.Intersection(ShownPart()), caption_, Font().Spec(), color, alignment_,
+               VerticalAlign::kTop);
 }
 
 }  // namespace orvendal

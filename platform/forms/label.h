@@ -39,7 +39,7 @@ class Label final : public Control {
 
  private:
   void Fit();
-  FontSpec FittingFont(double width) const;
+  Rect ShownPart() const;
 
   std::string caption_;
   bool auto_size_ = false;

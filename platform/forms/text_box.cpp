@@ -206,10 +206,17 @@ void TextBox::Paint(Canvas& canvas) {
   const FontSpec& font = Font().Spec();
   const Rect area = TextArea();
   const double origin = TextOrigin();
-  const Rect whole{origin, area.top, OffsetOf(length_) + kTwipsPerPixel, area.height};
+  Rect whole{origin, area.top, OffsetOf(length_) + kTwipsPerPixel, Host().LineHeight(font)};
+  if (whole.height <= area.height) {
+    whole.top += (area.height - whole.height) / 2;
+  } else {
+    // A line that is taller than its box stands so that the box shows its digits and capitals.
+    const Rect ink = Host().TextInk(font, "0");
+    whole.top += (area.height - ink.height) / 2 - ink.top;
+  }
   const Rgb color = Resolve(IsOperable() ? ForeColor() : system_color::kGrayText);
   canvas.Push({0, 0}, area);
-  canvas.DrawText(whole, text_, font, color, HorizontalAlign::kLeft, VerticalAlign::kCenter);
+  canvas.DrawText(whole, text_, font, color, HorizontalAlign::kLeft, VerticalAlign::kTop);
   if (selection_length_ > 0 && HasFocus()) {
     const double from = OffsetOf(selection_start_);
     const double to = OffsetOf(selection_start_ + selection_length_);
@@ -219,7 +226,7 @@ void TextBox::Paint(Canvas& canvas) {
     canvas.FillRectangle(selected, Resolve(system_color::kHighlight));
     // The whole text again, so that the letters stand where they stood.
     canvas.DrawText(whole, text_, font, Resolve(system_color::kHighlightText), HorizontalAlign::kLeft,
-                    VerticalAlign::kCenter);
+                    VerticalAlign::kTop);
     canvas.Pop();
   }
   canvas.Pop();

@@ -14,6 +14,7 @@ namespace orvendal {
 ///
 /// Positions count characters from 0. Invariant: 0 <= SelStart <= SelStart + SelLength <= length of Text.
 /// Locked: the user cannot change the text, but can select and copy; code can still write it.
+/// A paste, by keys, by the desktop's menu or by its middle button, is the character of Ctrl+V to handlers.
 class TextBox final : public Control {
  public:
   TextBox(Form& form, Control* container, std::string_view name, int index = -1);
@@ -46,6 +47,7 @@ class TextBox final : public Control {
   void MousePressed(int button, int shift, Point local) override;
   void MouseMoved(int buttons, int shift, Point local) override;
   void MouseDoubleClicked(int button, int shift, Point local) override;
+  void PressEnded(int button, Point local) override;
   bool KeyDownDefault(int key_code, int shift) override;
   void CharacterDefault(int key_ascii) override;
   void FocusChanged(bool has_focus) override;
@@ -96,6 +98,10 @@ class TextBox final : public Control {
   void Cut();
   void Paste();
   void Undo();
+  /// The desktop keeps what the user selected, for its middle button.
+  void OfferSelection() const;
+  void PasteSelectionAt(Point local);
+  void OpenMenu(Point local);
 
   std::string text_;
   std::size_t length_ = 0;  // characters of text_

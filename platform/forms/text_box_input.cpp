@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "platform/base/text.h"
+#include "platform/forms/form.h"
 #include "platform/forms/text_box.h"
 #include "platform/forms/window_host.h"
 
@@ -60,6 +61,13 @@ void TextBox::MouseDoubleClicked(int button, int, Point local) {
   drag_ = {start, PositionAt(local.x, origin), origin, false};
 }
 
+void TextBox::PressEnded(int button, Point local) {
+  if (button == mouse_button::kLeft) OfferSelection();
+  if (!HasFocus() || !LocalBounds().Contains(local)) return;
+  if (button == mouse_button::kRight) OpenMenu(local);
+  if (button == mouse_button::kMiddle) PasteSelectionAt(local);
+}
+
 bool TextBox::MoveByKey(int key_code, int shift) {
   const bool extend = (shift & shift_mask::kShift) != 0;
   const bool by_word = (shift & shift_mask::kControl) != 0;
@@ -93,7 +101,16 @@ bool TextBox::MoveByKey(int key_code, int shift) {
 }
 
 bool TextBox::KeyDownDefault(int key_code, int shift) {
-  if ((shift & shift_mask::kAlt) != 0 || MoveByKey(key_code, shift)) return false;
+  if (key_code == key::kMenu || (key_code == key::kF10 && shift == shift_mask::kShift)) {
+    const std::optional<Rect> caret = CaretRectangle();
+    if (caret) OpenMenu({caret->left, caret->Bottom()});
+    return true;
+  }
+  if ((shift & shift_mask::kAlt) != 0) return false;
+  if (MoveByKey(key_code, shift)) {
+    OfferSelection();
+    return false;
+  }
   // With Shift the key is the clipboard's, and comes as the character of Cut.
   if (key_code != key::kDelete || (shift & shift_mask::kShift) != 0) return false;
   if (selection_length_ > 0) {
@@ -109,6 +126,7 @@ void TextBox::CharacterDefault(int key_ascii) {
   switch (key_ascii) {
     case character::kSelectAll:
       Select(0, length_);
+      OfferSelection();
       return;
     case character::kCopy:
       Copy();
@@ -183,7 +201,7 @@ void TextBox::Cut() {
 
 void TextBox::Paste() {
   if (locked_) return;
-  const std::string clipboard = Host().ClipboardText();
+  const std::string clipboard = Host().PastedText();
   const std::string_view pasted = FirstLine(clipboard);
   if (pasted.empty()) return;
   Remember(false);
@@ -201,6 +219,48 @@ void TextBox::Undo() {
   if (!changes) return;
   Invalidate();
   if (OnChange) OnChange();
+}
+
+void TextBox::OfferSelection() const {
+  if (selection_length_ > 0) Host().SelectedText(SelText());
+}
+
+void TextBox::PasteSelectionAt(Point local) {
+  if (locked_) return;
+  MoveCaret(PositionAt(local.x, TextOrigin()), false);
+  const SelectionPaste paste(Host());
+  Parent().SendCharacter(*this, character::kPaste);
+}
+
+// What changes the text passes the handlers of KeyPress, as the keys for it do; the rest does not, as in the
+// platform's own boxes.
+void TextBox::OpenMenu(Point local) {
+  const bool can_change = !locked_;
+  const EditMenu menu{can_change && selection_length_ > 0, selection_length_ > 0,
+                      can_change && !Host().ClipboardText().empty(), selection_length_ < length_};
+  const Rect bounds = Bounds();
+  const ObjectRef alive = Parent().shared_from_this();
+  std::optional<EditCommand> chosen;
+  {
+    const ModalScope menu_is_up(Host());
+    chosen = Host().RunEditMenu(Parent(), {bounds.left + local.x, bounds.top + local.y}, menu);
+  }
+  if (!chosen || !Parent().IsLoaded() || !HasFocus()) return;
+  switch (*chosen) {
+    case EditCommand::kCut:
+      Parent().SendCharacter(*this, character::kCut);
+      return;
+    case EditCommand::kCopy:
+      Copy();
+      return;
+    case EditCommand::kPaste:
+      Parent().SendCharacter(*this, character::kPaste);
+      return;
+    case EditCommand::kSelectAll:
+      Select(0, length_);
+      OfferSelection();
+      return;
+  }
 }
 
 }  // namespace orvendal

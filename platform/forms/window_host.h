@@ -11,9 +11,11 @@
 #include "platform/base/runtime_error.h"
 #include "platform/forms/color.h"
 #include "platform/forms/cursor_shape.h"
+#include "platform/forms/edit_menu.h"
 #include "platform/forms/font.h"
 #include "platform/forms/geometry.h"
 #include "platform/forms/key_run.h"
+#include "platform/forms/text_measures.h"
 
 namespace orvendal {
 
@@ -45,14 +47,15 @@ class FormWindow {
   virtual void Caret(const std::optional<Rect>& caret) = 0;
 };
 
-/// The system as the form engine sees it: screen, clock, fonts, clipboard, native windows. Outlives all
-/// forms. How to implement one: see adapters/headless for the smallest, adapters/qt for a desktop.
-class WindowHost {
+/// The system as the form engine sees it: screen, clock, fonts (TextMeasures), clipboard, native windows.
+/// Outlives all forms. How to implement one: see adapters/headless for the smallest, adapters/qt for a
+/// desktop.
+class WindowHost : public TextMeasures {
  public:
   WindowHost() = default;
   WindowHost(const WindowHost&) = delete;
   WindowHost& operator=(const WindowHost&) = delete;
-  virtual ~WindowHost() = default;
+  ~WindowHost() override = default;
 
   virtual const Region& UserRegion() = 0;
   virtual Clock& SystemClock() = 0;
@@ -65,10 +68,6 @@ class WindowHost {
   /// A plain colour word for a system colour index.
   virtual ColorWord SystemColor(std::uint32_t index) { return ClassicSystemColor(index); }
 
-  /// Width of one line of text, and height of any line, in twips.
-  virtual double TextWidth(const FontSpec& font, std::string_view text) = 0;
-  virtual double LineHeight(const FontSpec& font) = 0;
-
   virtual std::unique_ptr<FormWindow> CreateFormWindow(Form& form) = 0;
   /// Runs until `form` is hidden or unloaded; other forms take no input meanwhile.
   virtual void RunModal(Form& form) = 0;
@@ -80,6 +79,14 @@ class WindowHost {
   virtual void Beep() = 0;
   virtual std::string ClipboardText() = 0;
   virtual void ClipboardText(const std::string& text) = 0;
+  /// The text that was selected last on a desktop where the middle button pastes it; others keep none.
+  virtual std::string SelectedText() { return {}; }
+  virtual void SelectedText(const std::string& /*text*/) {}
+  /// The desktop's menu of a text box with its corner at `place` of the form, up until one is chosen or it is
+  /// closed. A host without such a menu chooses nothing. The engine holds a ModalScope around it.
+  virtual std::optional<EditCommand> RunEditMenu(Form& /*form*/, Point /*place*/, const EditMenu& /*menu*/) {
+    return std::nullopt;
+  }
 
   /// An error that no handler trapped during an event: the user is told its number and description.
   virtual void ReportError(const RuntimeError& error) = 0;
@@ -101,6 +108,8 @@ class WindowHost {
   /// The characters that came last, whichever form or message box they went to. A form adds its own before
   /// any handler hears of them.
   KeyRun& Keys() { return keys_; }
+  /// What a paste brings: the clipboard's text, or the selected one while the middle button pastes.
+  std::string PastedText() { return pastes_selection_ ? SelectedText() : ClipboardText(); }
   Rgb Resolve(ColorWord color) {
     return RgbOf(IsSystemColor(color) ? SystemColor(SystemColorIndex(color)) : color);
   }
@@ -108,15 +117,20 @@ class WindowHost {
  private:
   friend class Form;
   friend class ModalScope;
+  friend class SelectionPaste;
   Form* active_form_ = nullptr;
+  Form* input_form_ = nullptr;  // that a key or a press came to last
+  bool pastes_selection_ = false;
   class ModalScope* innermost_ = nullptr;
   std::uint64_t modal_serial_ = 0;
   std::uint64_t input_time_ = 0;
   KeyRun keys_;
 };
 
-/// A modal dialog is up from construction to destruction. Whoever opens a dialog that is no engine form (a
-/// message box, a dialog of an outside library) holds one around it; Form::Show does it for its own.
+/// A modal dialog is up from construction to destruction. It ends the gesture in hand, whoever opened it: the
+/// release goes to the dialog, so that what is pressed is let go without a click. Whoever opens a dialog that
+/// is no engine form (a message box, a dialog of an outside library) holds one around it; Form::Show does it
+/// for its own.
 class ModalScope {
  public:
   explicit ModalScope(WindowHost& host, const Form* form = nullptr);
@@ -129,6 +143,18 @@ class ModalScope {
   WindowHost& host_;
   const Form* form_;
   ModalScope* outer_;
+};
+
+/// While it lives, a paste brings what is selected on the desktop.
+class SelectionPaste {
+ public:
+  explicit SelectionPaste(WindowHost& host) : host_(host) { host_.pastes_selection_ = true; }
+  ~SelectionPaste() { host_.pastes_selection_ = false; }
+  SelectionPaste(const SelectionPaste&) = delete;
+  SelectionPaste& operator=(const SelectionPaste&) = delete;
+
+ private:
+  WindowHost& host_;
 };
 
 }  // namespace orvendal

@@ -129,6 +129,16 @@ TEST_P(ActionBarPressTest, ASecondPressOfADoubleClickIsNoSecondClick) {
   EXPECT_EQ(caption().ForeColor(), kBlack);
 }
 
+TEST_P(ActionBarPressTest, ADialogThatAKeyOpensMeanwhileLeavesNoWhiteCaptionAndTheNextClickCounts) {
+  screen.robot().Press(Middle());
+  ASSERT_EQ(caption().ForeColor(), kWhite);
+  screen.Key(key::kF1);  // the release goes to the panel
+  EXPECT_EQ(caption().ForeColor(), kBlack);
+  EXPECT_EQ(clicks, 0);
+  screen.robot().ClickAt(Middle());
+  EXPECT_EQ(clicks, 1);
+}
+
 INSTANTIATE_TEST_SUITE_P(EachButton, ActionBarPressTest,
                          testing::Values("Nuevo", "Buscar", "Borrar", "Guardar", "Cancelar"));
 

@@ -147,6 +147,23 @@ TEST_F(FormInputTest, AnotherButtonWhileOneIsHeldIsIgnored) {
   EXPECT_EQ(TakeLog(), (Log{"Front up", "Front click"}));
 }
 
+TEST_F(FormInputTest, OnlyTheLeftButtonDoubleClicks) {
+  for (const int other_button : {mouse_button::kRight, mouse_button::kMiddle}) {
+    Press(On(front), other_button);
+    Release(On(front), other_button);
+    Press(On(front), other_button, true);
+    Release(On(front), other_button);
+    EXPECT_EQ(TakeLog(), (Log{"Front down", "Front up", "Front up"})) << other_button;
+  }
+}
+
+TEST_F(FormInputTest, APressWhoseReleaseWentElsewhereDoesNotSwallowTheNextClick) {
+  Press(On(front));
+  TakeLog();
+  stage.Click(front);
+  EXPECT_EQ(TakeLog(), (Log{"Front up", "Front down", "Front up", "Front click"}));
+}
+
 TEST_F(FormInputTest, AReleaseWithoutAPressIsNothing) {
   Release(On(front));
   EXPECT_EQ(TakeLog(), Log{});
@@ -228,6 +245,61 @@ TEST_F(FormInputTest, TheGestureAfterADialogIsAWholeOneAgain) {
   TakeLog();
   stage.Click(front);
   EXPECT_EQ(TakeLog(), (Log{"Front down", "Front up", "Front click"}));
+}
+
+TEST_F(FormInputTest, ADialogThatAKeyOpensLetsGoOfWhatTheMouseHolds) {
+  Log during;
+  box.OnKeyDown = [&](int&, int) {
+    const ModalScope dialog(stage.host);
+    during = TakeLog();
+    Release(On(front));  // goes to the dialog
+  };
+  Press(On(front));
+  form().MouseMove({500, 1000}, 1, 0);
+  TakeLog();
+  Point released;
+  front.OnMouseUp = [&](int, int, double x, double y) {
+    log.push_back("Front up");
+    released = {x, y};
+  };
+  form().KeyPress(key::kF1, 0);
+  EXPECT_EQ(during, Log{"Front up"});
+  EXPECT_EQ(released, (Point{500, 200}));
+  Release(On(front));
+  EXPECT_EQ(TakeLog(), Log{});
+  stage.Click(other);
+  EXPECT_EQ(TakeLog(), (Log{"Other down", "Box lost", "Other focus", "Other up", "Other click"}));
+}
+
+TEST_F(FormInputTest, AReportOfAnErrorInAKeyLetsGoToo) {
+  box.OnKeyDown = [](int&, int) { throw RuntimeError(5); };
+  Press(On(front));
+  TakeLog();
+  form().KeyPress('A', 0);
+  EXPECT_EQ(TakeLog(), Log{"Front up"});
+  EXPECT_EQ(stage.host.ReportedErrors().size(), 1U);
+}
+
+TEST_F(FormInputTest, ADialogLetsGoOfAButtonThatTheBlankKeyHolds) {
+  button.SetFocus();
+  form().KeyPress(key::kSpace, 0);
+  TakeLog();
+  OpenDialog();
+  form().KeyRelease(key::kSpace, 0);
+  EXPECT_EQ(TakeLog(), Log{"Button key up 32"});
+}
+
+TEST_F(FormInputTest, AnErrorInTheLastMouseUpIsReportedAndTheDialogComes) {
+  front.OnMouseUp = [](int, int, double, double) { throw RuntimeError(13); };
+  Press(On(front));
+  bool came = false;
+  box.OnKeyDown = [&](int&, int) {
+    const ModalScope dialog(stage.host);
+    came = true;
+  };
+  form().KeyPress(key::kF1, 0);
+  EXPECT_TRUE(came);
+  EXPECT_EQ(stage.host.ReportedErrors().size(), 1U);
 }
 
 TEST_F(FormInputTest, NoInputArrivesWhileADialogIsUp) {

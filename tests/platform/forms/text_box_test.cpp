@@ -335,5 +335,162 @@ TEST_F(TextBoxTest, AClickFindsItsPlaceInATextFarLongerThanTheBox) {
   EXPECT_LT(box.SelStart(), 20001);
 }
 
+// The desktop's menu and its middle button.
+
+class TextBoxMenuTest : public TextBoxTest {
+ protected:
+  void SetUp() override {
+    TextBoxTest::SetUp();
+    stage.host.OnEditMenu = [this](const EditMenu& menu) {
+      offered = menu;
+      return choice;
+    };
+    box.OnKeyPress = [this](int& ascii) {
+      keys.push_back(ascii);
+      if (refuse) ascii = 0;
+    };
+  }
+  void ClickWith(int button, Point local = {600, 180}) {
+    stage.form->MousePress(Stage::At(box, local), button, 0, false);
+    stage.form->MouseRelease(Stage::At(box, local), button, 0);
+  }
+
+  std::optional<EditCommand> choice;
+  std::optional<EditMenu> offered;
+  std::vector<int> keys;
+  bool refuse = false;
+};
+
+TEST_F(TextBoxMenuTest, ARightClickOffersWhatTheBoxCanDoNow) {
+  Begin("uno dos");
+  stage.host.ClipboardText("");
+  ClickWith(mouse_button::kRight);
+  ASSERT_TRUE(offered.has_value());
+  EXPECT_FALSE(offered->cut || offered->copy || offered->paste);
+  EXPECT_TRUE(offered->select_all);
+  stage.host.ClipboardText("x");
+  Select(0, 3);
+  ClickWith(mouse_button::kRight);
+  EXPECT_TRUE(offered->cut && offered->copy && offered->paste && offered->select_all);
+  Select(0, 7);
+  ClickWith(mouse_button::kRight);
+  EXPECT_FALSE(offered->select_all);
+  EXPECT_EQ(box.SelLength(), 7);
+}
+
+TEST_F(TextBoxMenuTest, ALockedBoxOffersToCopyAndToSelectOnly) {
+  Begin("16/11/2026");
+  box.Locked(true);
+  stage.host.ClipboardText("x");
+  Select(0, 2);
+  ClickWith(mouse_button::kRight);
+  ASSERT_TRUE(offered.has_value());
+  EXPECT_FALSE(offered->cut || offered->paste);
+  EXPECT_TRUE(offered->copy && offered->select_all);
+}
+
+TEST_F(TextBoxMenuTest, WhatIsChosenIsDone) {
+  Begin("uno dos");
+  Select(0, 4);
+  choice = EditCommand::kCopy;
+  ClickWith(mouse_button::kRight);
+  EXPECT_EQ(stage.host.ClipboardText(), "uno ");
+  choice = EditCommand::kCut;
+  ClickWith(mouse_button::kRight);
+  EXPECT_EQ(box.Text(), "dos");
+  choice = EditCommand::kPaste;
+  ClickWith(mouse_button::kRight);
+  EXPECT_EQ(box.Text(), "uno dos");
+  choice = EditCommand::kSelectAll;
+  ClickWith(mouse_button::kRight);
+  EXPECT_EQ(box.SelLength(), 7);
+  EXPECT_EQ(keys, (std::vector<int>{character::kCut, character::kPaste}));
+}
+
+TEST_F(TextBoxMenuTest, APasteFromTheMenuPassesTheFilterOfThePasteKeys) {
+  Begin("4");
+  stage.Key(key::kTab);
+  box.SetFocus();
+  refuse = true;
+  stage.host.ClipboardText("abc");
+  choice = EditCommand::kPaste;
+  ClickWith(mouse_button::kRight);
+  EXPECT_EQ(box.Text(), "4");
+  EXPECT_EQ(keys, std::vector<int>{character::kPaste});
+}
+
+TEST_F(TextBoxMenuTest, AMenuThatIsClosedChangesNothingAndTheNextClickIsAWholeOne) {
+  Begin("uno");
+  ClickWith(mouse_button::kRight);
+  EXPECT_EQ(box.Text(), "uno");
+  int clicks = 0;
+  box.OnClick = [&clicks] { ++clicks; };
+  stage.Click(box);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(TextBoxMenuTest, TheKeysForMenusOpenItToo) {
+  choice = EditCommand::kSelectAll;
+  Begin("uno");
+  stage.Key(key::kMenu);
+  EXPECT_EQ(box.SelLength(), 3);
+  Select(0, 0);
+  stage.Key(key::kF10, kShift);
+  EXPECT_EQ(box.SelLength(), 3);
+  Select(0, 0);
+  stage.Key(key::kF10);
+  EXPECT_EQ(box.SelLength(), 0);
+}
+
+TEST_F(TextBoxMenuTest, TheFormMayGoWhileTheMenuIsUp) {
+  Begin("uno");
+  Select(0, 3);
+  stage.host.OnEditMenu = [this](const EditMenu&) {
+    stage.form->Unload();
+    return EditCommand::kCut;
+  };
+  ClickWith(mouse_button::kRight);
+  EXPECT_FALSE(stage.form->IsLoaded());
+  EXPECT_TRUE(keys.empty());
+}
+
+TEST_F(TextBoxMenuTest, WhatTheUserSelectsIsTheDesktopsSelectionWhatCodeSelectsIsNot) {
+  Begin("uno dos");
+  Select(0, 7);
+  EXPECT_EQ(stage.host.SelectedText(), "");
+  stage.DoubleClick(box, {40, 180});
+  EXPECT_EQ(stage.host.SelectedText(), "uno");
+  stage.Press(box, {20, 180});
+  stage.Drag(box, {2900, 180});
+  stage.Release(box, {2900, 4000});
+  EXPECT_EQ(stage.host.SelectedText(), "uno dos");
+  stage.Key(key::kHome);
+  stage.Key(key::kRight, kShift);
+  EXPECT_EQ(stage.host.SelectedText(), "u");
+  stage.Key('A', kControl);
+  EXPECT_EQ(stage.host.SelectedText(), "uno dos");
+  stage.Click(box);
+  EXPECT_EQ(stage.host.SelectedText(), "uno dos");
+}
+
+TEST_F(TextBoxMenuTest, TheMiddleButtonPastesTheSelectionWhereItClicksThroughTheFilter) {
+  Begin("12");
+  Select(0, 2);
+  stage.host.SelectedText("34");
+  stage.host.ClipboardText("99");
+  ClickWith(mouse_button::kMiddle, {2900, 180});
+  EXPECT_EQ(box.Text(), "1234");
+  EXPECT_EQ(keys, std::vector<int>{character::kPaste});
+  refuse = true;
+  ClickWith(mouse_button::kMiddle, {2900, 180});
+  EXPECT_EQ(box.Text(), "1234");
+  refuse = false;
+  stage.Key('V', kControl);
+  EXPECT_EQ(box.Text(), "123499");
+  box.Locked(true);
+  ClickWith(mouse_button::kMiddle);
+  EXPECT_EQ(box.Text(), "123499");
+}
+
 }  // namespace
 }  // namespace orvendal::testing
