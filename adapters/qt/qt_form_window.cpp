@@ -107,9 +107,12 @@ bool QtFormWindow::CoversScreen() const {
 
 void QtFormWindow::ApplyState() {
   const WindowState state = form_.WindowState();
-  Qt::WindowStates states = Qt::WindowNoState;
-  if (CoversScreen()) states |= Qt::WindowFullScreen;
-  if (state == WindowState::kMinimized) states |= Qt::WindowMinimized;
+  const bool minimized = state == WindowState::kMinimized;
+  // A window that the window manager took out of full screen would be shown again by being put back there, so
+  // it is minimised as it stands.
+  Qt::WindowStates states = minimized ? widget_->windowState() & Qt::WindowFullScreen
+                                      : (CoversScreen() ? Qt::WindowFullScreen : Qt::WindowNoState);
+  if (minimized) states |= Qt::WindowMinimized;
   widget_->ApplyState(state, states);
 }
 

@@ -8,7 +8,7 @@
 namespace orvendal {
 
 /// Around the making of a QApplication: where Qt finds no display to show windows on, it would end the
-/// program with a list of its plugins and a dump of memory. This writes one line to standard error instead,
+/// program with a list of its plugins and a dump of memory. This writes `line` to standard error instead,
 /// and the program ends with `exit_code` there and then. What else Qt has to say is said when the object
 /// goes. One object at a time.
 class QtStart {

@@ -17,6 +17,10 @@ void PaintEdge(Canvas& canvas, const Rect& rect, Rgb upper_left, Rgb lower_right
   canvas.FillRectangle({rect.Right() - pixel, rect.top, pixel, rect.height}, lower_right);
 }
 
+// On a finer display letters are drawn anew, a little higher or lower than in the pixels they are measured
+// in.
+constexpr double kInkMargin = 2 * kTwipsPerPixel;
+
 }  // namespace
 
 double BorderInset(int border_style, Appearance appearance) {
@@ -99,8 +103,7 @@ CaptionText ReadCaption(std::string_view caption) {
 Point RoomOf(TextMeasures& measures, const FontSpec& font, std::string_view text) {
   const Rect ink = measures.TextInk(font, text);
   const double left = std::min(0.0, ink.left);
-  // On a finer display letters are drawn anew, a little higher or lower than in the pixels measured here.
-  return {std::max(measures.TextWidth(font, text), ink.Right()) - left, ink.height + 2 * kTwipsPerPixel};
+  return {std::max(measures.TextWidth(font, text), ink.Right()) - left, ink.height + kInkMargin};
 }
 
 // A design was measured with the fonts of its own desktop, and its sizes stay. What counts is the font that
@@ -128,8 +131,13 @@ void PaintCaption(Canvas& canvas, TextMeasures& measures, const Rect& box, std::
   Rect line{box.left, box.top, box.width, measures.LineHeight(font)};
   if (vertical == VerticalAlign::kCenter) line.top += (box.height - line.height) / 2;
   if (vertical == VerticalAlign::kBottom) line.top += box.height - line.height;
-  // A line that is taller than its box stands so that the box shows all of its letters.
-  if (line.height > box.height) line.top = box.top + (box.height - ink.height) / 2 - ink.top;
+  // A line that is taller than its box stands so that the box shows all of its letters: the same for each
+  // text where accents and tails have room, so that captions side by side stand on one line.
+  if (line.height > box.height) {
+    const Rect tallest = measures.TextInk(font, "Ép");
+    const Rect& shown = tallest.height <= box.height ? tallest : ink;
+    line.top = box.top + (box.height - shown.height) / 2 - shown.top;
+  }
   double left = box.left;
   if (horizontal == HorizontalAlign::kCenter) left += (box.width - width) / 2;
   if (horizontal == HorizontalAlign::kRight) left += box.width - width;

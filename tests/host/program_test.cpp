@@ -29,8 +29,8 @@ class Program : public testing::Test {
         "(" + before +
         "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -u LC_ALL -u LC_MESSAGES "
         "LANG=C.UTF-8 XDG_DATA_HOME='" +
-        folder.Path() + "' '" ORVENDAL_PROGRAM "' " + words + ") >'" + (folder / "out") + "' 2>'" +
-        (folder / "err") + "'";
+        folder.Path() + "' " + display + " '" ORVENDAL_PROGRAM "' " + words + ") >'" + (folder / "out") +
+        "' 2>'" + (folder / "err") + "'";
     const int status = std::system(command.c_str());
     output = Content("out");
     errors = Content("err");
@@ -44,6 +44,7 @@ class Program : public testing::Test {
   }
 
   TemporaryFolder folder;
+  std::string display;  // what the environment says of one
   std::string output;
   std::string errors;
 };
@@ -87,6 +88,16 @@ TEST_F(Program, ABranchThatHasNotCountedTodayShowsNoLines) {
 TEST_F(Program, ABranchThatThereIsNotIsToldAndTheScreenStillOpens) {
   EXPECT_EQ(Run("--sucursal ZZ --captura '" + (folder / "p.png") + "'"), 0);
   EXPECT_TRUE(errors.ends_with("\nError al cargar la sucursal\n")) << errors;
+}
+
+TEST_F(Program, ADisplayThatIsNotThereIsOneLineAndExitCodeOne) {
+  for (const char* wrong : {"", "DISPLAY=:9871", "DISPLAY=no.such.display:0",
+                            "WAYLAND_DISPLAY=no-such-socket", "QT_QPA_PLATFORM=no-such-platform"}) {
+    display = wrong;
+    EXPECT_EQ(Run("</dev/null"), 1) << wrong;
+    EXPECT_EQ(errors, "orvendal: No hay pantalla. Con --captura FICHERO.png se guarda una imagen sin ella.\n")
+        << wrong;
+  }
 }
 
 TEST_F(Program, WrongUseIsOneLineAndExitCodeTwo) {

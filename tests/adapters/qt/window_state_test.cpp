@@ -92,6 +92,24 @@ TEST_F(FormWindows, TheWindowManagerMayMinimise) {
   EXPECT_EQ(Window()->size(), ScreenSize());
 }
 
+TEST_F(FormWindows, AWindowThatTheManagerTookOutOfFullScreenCanBeMinimised) {
+  ShowForm();
+  form->WindowState(FormState::kMaximized);
+  QApplication::processEvents();
+  ASSERT_TRUE(Window()->isFullScreen());
+  Window()->setWindowState(Qt::WindowNoState);  // as the manager does it
+  QApplication::processEvents();
+  form->WindowState(FormState::kMinimized);
+  QApplication::processEvents();
+  EXPECT_TRUE(Window()->isMinimized());
+  EXPECT_FALSE(Window()->isFullScreen());
+  EXPECT_EQ(form->WindowState(), FormState::kMinimized);
+  Window()->setWindowState(Window()->windowState() & ~Qt::WindowMinimized);
+  QApplication::processEvents();
+  EXPECT_EQ(form->WindowState(), FormState::kMaximized);
+  EXPECT_TRUE(Window()->isFullScreen());
+}
+
 TEST_F(FormWindows, AMinimisedWindowThatStillTakesInputComesBackByIt) {
   ShowForm();
   form->WindowState(FormState::kMinimized);
