@@ -49,9 +49,10 @@ inline constexpr FontTable kBookmanDemiItalic = {
         600, 600,  600, 600, 680, 680, 680, 680,  600, 660, 600,
     }}};
 
+// As high as the bitmap font that forms name: a row of a grid is 240 twips high by default.
 inline constexpr FontTable kSans = {
-    1075,
-    299,
+    930,
+    180,
     222,
     {{
         278, 278, 355, 556, 556, 889, 667, 191, 333, 333, 389, 584, 278,  333,  278, 278, 556, 556, 556, 556,
@@ -67,8 +68,8 @@ inline constexpr FontTable kSans = {
     }}};
 
 inline constexpr FontTable kSansBold = {
-    1075,
-    299,
+    930,
+    180,
     278,
     {{
         278, 333, 474, 556, 556, 889, 722, 238, 333, 333, 389, 584, 278, 333,  278, 278, 556, 556, 556, 556,

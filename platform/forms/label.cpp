@@ -71,7 +71,8 @@ void Label::Fit() {
        Host().LineHeight(font) + borders);
 }
 
-// The largest part that neither the container's edges nor the windows in front of all labels cover.
+// The largest part that neither the container's edges nor the windows in front of all labels cover; all of a
+// label of which nothing shows.
 Rect Label::ShownPart() const {
   const auto largest = [](std::initializer_list<Rect> parts) {
     return *std::max_element(parts.begin(), parts.end(), [](const Rect& left, const Rect& right) {
@@ -97,7 +98,7 @@ Rect Label::ShownPart() const {
                  {cover.Right(), shown.top, std::max(0.0, shown.Right() - cover.Right()), shown.height},
                  {shown.left, cover.Bottom(), shown.width, std::max(0.0, shown.Bottom() - cover.Bottom())}});
   }
-  return shown.Moved(-Left(), -Top());
+  return shown.IsEmpty() ? LocalBounds() : shown.Moved(-Left(), -Top());
 }
 
 void Label::Paint(Canvas& canvas) {
