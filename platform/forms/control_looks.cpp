@@ -135,7 +135,7 @@ void PaintCaption(Canvas& canvas, TextMeasures& measures, const Rect& box, std::
   // text where accents and tails have room, so that captions side by side stand on one line.
   if (line.height > box.height) {
     const Rect tallest = measures.TextInk(font, "Ép");
-    const Rect& shown = tallest.height <= box.height ? tallest : ink;
+    const Rect& shown = tallest.height + kInkMargin / 2 <= box.height ? tallest : ink;
     line.top = box.top + (box.height - shown.height) / 2 - shown.top;
   }
   double left = box.left;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "platform/forms/control_looks.h"
 #include "tests/support/form_driver.h"
 
 namespace orvendal {
@@ -105,7 +106,7 @@ TEST_F(FitToDisplayTest, ActionButtonsGetTheirTwipsOnTopOfTheScaling) {
     const Label& caption = dynamic_cast<Label&>(Find("Lbl" + action + "(0)"));
     // The caption had fitted itself to the smaller type when the 40 twips came.
     EXPECT_EQ(caption.Width(),
-              screen.host.TextWidth({"Bookman Old Style", 12.25, 600, false}, caption.Caption()) + 40);
+              RoomOf(screen.host, {"Bookman Old Style", 12.25, 600, false}, caption.Caption()).x + 40);
   }
 }
 
