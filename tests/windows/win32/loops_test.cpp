@@ -98,6 +98,33 @@ TEST_F(LoopsOnWindows, AHostThatShutsTheWindowForItsOwnDialogGetsNoInputThere) {
   EXPECT_EQ(form->log, (Log{"click"}));
 }
 
+TEST_F(LoopsOnWindows, ADialogThatAKeyOpensWhileAButtonIsHeldLeavesNothingPressed) {
+  ShowForm();
+  auto dialog = std::make_shared<ProbeForm>(host);
+  form->left.OnMouseUp = [this](int, int, double, double) { form->Note("up"); };
+  form->left.OnClick = [this] { form->Note("click"); };
+  const std::vector<std::function<void()>> openers = {
+      [&] {
+        Later([&] { dialog->Hide(); });
+        dialog->Show(ShowMode::kModal);
+      },
+      [&] {
+        Later([] { PostMessageW(FindWindowW(L"#32770", L"Recuento"), WM_COMMAND, IDOK, 0); });
+        host.ShowMessage("¿Seguro?", MB_OK, "");
+      }};
+  for (const auto& open : openers) {
+    form->log.clear();
+    form->OnKeyDown = [&](int&, int) { open(); };
+    Press(10, 10);
+    Key(VK_F1);
+    EXPECT_EQ(form->log, (Log{"up"})) << "the dialog has the release, and nothing was clicked";
+    form->OnKeyDown = nullptr;
+    form->log.clear();
+    Click(10, 10);
+    EXPECT_EQ(form->log, (Log{"up", "click"})) << "the next click is a click";
+  }
+}
+
 TEST_F(LoopsOnWindows, AHostThatDestroysTheWindowUnderADialogEndsBoth) {
   ShowForm();
   auto dialog = std::make_shared<ProbeForm>(host);
