@@ -1,0 +1,2 @@
+// What the precompiled headers of the product are made beside.
+#include <string>
