@@ -103,7 +103,9 @@ CaptionText ReadCaption(std::string_view caption) {
 Point RoomOf(TextMeasures& measures, const FontSpec& font, std::string_view text) {
   const Rect ink = measures.TextInk(font, text);
   const double left = std::min(0.0, ink.left);
-  return {std::max(measures.TextWidth(font, text), ink.Right()) - left, ink.height + kInkMargin};
+  // A whole line has room for whatever stands in it.
+  const double height = std::min(ink.height + kInkMargin, measures.LineHeight(font));
+  return {std::max(measures.TextWidth(font, text), ink.Right()) - left, height};
 }
 
 // A design was measured with the fonts of its own desktop, and its sizes stay. What counts is the font that
