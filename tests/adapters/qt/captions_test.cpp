@@ -91,7 +91,7 @@ bool HasTheFontsOfTheNumbers() {
 }
 
 TEST(ScriptPictures, APictureIsWhatAWindowShows) {
-  if (!HasTheFontsOfTheNumbers()) GTEST_SKIP() << "the fonts URW Bookman and Nimbus Sans are not installed";
+  ASSERT_TRUE(HasTheFontsOfTheNumbers()) << "install the fonts URW Bookman and Nimbus Sans (fonts-urw-base35)";
   for (const DisplaySize display : kCaptionDisplays) {
     for (const Language language : kCaptionLanguages) {
       WindowScreen window(display, language);
