@@ -63,7 +63,7 @@ void MakeUnlessMade(SqliteConnection& store, Date today) {
 
 void CheckFit(SqliteConnection& store, const StoreSettings& settings) {
   const std::string why = WhyUnfit(store, settings.path, settings.words);
-  if (!why.empty()) throw StoreUnavailable(why);
+  if (!why.empty()) throw StoreDoesNotFit(why);
 }
 
 }  // namespace

@@ -17,6 +17,12 @@ class StoreUnavailable : public RuntimeError {
   explicit StoreUnavailable(const std::string& description);
 };
 
+/// The database can be opened, and is not what the program counts into: fields or tables are missing, say.
+class StoreDoesNotFit final : public StoreUnavailable {
+ public:
+  using StoreUnavailable::StoreUnavailable;
+};
+
 /// Where the host's store is and how it is to answer. `region` and `words` outlive it.
 struct StoreSettings {
   std::string path;  // ":memory:" for one that is gone with its connection

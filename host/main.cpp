@@ -33,7 +33,7 @@ int Run(const std::vector<std::string>& words, const char* name) {
   if (line.command != nullptr) {
     std::cerr << line.errors;  // whoever runs scripts reads them
   } else if (!line.errors.empty()) {
-    TellWhyItEnds(line.errors, WordsOf(line.options.language), name);
+    TellWhyItEnds(line.errors, WordsOf(line.options.language), name, line.exit_code.value_or(kExitFailure));
   }
   if (line.exit_code) return *line.exit_code;
   if (line.command != nullptr) return line.command->run(line.options, line.argument);

@@ -181,7 +181,7 @@ int RunProgram(const Options& options, const char* program_name) {
     if (paints) {
       std::cerr << ErrorLine(sentence);
     } else {
-      TellWhyItEnds(ErrorLine(sentence), words, program_name);
+      TellWhyItEnds(ErrorLine(sentence), words, program_name, kExitFailure);
     }
   };
   const auto fail = [&](const std::string& sentence) {

@@ -30,13 +30,13 @@ bool HasTerminal() {
   return std::any_of(kStreams.begin(), kStreams.end(), [](int stream) { return isatty(stream) == 1; });
 }
 
-void ShowBox(const std::string& sentence, const Words& words, const char* program_name) {
+void ShowBox(const std::string& sentence, const Words& words, const char* program_name, int exit_code) {
   int argument_count = 1;
   std::string name(program_name);
   char* arguments[] = {name.data(), nullptr};
   std::unique_ptr<QApplication> application;
   if (QCoreApplication::instance() == nullptr) {
-    const QtStart start("", kExitFailure);  // without a display the line is all
+    const QtStart start("", exit_code);  // without a display the line is all
     application = std::make_unique<QApplication>(argument_count, arguments);
     QApplication::setWindowIcon(ProgramIcon());
   }
@@ -62,11 +62,11 @@ std::string ErrorLine(const std::string& sentence) {
   return std::string(kLineStart) + PrintedText(sentence) + "\n";
 }
 
-void TellWhyItEnds(const std::string& line, const Words& words, const char* program_name) {
+void TellWhyItEnds(const std::string& line, const Words& words, const char* program_name, int exit_code) {
   std::cerr << line << std::flush;
   if (!HasDisplay() || HasTerminal()) return;
   const std::size_t start = line.starts_with(kLineStart) ? kLineStart.size() : 0;
-  ShowBox(line.substr(start, line.find_last_not_of('\n') + 1 - start), words, program_name);
+  ShowBox(line.substr(start, line.find_last_not_of('\n') + 1 - start), words, program_name, exit_code);
 }
 
 }  // namespace orvendal

@@ -49,6 +49,7 @@ struct Words {
   std::string_view reconnect;
   std::string_view store_open;
   std::string_view store_opened_anew;
+  std::string_view store_given_up;
   std::string_view session_change;
 
   // Why a store cannot be used; %1 is its file, or the folder that is missing.

@@ -34,6 +34,7 @@ const Words& CatalanWords() {
       .reconnect = "Reconnectar",
       .store_open = "La base de dades és oberta.",
       .store_opened_anew = "S’ha tornat a obrir la base de dades.",
+      .store_given_up = "S’ha tancat la base de dades: no és la que cal.",
       .session_change = "Canvi de Sessió",
       .folder_missing = "No existeix la carpeta %1 de la base de dades.",
       .store_missing = "No existeix la base de dades %1.",

@@ -34,6 +34,7 @@ const Words& EnglishWords() {
       .reconnect = "Reconnect",
       .store_open = "The database is open.",
       .store_opened_anew = "The database has been opened again.",
+      .store_given_up = "The database has been closed: it is not the one needed.",
       .session_change = "Change of Session",
       .folder_missing = "The folder %1 of the database does not exist.",
       .store_missing = "The database %1 does not exist.",

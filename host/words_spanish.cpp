@@ -34,6 +34,7 @@ const Words& SpanishWords() {
       .reconnect = "Reconectar",
       .store_open = "La base de datos está abierta.",
       .store_opened_anew = "Se ha abierto de nuevo la base de datos.",
+      .store_given_up = "La base de datos se ha cerrado: no es la que hace falta.",
       .session_change = "Cambio de Sesión",
       .folder_missing = "No existe la carpeta %1 de la base de datos.",
       .store_missing = "No existe la base de datos %1.",

@@ -2,7 +2,6 @@
 
 #include "host/branch_names.h"
 #include "host/error_words.h"
-#include "host/host_store.h"
 #include "host/sample_mark.h"
 #include "platform/base/text.h"
 #include "platform/library/library.h"
@@ -88,12 +87,33 @@ void WorkstationForm::ShowValues(std::string_view state) {
   }
 }
 
+// A save would delete the day and then fail: nothing more is read or written there until it is opened again.
+void WorkstationForm::GiveUpStore() {
+  if (auto* const embedded = dynamic_cast<SqliteConnection*>(store_.get())) {
+    embedded->Close();
+  } else {
+    store_ = nullptr;
+  }
+  context_.connection = store_;
+  TxtProveedor.Text("");
+  LblMuestra.Caption("");
+  LblEstado.Caption(std::string(context_.words.get().store_given_up));
+}
+
+void WorkstationForm::TellWhyNot(const StoreUnavailable& error) {
+  const ModalScope scope(Host());
+  context_.messages.Present(error.Description(), message::kStop, Caption());
+}
+
 void WorkstationForm::Reconnect() {
   try {
     store_ = context_.reopen_store();
+  } catch (const StoreDoesNotFit& error) {
+    GiveUpStore();
+    TellWhyNot(error);
+    return;
   } catch (const StoreUnavailable& error) {
-    const ModalScope scope(Host());
-    context_.messages.Present(error.Description(), message::kStop, Caption());
+    TellWhyNot(error);
     return;
   }
   context_.connection = store_;

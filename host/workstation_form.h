@@ -3,12 +3,14 @@
 #include "host/dialog_design.h"
 #include "host/dialog_keys.h"
 #include "host/host_context.h"
+#include "host/host_store.h"
 
 namespace orvendal {
 
 /// The panel of the workstation: branch, workstation, shift, store, provider, whether the store answers, and
 /// whether it holds the made-up chain.
-/// A button opens the store anew; if that fails, the reason is shown and the connection stays. It comes up
+/// A button opens the store anew; if that fails, the reason is shown and the connection stays, unless the
+/// store turned out not to fit: then it is closed, so that nothing more is written to it. The panel comes up
 /// even if the store does not answer, since that is when it is needed.
 class WorkstationForm final : public Form {
  public:
@@ -24,6 +26,8 @@ class WorkstationForm final : public Form {
   void DesignRow(int row, Label& label, std::string_view caption, TextBox& box);
   void ShowValues(std::string_view state);
   void Reconnect();
+  void GiveUpStore();
+  void TellWhyNot(const StoreUnavailable& error);
 
   HostContext& context_;
   ConnectionRef store_;

@@ -1,10 +1,10 @@
 #include "adapters/qt/qt_picture.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
 #include <QPainter>
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 
 #include "adapters/qt/qt_canvas.h"
 #include "platform/forms/form.h"
@@ -13,15 +13,19 @@ namespace orvendal {
 namespace {
 
 // The writer of pictures does not hear of what a disk refuses at the end, and talks to standard error.
-bool WritePng(const QImage& image, const QString& path) {
+// The file is opened by the bytes of its name: Qt's texts would lead those that are no UTF-8 to another file.
+bool WritePng(const QImage& image, const std::string& path) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   if (!buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG")) return false;
-  QFile file(path);
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate)) return false;
-  if (file.write(bytes) == bytes.size() && file.flush()) return true;
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  if (!file) return false;
+  file.write(bytes.constData(), bytes.size());
+  file.close();
+  if (file) return true;
   // Half a picture is none. A device stays where it is.
-  if (QFileInfo(path).isFile()) file.remove();
+  std::error_code ignored;
+  if (std::filesystem::is_regular_file(path, ignored)) std::filesystem::remove(path, ignored);
   return false;
 }
 
@@ -45,7 +49,7 @@ QImage RenderForm(Form& form, double scale) {
 }
 
 bool SavePng(Form& form, QtFonts& fonts, const std::string& path, double scale) {
-  return WritePng(RenderForm(form, fonts, scale), QString::fromStdString(path));
+  return WritePng(RenderForm(form, fonts, scale), path);
 }
 
 bool SavePng(Form& form, const std::string& path, double scale) {

@@ -118,6 +118,15 @@ TEST_F(ScriptProgram, APictureNeverReplacesAFileNorLeavesTheFolders) {
   }
 }
 
+TEST_F(ScriptProgram, APictureWhoseNameIsNoTextGoesToThatFileAndToNoOther) {
+  Write("victima.png", "intacta");
+  std::filesystem::create_symlink("victima.png", folder / "p\xef\xbf\xbd.png");
+  Write("a.guion", "orvendal 01 1 1\ncaptura p\xff.png\n");
+  EXPECT_EQ(Run("guion a.guion"), 0) << errors;
+  EXPECT_EQ(Content("victima.png"), "intacta");
+  EXPECT_EQ(Content("p\xff.png").substr(1, 3), "PNG");
+}
+
 TEST_F(ScriptProgram, APictureThatTheDiskDoesNotTakeIsToldAndLeavesNothing) {
   Write("a.guion", "orvendal 01 1 1\ncaptura p.png\n");
   EXPECT_EQ(RunAfter("ulimit -f 4 && ", "guion a.guion"), 2);

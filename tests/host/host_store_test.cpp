@@ -136,5 +136,17 @@ TEST_F(HostStore, TheDefaultStoreIsForItsOwnerAlone) {
   }
 }
 
+TEST_F(HostStore, AFolderThatOthersUseTooKeepsItsPermissions) {
+  namespace fs = std::filesystem;
+  const std::string shared = folder / "datos";
+  fs::create_directory(shared);
+  fs::create_directory_symlink("datos", folder / "orvendal");
+  fs::permissions(shared, fs::perms(0755));
+  MakePrivateFile(shared + "/cadena.db");
+  MakePrivateFile(folder / "orvendal/cadena.db");
+  EXPECT_EQ(static_cast<unsigned>(fs::status(shared).permissions()), 0755U);
+  EXPECT_EQ(static_cast<unsigned>(fs::status(shared + "/cadena.db").permissions()), 0600U);
+}
+
 }  // namespace
 }  // namespace orvendal

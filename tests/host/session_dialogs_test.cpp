@@ -114,7 +114,7 @@ TEST_F(WorkstationPanel, AStoreThatCannotBeOpenedIsToldAndTheConnectionStays) {
   EXPECT_TRUE(host.ReportedErrors().empty());
 }
 
-TEST_F(WorkstationPanel, AStoreThatNoLongerFitsIsRefusedAndTheConnectionStays) {
+TEST_F(WorkstationPanel, AStoreThatNoLongerFitsIsRefusedAndNothingMoreIsWrittenToIt) {
   const TemporaryFolder folder;
   const StoreSettings settings{folder / "cadena.db", Dialect::kSqlServer, Region::Spanish(), SpanishWords()};
   const auto opened = OpenOrMakeStore(settings, Date(2026, 11, 16));
@@ -126,9 +126,11 @@ TEST_F(WorkstationPanel, AStoreThatNoLongerFitsIsRefusedAndTheConnectionStays) {
     ASSERT_EQ(messages.shown.size(), 1U);
     EXPECT_NE(messages.shown[0].text.find("le falta HistOrvendalcial.Actualizado"), std::string::npos)
         << messages.shown[0].text;
+    EXPECT_EQ(State(form), "La base de datos se ha cerrado: no es la que hace falta.");
     Close(form);
   });
   EXPECT_EQ(connection, opened);
+  EXPECT_FALSE(opened->IsOpen());
 }
 
 TEST_F(WorkstationPanel, ComesUpAlsoWhenTheStoreDoesNotAnswer) {
