@@ -14,10 +14,10 @@ namespace {
 constexpr int kLongestValue = 64 * 1024 * 1024;  // bytes; no field of a store comes near it
 
 // They tell what there is.
-constexpr std::array<std::string_view, 17> kTelling = {
+constexpr std::array<std::string_view, 18> kTelling = {
     "application_id", "busy_timeout", "collation_list", "compile_options", "data_version", "database_list",
     "encoding",       "foreign_keys", "freelist_count", "function_list",   "journal_mode", "module_list",
-    "page_count",     "page_size",    "pragma_list",    "schema_version",  "user_version"};
+    "page_count",     "page_size",    "pragma_list",    "schema_version",  "temp_store",   "user_version"};
 // Of a table or an index, which stands in brackets or after an equals sign.
 constexpr std::array<std::string_view, 10> kTellingOf = {
     "foreign_key_check", "foreign_key_list", "index_info", "index_list", "index_xinfo",
@@ -48,6 +48,8 @@ StatementGuard::StatementGuard(sqlite3* database) : database_(database) {
   sqlite3_db_config(database_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   sqlite3_limit(database_, SQLITE_LIMIT_ATTACHED, 0);
   sqlite3_limit(database_, SQLITE_LIMIT_LENGTH, kLongestValue);
+  // What a statement sorts or keeps for itself goes into no file.
+  sqlite3_exec(database_, "PRAGMA temp_store = MEMORY", nullptr, nullptr, nullptr);
   sqlite3_set_authorizer(database_, Decide, this);
 }
 

@@ -123,6 +123,12 @@ TEST_F(HarmlessStore, APragmaTellsAndChangesNothing) {
   EXPECT_EQ(Told("PRAGMA integrity_check"), "ok");
 }
 
+TEST_F(HarmlessStore, WhatAStatementKeepsForItselfGoesIntoNoFile) {
+  OpenSample();
+  EXPECT_EQ(Told("PRAGMA temp_store"), "2");  // in memory
+  EXPECT_EQ(ErrorOfScript("PRAGMA temp_store = FILE"), ado_error::kPermissionDenied);
+}
+
 TEST_F(HarmlessStore, NoVirtualTableIsMade) {
   OpenSample();
   EXPECT_EQ(ErrorOfScript("CREATE VIRTUAL TABLE v USING fts4(a)"), ado_error::kPermissionDenied);
