@@ -91,7 +91,8 @@ bool HasTheFontsOfTheNumbers() {
 }
 
 TEST(ScriptPictures, APictureIsWhatAWindowShows) {
-  ASSERT_TRUE(HasTheFontsOfTheNumbers()) << "install the fonts URW Bookman and Nimbus Sans (fonts-urw-base35)";
+  ASSERT_TRUE(HasTheFontsOfTheNumbers())
+      << "install the fonts URW Bookman and Nimbus Sans (fonts-urw-base35)";
   for (const DisplaySize display : kCaptionDisplays) {
     for (const Language language : kCaptionLanguages) {
       WindowScreen window(display, language);
