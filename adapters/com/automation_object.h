@@ -9,12 +9,15 @@
 
 namespace orvendal {
 
-/// One member of an automation object: what a get or a call does, and what a put does. Either may be missing.
+/// One member of an automation object: what a get or a call does, with how many arguments, and what a put
+/// does. Either may be missing.
 template <typename Target>
 struct AutomationMember {
   const wchar_t* name;
   void (*get)(Target& target, const AutomationCall& call);
   void (*put)(Target& target, const AutomationCall& call);
+  UINT fewest = 0;
+  UINT most = 0;
 };
 
 /// What our objects that are handed out have in common: members by name through Invoke, errors with number
@@ -54,10 +57,22 @@ class AutomationObject : public Counted<IDispatch, ISupportErrorInfo, IOrvendalO
     return DISPID_UNKNOWN;
   }
   template <typename Target, std::size_t kSize>
-  static const AutomationMember<Target>* MemberIn(const AutomationMember<Target> (&table)[kSize],
-                                                  DISPID member) {
+  static bool GetIn(const AutomationMember<Target> (&table)[kSize], DISPID member, Target& target,
+                    const AutomationCall& call) {
     const bool there = member >= 1 && static_cast<std::size_t>(member) <= kSize;
-    return there ? &table[member - 1] : nullptr;
+    if (!there || !table[member - 1].get) return false;
+    call.Expect(table[member - 1].fewest, table[member - 1].most);
+    table[member - 1].get(target, call);
+    return true;
+  }
+  template <typename Target, std::size_t kSize>
+  static bool PutIn(const AutomationMember<Target> (&table)[kSize], DISPID member, Target& target,
+                    const AutomationCall& call) {
+    const bool there = member >= 1 && static_cast<std::size_t>(member) <= kSize;
+    if (!there || !table[member - 1].put) return false;
+    call.Expect(1, 1);
+    table[member - 1].put(target, call);
+    return true;
   }
   static bool SameName(const wchar_t* left, const wchar_t* right);
 

@@ -92,7 +92,6 @@ void GetContainer(Self& self, const Call& call) {
 }
 
 void Move(Self& self, const Call& call) {
-  call.Expect(1, 4);
   Control& control = Of(self);
   const double left = call.Number(0);
   const double top = call.Has(1) ? call.Number(1) : control.Top();
@@ -152,9 +151,9 @@ const AutomationMember<Self> kMembers[] = {
      },
      nullptr},
     {L"Container", GetContainer, nullptr},
-    {L"SetFocus", [](Self& self, const Call& call) { call.Expect(0, 0), Of(self).SetFocus(); }, nullptr},
-    {L"Refresh", [](Self& self, const Call& call) { call.Expect(0, 0), Of(self).Refresh(); }, nullptr},
-    {L"Move", Move, nullptr},
+    {L"SetFocus", [](Self& self, const Call&) { Of(self).SetFocus(); }, nullptr},
+    {L"Refresh", [](Self& self, const Call&) { Of(self).Refresh(); }, nullptr},
+    {L"Move", Move, nullptr, 1, 4},
 };
 
 constexpr DISPID kValue = DISPID_VALUE;
@@ -196,20 +195,13 @@ DISPID ControlAutomation::IdOf(const wchar_t* name) {
 bool ControlAutomation::Get(DISPID member, const AutomationCall& call) {
   const std::shared_ptr<Form> alive = form_.lock();
   if (member == kValue) member = DefaultMember(Living(), IdOf(L"Text"), IdOf(L"Caption"));
-  const AutomationMember<Self>* const entry = MemberIn(kMembers, member);
-  if (!entry || !entry->get) return false;
-  entry->get(*this, call);
-  return true;
+  return GetIn(kMembers, member, *this, call);
 }
 
 bool ControlAutomation::Put(DISPID member, const AutomationCall& call) {
   const std::shared_ptr<Form> alive = form_.lock();
   if (member == kValue) member = DefaultMember(Living(), IdOf(L"Text"), IdOf(L"Caption"));
-  const AutomationMember<Self>* const entry = MemberIn(kMembers, member);
-  if (!entry || !entry->put) return false;
-  call.Expect(1, 1);
-  entry->put(*this, call);
-  return true;
+  return PutIn(kMembers, member, *this, call);
 }
 
 }  // namespace orvendal

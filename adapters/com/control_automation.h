@@ -15,7 +15,6 @@ class ControlAutomation final : public AutomationObject {
   bool IsGone() const override { return form_.expired(); }
   /// Raises error 91 if the form is gone.
   Control& Living() const;
-  AutomationRegistry& Registry() const { return *registry_; }
   const std::shared_ptr<AutomationRegistry>& SharedRegistry() const { return registry_; }
 
  protected:

@@ -116,12 +116,14 @@ DISPID ControlsAutomation::IdOf(const wchar_t* name) {
 bool ControlsAutomation::Get(DISPID member, const AutomationCall& call) {
   switch (member) {
     case kCount:
+      call.Expect(0, 0);
       call.GiveLong(static_cast<LONG>(Living()->Controls().size()));
       return true;
     case DISPID_VALUE:
       GiveItem(call);
       return true;
     case DISPID_NEWENUM:
+      call.Expect(0, 0);
       call.Give(ComPtr<IUnknown>::Adopt(new ControlWalk(registry_, Living(), 0)));
       return true;
     default:

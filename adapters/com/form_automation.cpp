@@ -20,14 +20,12 @@ Form& Of(Self& self) {
 }
 
 void Show(Self& self, const Call& call) {
-  call.Expect(0, 2);
   const LONG mode = call.Has(0) ? call.Long(0) : 0;
   if (mode != 0 && mode != 1) throw RuntimeError(error_number::kInvalidProcedureCall);
   Of(self).Show(mode == 1 ? ShowMode::kModal : ShowMode::kModeless);
 }
 
 void Move(Self& self, const Call& call) {
-  call.Expect(1, 4);
   Form& form = Of(self);
   form.Move(call.Number(0), call.Has(1) ? call.Number(1) : form.Top());
   if (call.Has(2)) form.Width(call.Number(2));
@@ -108,12 +106,12 @@ const AutomationMember<Self> kMembers[] = {
      },
      nullptr},
     {L"ActiveControl", GetActiveControl, nullptr},
-    {L"Controls", GetControls, nullptr},
-    {L"Show", Show, nullptr},
-    {L"Hide", [](Self& self, const Call& call) { call.Expect(0, 0), Of(self).Hide(); }, nullptr},
-    {L"SetFocus", [](Self& self, const Call& call) { call.Expect(0, 0), Of(self).SetFocus(); }, nullptr},
-    {L"Refresh", [](Self& self, const Call& call) { call.Expect(0, 0), Of(self).Refresh(); }, nullptr},
-    {L"Move", Move, nullptr},
+    {L"Controls", GetControls, nullptr, 0, 1},
+    {L"Show", Show, nullptr, 0, 2},
+    {L"Hide", [](Self& self, const Call&) { Of(self).Hide(); }, nullptr},
+    {L"SetFocus", [](Self& self, const Call&) { Of(self).SetFocus(); }, nullptr},
+    {L"Refresh", [](Self& self, const Call&) { Of(self).Refresh(); }, nullptr},
+    {L"Move", Move, nullptr, 1, 4},
 };
 
 }  // namespace
@@ -174,19 +172,12 @@ bool FormAutomation::Get(DISPID member, const AutomationCall& call) {
     return true;
   }
   if (member == DISPID_VALUE) member = IdIn(kMembers, L"Controls");
-  const AutomationMember<Self>* const entry = MemberIn(kMembers, member);
-  if (!entry || !entry->get) return false;
-  entry->get(*this, call);
-  return true;
+  return GetIn(kMembers, member, *this, call);
 }
 
 bool FormAutomation::Put(DISPID member, const AutomationCall& call) {
   const std::shared_ptr<Form> alive = form_.lock();
-  const AutomationMember<Self>* const entry = MemberIn(kMembers, member);
-  if (!entry || !entry->put) return false;
-  call.Expect(1, 1);
-  entry->put(*this, call);
-  return true;
+  return PutIn(kMembers, member, *this, call);
 }
 
 }  // namespace orvendal

@@ -182,6 +182,13 @@ TEST_F(AutomationTest, WrongArgumentsAreToldSo) {
   EXPECT_EQ(client.wrong, 0U);
   EXPECT_EQ(client.Get(L"Move"), DISP_E_BADPARAMCOUNT);
   EXPECT_EQ(client.Get(L"Hide", {Argument(LONG{1})}), DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(client.Get(L"Caption", {Argument(LONG{1})}), DISP_E_BADPARAMCOUNT);
+  ASSERT_EQ(client.Get(L"TxtEmpleado"), S_OK);
+  InvokeClient box(V_DISPATCH(&client.result));
+  EXPECT_EQ(box.Get(L"Text", {Argument(LONG{1})}), DISP_E_BADPARAMCOUNT);
+  ASSERT_EQ(client.Get(L"Controls"), S_OK);
+  InvokeClient controls(V_DISPATCH(&client.result));
+  EXPECT_EQ(controls.Get(L"Count", {Argument(LONG{1})}), DISP_E_BADPARAMCOUNT);
 }
 
 TEST_F(AutomationTest, WhatIsKeptAfterTheFormIsGoneAnswersError91) {
