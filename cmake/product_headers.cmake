@@ -10,10 +10,21 @@ target_precompile_headers(orvendal_product_headers PRIVATE <algorithm> <array> <
   <map> <memory> <optional> <string> <string_view> <utility> <variant> <vector>)
 
 foreach(target IN ITEMS orvendal_base orvendal_data orvendal_forms orvendal_sqlite orvendal_headless orvendal_session
-    orvendal_statements orvendal_screen orvendal_form orvendal_component orvendal_sample_schema orvendal_host
-    orvendal_guion)
+    orvendal_statements orvendal_screen orvendal_form orvendal_component orvendal_words orvendal_host_store
+    orvendal_context orvendal_stand_in orvendal_sample orvendal_host orvendal_scripted_library orvendal_script)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${target} PRIVATE -fpch-preprocess)
   endif()
   target_precompile_headers(${target} REUSE_FROM orvendal_product_headers)
 endforeach()
+
+# Those of Qt as well, for its window and the program.
+if(TARGET orvendal)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(orvendal_qt PRIVATE -fpch-preprocess)
+    target_compile_options(orvendal PRIVATE -fpch-preprocess)
+  endif()
+  target_precompile_headers(orvendal_qt PRIVATE <QApplication> <QFontDatabase> <QKeyEvent> <QPainter> <QScreen>
+    <QString> <QWidget> <QWindow>)
+  target_precompile_headers(orvendal REUSE_FROM orvendal_qt)
+endif()

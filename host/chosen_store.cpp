@@ -3,21 +3,14 @@
 #include <filesystem>
 
 #include "host/printed_text.h"
-#include "host/sample_mark.h"
+#include "host/sample/made_store.h"
+#include "host/store/sample_mark.h"
+#include "host/utf8_path.h"
 
 namespace orvendal {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Texts are UTF-8 on every system.
-fs::path PathOf(const std::string& utf8) {
-  return std::u8string(utf8.begin(), utf8.end());
-}
-std::string TextOf(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return {text.begin(), text.end()};
-}
 
 bool IsThere(const std::string& path) {
   std::error_code error;

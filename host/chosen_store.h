@@ -4,7 +4,7 @@
 #include <string>
 
 #include "host/command_line.h"
-#include "host/host_store.h"
+#include "host/store/host_store.h"
 
 namespace orvendal {
 

@@ -4,9 +4,9 @@
 #include <algorithm>
 #include <charconv>
 
-#include "host/default_store.h"
 #include "host/help_text.h"
 #include "host/printed_text.h"
+#include "host/store/default_store.h"
 
 namespace orvendal {
 namespace {

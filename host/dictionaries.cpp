@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "host/store_rows.h"
+#include "host/store/store_rows.h"
 #include "platform/data/memory_recordset.h"
 
 namespace orvendal {

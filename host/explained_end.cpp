@@ -2,7 +2,7 @@
 
 #include <new>
 
-#include "host/host_store.h"
+#include "host/store/host_store.h"
 #include "platform/base/runtime_error.h"
 
 namespace orvendal {

@@ -5,11 +5,11 @@
 
 #include "host/command_line.h"
 #include "host/explained_end.h"
-#include "host/guion_parser.h"
-#include "host/guion_picture.h"
-#include "host/guion_runner.h"
 #include "host/language.h"
 #include "host/program.h"
+#include "host/script/parser.h"
+#include "host/script/qt_pictures.h"
+#include "host/script/runner.h"
 #include "host/start_error.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "host/default_store.h"
+#include "host/store/default_store.h"
 
 #include <windows.h>
 

@@ -11,7 +11,7 @@
 #include <iostream>
 #include <sstream>
 
-#include "host/guion_runner.h"
+#include "host/script/runner.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "host/host_store.h"
+#include "host/store/host_store.h"
 #include "platform/data/ado_error.h"
 #include "tests/host/host_fixture.h"
 #include "tests/host/temporary_folder.h"

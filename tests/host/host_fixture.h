@@ -12,9 +12,9 @@
 #include "adapters/headless/robot.h"
 #include "adapters/sqlite/sqlite_store.h"
 #include "host/host_context.h"
-#include "host/sample_schema.h"
-#include "host/sample_session.h"
-#include "host/stand_in_library.h"
+#include "host/library/stand_in_library.h"
+#include "host/sample/session.h"
+#include "host/store/schema.h"
 #include "platform/forms/ms_flex_grid.h"
 #include "platform/forms/text_box.h"
 

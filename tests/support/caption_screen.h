@@ -7,7 +7,7 @@
 #include "component/class_orvendal.h"
 #include "form/frm_orvendalciales.h"
 #include "host/dictionaries.h"
-#include "host/sample_schema.h"
+#include "host/store/schema.h"
 #include "tests/support/plain_library.h"
 
 namespace orvendal {

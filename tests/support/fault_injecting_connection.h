@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/observed_store.h"
+#include "host/script/observed_recordsets.h"
 
 namespace orvendal::testing_support {
 

@@ -1,6 +1,6 @@
 #include "tests/support/form_driver.h"
 
-#include "host/sample_schema.h"
+#include "host/store/schema.h"
 
 namespace orvendal {
 namespace {

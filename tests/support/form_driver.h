@@ -10,8 +10,8 @@
 #include "adapters/sqlite/sqlite_store.h"
 #include "component/class_orvendal.h"
 #include "form/frm_orvendalciales.h"
-#include "host/guion_library.h"
-#include "host/observed_store.h"
+#include "host/script/observed_recordsets.h"
+#include "host/script/scripted_library.h"
 #include "platform/data/memory_recordset.h"
 #include "tests/support/plain_library.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DllTrevano.h"
-#include "host/quantity_filter.h"
+#include "host/library/quantity_filter.h"
 #include "host/windows/library/dual_object.h"
 #include "platform/library/library.h"
 

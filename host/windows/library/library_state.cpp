@@ -10,10 +10,11 @@
 #include "adapters/automation/module_lifetime.h"
 #include "adapters/win32/module_use.h"
 #include "data_objects.h"
-#include "host/default_store.h"
 #include "host/error_words.h"
-#include "host/host_store.h"
-#include "host/private_file.h"
+#include "host/sample/made_store.h"
+#include "host/store/default_store.h"
+#include "host/store/host_store.h"
+#include "host/store/private_file.h"
 
 namespace orvendal {
 namespace {
@@ -24,10 +25,6 @@ Language LanguageOfUser() {
   wchar_t name[LOCALE_NAME_MAX_LENGTH] = L"";
   GetUserDefaultLocaleName(name, LOCALE_NAME_MAX_LENGTH);
   return LanguageOfLocale(Utf8Text(name));
-}
-
-std::filesystem::path PathOf(const std::string& utf8) {
-  return std::u8string(utf8.begin(), utf8.end());
 }
 
 Win32HostOptions NamedHost() {
@@ -127,8 +124,7 @@ void LibraryState::OpenStore(std::string file, const std::string& provider) {
     file = DefaultStore();
     MakePrivateFile(file);
   }
-  const std::u8string absolute = std::filesystem::absolute(PathOf(file)).u8string();
-  const std::string path(absolute.begin(), absolute.end());
+  const std::string path = TextOf(std::filesystem::absolute(PathOf(file)));
   // Made, and looked at, by the store's own means: they know why a file cannot be used.
   OpenOrMakeStore({path, Dialect::kSqlServer, windows_.UserRegion(), context_.words},
                   windows_.SystemClock().Today())

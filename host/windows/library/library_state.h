@@ -7,7 +7,7 @@
 #include "adapters/win32/win32_window_host.h"
 #include "host/host_context.h"
 #include "host/language.h"
-#include "host/stand_in_library.h"
+#include "host/library/stand_in_library.h"
 
 namespace orvendal {
 

@@ -10,8 +10,8 @@
 #include "adapters/automation/type_information.h"
 #include "adapters/win32/windows_api.h"
 #include "host/chosen_store.h"
-#include "host/default_store.h"
 #include "host/explained_end.h"
+#include "host/store/default_store.h"
 #include "platform/data/ado_error.h"
 
 namespace orvendal {

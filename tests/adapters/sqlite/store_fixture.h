@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "adapters/sqlite/sqlite_store.h"
-#include "host/sample_schema.h"
+#include "host/store/schema.h"
 #include "platform/base/runtime_error.h"
 #include "platform/data/ado_error.h"
 

@@ -9,7 +9,7 @@
 #include "adapters/ado/ado_identity.h"
 #include "adapters/automation/com_ptr.h"
 #include "adapters/sqlite/sqlite_store.h"
-#include "host/sample_schema.h"
+#include "host/store/schema.h"
 #include "tests/windows/ado/registered_class.h"
 #include "tests/windows/com/tested_dll.h"
 

@@ -2,7 +2,7 @@
 
 #include <filesystem>
 
-#include "host/sample_schema.h"
+#include "host/store/schema.h"
 
 namespace orvendal::store_client {
 namespace {

@@ -1,6 +1,6 @@
 #include "tests/windows/win32/real_screen.h"
 
-#include "host/sample_schema.h"
+#include "host/store/schema.h"
 #include "platform/data/memory_recordset.h"
 
 namespace orvendal {

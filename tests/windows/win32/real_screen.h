@@ -7,7 +7,7 @@
 #include "adapters/win32/win32_window_host.h"
 #include "component/class_orvendal.h"
 #include "form/frm_orvendalciales.h"
-#include "host/guion_library.h"
+#include "host/script/scripted_library.h"
 #include "tests/support/plain_library.h"
 #include "tests/windows/win32/win32_fixture.h"
 

@@ -1,0 +1,113 @@
+#include "host/sample/products.h"
+
+namespace orvendal {
+namespace {
+
+// The colour chart: height of tone and shade, as hairdressers number them.
+const std::vector<std::string_view>& Shades() {
+  static const std::vector<std::string_view> shades = {
+      "1 Negro",
+      "1.1 Negro Azulado",
+      "3 Castaño Oscuro",
+      "3.5 Castaño Oscuro Caoba",
+      "3.6 Castaño Oscuro Rojizo",
+      "4 Castaño",
+      "4.1 Castaño Ceniza",
+      "4.3 Castaño Dorado",
+      "4.4 Castaño Cobrizo",
+      "4.5 Castaño Caoba",
+      "4.6 Castaño Rojizo",
+      "4.7 Castaño Marrón",
+      "5 Castaño Claro",
+      "5.1 Castaño Claro Ceniza",
+      "5.3 Castaño Claro Dorado",
+      "5.4 Castaño Claro Cobrizo",
+      "5.5 Castaño Claro Caoba",
+      "5.6 Castaño Claro Rojizo",
+      "5.62 Castaño Claro Rojo Violín",
+      "5.7 Castaño Claro Marrón",
+      "6 Rubio Oscuro",
+      "6.1 Rubio Oscuro Ceniza",
+      "6.3 Rubio Oscuro Dorado",
+      "6.34 Rubio Oscuro Dorado Cobrizo",
+      "6.4 Rubio Oscuro Cobrizo",
+      "6.45 Rubio Oscuro Cobrizo Caoba",
+      "6.5 Rubio Oscuro Caoba",
+      "6.6 Rubio Oscuro Rojizo",
+      "6.7 Rubio Oscuro Marrón",
+      "6.77 Rubio Oscuro Café",
+      "7 Rubio",
+      "7.1 Rubio Ceniza",
+      "7.13 Rubio Ceniza Dorado",
+      "7.3 Rubio Dorado",
+      "7.34 Rubio Dorado Cobrizo",
+      "7.4 Rubio Cobrizo",
+      "7.43 Rubio Cobrizo Dorado",
+      "7.44 Rubio Cobrizo Intenso",
+      "7.5 Rubio Caoba",
+      "7.6 Rubio Rojizo",
+      "7.7 Rubio Marrón",
+      "7.73 Rubio Tabaco",
+      "8 Rubio Claro",
+      "8.1 Rubio Claro Ceniza",
+      "8.13 Rubio Claro Beis",
+      "8.3 Rubio Claro Dorado",
+      "8.34 Rubio Claro Miel",
+      "8.4 Rubio Claro Cobrizo",
+      "8.7 Rubio Claro Avellana",
+      "9 Rubio Muy Claro",
+      "9.1 Rubio Muy Claro Ceniza",
+      "9.13 Rubio Muy Claro Beis",
+      "9.3 Rubio Muy Claro Dorado",
+      "9.32 Rubio Muy Claro Champán",
+      "9.7 Rubio Muy Claro Vainilla",
+      "10 Rubio Clarísimo",
+      "10.1 Rubio Clarísimo Ceniza",
+      "10.2 Rubio Clarísimo Irisado",
+      "10.3 Rubio Clarísimo Dorado",
+      "12.1 Superaclarante Ceniza",
+      "12.2 Superaclarante Irisado",
+      "0.11 Corrector Azul",
+      "0.22 Corrector Violeta",
+      "0.66 Corrector Rojo",
+  };
+  return shades;
+}
+
+}  // namespace
+
+std::vector<ProductFamily> ColorFamilies() {
+  const std::vector<std::string_view> lines = {"Oliana", "Brisal", "Vermella", "Doravia"};
+  return {
+      {"TIN", "Tinte Permanente", Shades(), lines, {"60 ml"}},
+      {"TSA", "Tinte Sin Amoniaco", Shades(), {"Natura Viva", "Doravia"}, {"60 ml"}},
+      {"BAN", "Baño de Color", Shades(), {"Vermella", "Brisal"}, {"100 ml"}},
+      {"OXI",
+       "Oxigenada en Crema",
+       {"10 Vol.", "20 Vol.", "30 Vol.", "40 Vol."},
+       lines,
+       {"75 ml", "250 ml", "1 L"}},
+      {"DEC", "Polvo Decolorante", {"Azul", "Blanco", "Violeta"}, lines, {"50 g", "500 g"}},
+      {"DGR",
+       "A Granel",
+       {"Decolorante Azul", "Decolorante Blanco", "Henna Natural", "Henna Caoba", "Arcilla Verde"},
+       {},
+       {"(kg)"},
+       true},
+      {"FAN",
+       "Coloración Fantasía",
+       {"Rojo Fuego", "Naranja Mandarina", "Amarillo Limón", "Verde Menta", "Verde Botella", "Azul Turquesa",
+        "Azul Eléctrico", "Añil", "Violeta", "Lila Pastel", "Rosa Chicle", "Rosa Palo", "Plata", "Grafito"},
+       {"Natura Viva", "Brisal"},
+       {"100 ml", "150 ml"}},
+      {"QUI", "Quitamanchas de Tinte", {"Piel Sensible", "Toallitas", "Crema"}, {"Oliana", "Brisal"}, {}},
+      {"REF",
+       "Mascarilla de Reflejos",
+       {"Cobre", "Caoba", "Castaño", "Dorado", "Perla", "Rojo Cereza", "Negro", "Chocolate", "Violeta",
+        "Beis"},
+       {"Oliana", "Natura Viva"},
+       {"200 ml"}},
+  };
+}
+
+}  // namespace orvendal

@@ -1,0 +1,80 @@
+#include "host/sample/products.h"
+
+namespace orvendal {
+
+std::vector<ProductFamily> CosmeticFamilies() {
+  const std::vector<std::string_view> beauty_lines = {"Lumareta", "Nácar", "Vermella"};
+  const std::vector<std::string_view> nail_colors = {
+      "Rojo Pasión",    "Rojo Cereza",    "Rojo Teja",    "Burdeos",       "Rosa Palo",     "Rosa Chicle",
+      "Rosa Francesa",  "Fucsia",         "Coral",        "Melocotón",     "Naranja Otoño", "Amarillo Sol",
+      "Mostaza",        "Verde Menta",    "Verde Bosque", "Verde Oliva",   "Azul Cielo",    "Azul Marino",
+      "Azul Petróleo",  "Añil",           "Lavanda",      "Violeta",       "Ciruela",       "Berenjena",
+      "Marrón Glacé",   "Chocolate",      "Camel",        "Beis Arena",    "Nude",          "Blanco Nieve",
+      "Gris Perla",     "Gris Antracita", "Negro Noche",  "Plata",         "Oro Viejo",     "Cobre",
+      "Purpurina Rosa", "Purpurina Oro",  "Transparente", "Brillo Secante"};
+  const std::vector<std::string_view> lip_colors = {
+      "Rojo Pasión", "Rojo Cereza", "Rojo Teja",       "Burdeos",     "Rosa Palo", "Rosa Francesa",
+      "Fucsia",      "Coral",       "Melocotón",       "Ciruela",     "Nude",      "Camel",
+      "Chocolate",   "Malva",       "Cacao Protector", "Brillo Fresa"};
+  return {
+      {"CRE",
+       "Crema",
+       {"de Manos Avena", "de Manos Caléndula", "de Pies Urea", "Corporal Almendras", "Corporal Aloe Vera",
+        "Facial Día", "Facial Noche", "Facial Antiarrugas", "Facial Piel Sensible", "Contorno de Ojos",
+        "Exfoliante Albaricoque", "Depilatoria Piel Sensible"},
+       beauty_lines,
+       {"50 ml", "100 ml", "300 ml"}},
+      {"LEC",
+       "Leche",
+       {"Limpiadora Pepino", "Limpiadora Rosas", "Corporal Karité", "Solar Factor 30", "Solar Factor 50"},
+       beauty_lines,
+       {"200 ml", "400 ml"}},
+      {"TON", "Tónico Facial", {"Rosas", "Pepino", "Azahar", "Hamamelis"}, beauty_lines, {"200 ml"}},
+      {"ESM", "Esmalte de Uñas", nail_colors, beauty_lines, {"11 ml"}},
+      {"SEM", "Esmalte Semipermanente", nail_colors, {"Nácar", "Lumareta"}, {"8 ml"}},
+      {"UNA",
+       "Uñas",
+       {"Quitaesmalte Sin Acetona", "Quitaesmalte Acetona", "Aceite de Cutículas", "Endurecedor Calcio",
+        "Base Protectora", "Lima Media Luna", "Lima Cristal", "Taco Pulidor", "Cortacutículas",
+        "Palitos de Naranjo"},
+       beauty_lines,
+       {}},
+      {"LAB", "Pintalabios", lip_colors, beauty_lines, {}},
+      {"SOM", "Sombra de Ojos", lip_colors, {"Lumareta"}, {}},
+      {"MAQ",
+       "Base de Maquillaje",
+       {"Marfil", "Porcelana", "Beis Claro", "Beis Medio", "Arena", "Miel", "Bronce", "Canela"},
+       beauty_lines,
+       {"30 ml"}},
+      {"PES",
+       "Máscara de Pestañas",
+       {"Negra Volumen", "Negra Resistente al Agua", "Marrón Longitud", "Azul Noche"},
+       beauty_lines,
+       {"9 ml"}},
+      {"LAP",
+       "Lápiz de Ojos",
+       {"Negro", "Marrón", "Gris", "Azul", "Verde", "Berenjena", "Blanco", "Bronce"},
+       beauty_lines,
+       {}},
+      {"CEJ", "Tinte de Cejas y Pestañas", {"Negro", "Castaño", "Grafito", "Azulado"}, {"Nácar"}, {"15 ml"}},
+      {"DEP",
+       "Cera Depilatoria",
+       {"Miel", "Aloe Vera", "Rosa Mosqueta", "Chocolate", "Azuleno", "Té Verde"},
+       {"Lumareta", "Natura Viva"},
+       {"Cartucho 100 ml", "Lata 800 ml", "Perlas 1 kg", "Disco 500 g"}},
+      {"COL",
+       "Agua de Colonia",
+       {"Lavanda", "Azahar", "Limón Verde", "Infantil", "Romero", "Jazmín"},
+       {},
+       {"100 ml", "500 ml", "1 L"}},
+      {"BAR",
+       "Barba",
+       {"Aceite Cedro", "Aceite Cítrico", "Bálsamo Sándalo", "Champú Menta", "Cera de Bigote",
+        "Loción Para Después del Afeitado", "Espuma de Afeitar", "Jabón de Afeitar"},
+       {"Brisal", "Oliana"},
+       {"50 ml", "100 ml"}},
+      {"SOL", "Autobronceador", {"Espuma", "Loción", "Toallitas", "Gotas"}, beauty_lines, {}},
+  };
+}
+
+}  // namespace orvendal

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "host/script/hands.h"
+#include "host/script/world.h"
+
+namespace orvendal {
+
+/// Paints a loaded form into a PNG file; false if it cannot be written.
+using SavePicture = std::function<bool(Form& form, const std::string& path)>;
+
+/// The commands of a script, on a world of their own.
+class ScriptCommands {
+ public:
+  /// `options` and `output` outlive the object. An empty `save_picture` refuses pictures; `folder` is the
+  /// script's own, empty for none.
+  ScriptCommands(const Options& options, std::ostream& output, SavePicture save_picture,
+                 std::filesystem::path folder);
+
+  /// Runs one line's words; none do nothing. Raises ScriptStop, and what comes out of a dialog that nobody
+  /// answers.
+  void Execute(const std::vector<std::string>& words);
+
+ private:
+  using Words = std::vector<std::string>;  // without the command
+  struct Command {
+    const char* name;
+    const char* usage;
+    std::size_t least;
+    std::size_t most;
+    void (ScriptCommands::*run)(const Words& words);
+  };
+  static const std::vector<Command>& Commands();
+
+  void SetClock(const Words& words);
+  void SetDisplay(const Words& words);
+  void SetBase(const Words& words);
+  void RunSql(const Words& words);
+  void Call(const Words& words);
+  void QueueEmployee(const Words& words);
+  void QueueProduct(const Words& words);
+  void QueueAnswer(const Words& words);
+  void QueuePanel(const Words& words);
+  void QueueSession(const Words& words);
+  void Click(const Words& words);
+  void DoubleClick(const Words& words);
+  void ClickDay(const Words& words);
+  void Type(const Words& words);
+  void Key(const Words& words);
+  void Focus(const Words& words);
+  void Fail(const Words& words);
+  void Show(const Words& words);
+  void Expect(const Words& words);
+  void TakePicture(const Words& words);
+
+  void ClickPlace(const Words& words, ScriptHands::Clicks clicks);
+  void UseHands(const std::function<void(ScriptHands& hands)>& act);
+  std::shared_ptr<FrmOrvendalciales> Screen() const;
+  void CheckNoScreen(const char* command) const;
+  void Print(const std::string& line) { output_ << line << '\n'; }
+  void PrintError(const RuntimeError& error);
+  void PrintLines(const std::string& grid);
+  void PrintMessages();
+  void PrintStatements();
+
+  std::ostream& output_;
+  SavePicture save_picture_;
+  std::filesystem::path folder_;
+  ScriptWorld world_;
+};
+
+}  // namespace orvendal

@@ -1,0 +1,128 @@
+#include "host/script/world.h"
+
+#include "adapters/headless/robot.h"
+#include "host/chosen_store.h"
+#include "host/sample/session.h"
+#include "host/script/parser.h"
+#include "platform/base/text.h"
+
+namespace orvendal {
+namespace {
+
+// Hands in the workstation's panel. Its name is that of the form; Esc closes it.
+void UsePanel(Form& panel, bool reconnect) {
+  Robot hands(panel);
+  if (reconnect) hands.Click(hands.Find("CmdReconectar"));
+  hands.Key(key::kEscape);
+}
+
+void ChooseSession(Form& dialog, const ScriptWorld::SessionChoice& choice) {
+  Robot hands(dialog);
+  auto& branches = dynamic_cast<MSFlexGrid&>(hands.Find("MSFSucursales"));
+  int row = 1;
+  while (row < branches.Rows() && !EqualsIgnoringCase(branches.TextMatrix(row, 0), choice.sucursal)) ++row;
+  if (row == branches.Rows()) throw ScriptStop("no existe la sucursal " + choice.sucursal);
+  hands.ClickCell(branches, row, 0);
+  const auto write = [&hands](const char* box, const std::string& text) {
+    hands.Click(hands.Find(box));
+    hands.Key('A', shift_mask::kControl);
+    hands.Key(key::kDelete);
+    hands.Type(text);
+  };
+  write("TxtPuesto", choice.puesto);
+  write("TxtTurno", choice.turno);
+  hands.Click(hands.Find("CmdAceptar"));
+}
+
+}  // namespace
+
+class ScriptWorld::Messages final : public MessagePresenter {
+ public:
+  explicit Messages(ScriptWorld& world) : world_(world) {}
+  std::int32_t Present(const std::string& text, std::int32_t style, const std::string& title) override {
+    return world_.Dialogs().Present(text, style, title);
+  }
+
+ private:
+  ScriptWorld& world_;
+};
+
+ScriptWorld::ScriptWorld(const Options& options)
+    : host(*options.region, clock),
+      options_(options),
+      messages_(std::make_unique<Messages>(*this)),
+      context_{host,
+               *messages_,
+               WordsOf(options.language),
+               library_recordsets_,
+               nullptr,
+               nullptr,
+               options.store.value_or(kStoreInMemory),
+               options.sucursal,
+               options.puesto,
+               options.turno,
+               options.base_width,
+               options.base_height,
+               0.0,
+               MakeDictionaries(options.language)} {
+  if (options.display) host.SetScreen(options.display->width, options.display->height);
+  library_.OpenOwnDialogs([this](const std::string& operation) { AnswerDialog(operation); });
+}
+
+ScriptWorld::~ScriptWorld() = default;
+
+SqliteConnection& ScriptWorld::Store() {
+  if (!context_.connection) {
+    const ChosenStore chosen = ChooseStore(options_, kStoreInMemory, context_.words);
+    const StoreSettings settings{chosen.path, options_.dialect, *options_.region, context_.words};
+    context_.connection = OpenChosenStore(chosen, settings, clock.Today()).connection;
+    // A store in memory is gone with its connection.
+    context_.reopen_store = [this, settings]() -> ConnectionRef {
+      return settings.path == kStoreInMemory ? context_.connection : OpenExistingStore(settings);
+    };
+  }
+  return EmbeddedStore(context_.connection);
+}
+
+bool ScriptWorld::Call(const std::string& sucursal, const std::string& puesto, const std::string& turno) {
+  Store();
+  context_.sucursal = sucursal;
+  context_.puesto = puesto;
+  context_.turno = turno;
+  ClassOrvendal component(state_);
+  return component.Orvendal(std::make_shared<SampleSession>(context_), sucursal, puesto, turno);
+}
+
+std::shared_ptr<FrmOrvendalciales> ScriptWorld::Screen() const {
+  return state_.form && state_.form->IsLoaded() ? state_.form : nullptr;
+}
+
+// A panel or dialog that nothing was prepared for is closed as it came up, with nothing changed. One that
+// does not come up, because the store fails, takes its answer with it.
+void ScriptWorld::AnswerDialog(const std::string& operation) {
+  std::function<void(Form&)> answer;
+  if (operation == "AccionPuesto") {
+    const bool reconnect = !panel_answers_.empty() && panel_answers_.front();
+    if (!panel_answers_.empty()) panel_answers_.pop_front();
+    answer = [reconnect](Form& panel) { UsePanel(panel, reconnect); };
+  } else {
+    std::optional<SessionChoice> choice;
+    if (!session_answers_.empty()) {
+      choice = session_answers_.front();
+      session_answers_.pop_front();
+    }
+    answer = [choice](Form& dialog) {
+      if (choice) {
+        ChooseSession(dialog, *choice);
+      } else {
+        Robot(dialog).Key(key::kEscape);
+      }
+    };
+  }
+  dialog_answer_ = std::move(answer);
+  if (host.QueuedDialogs() == 0) {
+    host.QueueDialog([this](Form& dialog) { dialog_answer_(dialog); });
+  }
+}
+
+}  // namespace orvendal

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "adapters/headless/headless_host.h"
+#include "component/class_orvendal.h"
+#include "form/frm_orvendalciales.h"
+#include "host/command_line.h"
+#include "host/host_context.h"
+#include "host/library/stand_in_library.h"
+#include "host/script/observed_recordsets.h"
+#include "host/script/scripted_library.h"
+#include "host/store/host_store.h"
+
+namespace orvendal {
+
+/// Everything around the component that a script drives: a host without a display, a clock that stands, the
+/// store, and the stand-in library with its dialogs answered beforehand.
+///
+/// The clock stands at 2026-11-16 10:30:00 at first. The store is opened when it is first needed: the one of
+/// `options`, else a sample chain in memory whose counts end at the clock's day.
+class ScriptWorld {
+ public:
+  /// `options` outlives the object.
+  explicit ScriptWorld(const Options& options);
+  ~ScriptWorld();
+  ScriptWorld(const ScriptWorld&) = delete;
+  ScriptWorld& operator=(const ScriptWorld&) = delete;
+
+  /// Raises StoreUnavailable.
+  SqliteConnection& Store();
+  /// The host calls the component. Raises what the call raises.
+  bool Call(const std::string& sucursal, const std::string& puesto, const std::string& turno);
+  /// The screen, if it is loaded.
+  std::shared_ptr<FrmOrvendalciales> Screen() const;
+
+  /// What the user does in the next panel of F1: opens the store anew, or closes it at once.
+  void QueueWorkstationPanel(bool reconnect) { panel_answers_.push_back(reconnect); }
+  /// What the user chooses in the next change of session of F2; nothing to cancel it.
+  struct SessionChoice {
+    std::string sucursal;
+    std::string puesto;
+    std::string turno;
+  };
+  void QueueSessionChange(std::optional<SessionChoice> choice) {
+    session_answers_.push_back(std::move(choice));
+  }
+
+  const DatosComunes& Session() const { return state_.session; }
+  HostContext& Context() { return context_; }
+  ScriptedLibrary& Dialogs() { return library_; }
+
+  FixedClock clock{Date(2026, 11, 16, 10, 30, 0)};
+  HeadlessHost host;
+  ObservedRecordsetFactory recordsets{std::make_shared<SqliteRecordsetFactory>()};
+
+ private:
+  // What the host has to say by itself is kept with the messages of the screen.
+  class Messages;
+
+  void AnswerDialog(const std::string& operation);
+
+  const Options& options_;
+  std::unique_ptr<Messages> messages_;
+  // Faults are for the screen's statements, not for the library's own.
+  SqliteRecordsetFactory library_recordsets_;
+  HostContext context_;
+  StandInLibrary stand_in_{context_};
+  ScriptedLibrary library_{stand_in_, host};
+  ComponentState state_{Environment{host, recordsets, library_}};
+  std::deque<bool> panel_answers_;
+  std::deque<std::optional<SessionChoice>> session_answers_;
+  std::function<void(Form&)> dialog_answer_;  // of the dialog that is about to come up
+};
+
+}  // namespace orvendal
