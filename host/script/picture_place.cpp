@@ -1,9 +1,9 @@
 #include "host/script/picture_place.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <system_error>
 
+#include "host/script/script_folder.h"
 #include "host/utf8_path.h"
 
 namespace orvendal {
@@ -11,22 +11,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The folder without links; empty if it is not there.
-fs::path Resolved(const fs::path& folder) {
-  std::error_code error;
-  fs::path resolved = fs::canonical(folder, error);
-  return error || !fs::is_directory(resolved, error) ? fs::path() : resolved;
-}
-
 fs::path CurrentFolder() {
   std::error_code error;
   const fs::path folder = fs::current_path(error);
-  return error ? fs::path() : Resolved(folder);
-}
-
-bool LiesIn(const fs::path& folder, const fs::path& outer) {
-  if (outer.empty()) return false;
-  return std::mismatch(outer.begin(), outer.end(), folder.begin(), folder.end()).first == outer.end();
+  return error ? fs::path() : ResolvedFolder(folder);
 }
 
 // Whoever puts a file or a link there at this very moment is not overwritten either.
@@ -46,9 +34,10 @@ PicturePlace::PicturePlace(const std::string& name, const fs::path& script_folde
   if (given.is_relative() && current.empty()) {
     throw NoPlaceForPicture("ya no existe la carpeta actual: no se puede guardar la imagen " + name);
   }
-  const fs::path folder = Resolved(given.is_relative() ? current / given.parent_path() : given.parent_path());
+  const fs::path folder =
+      ResolvedFolder(given.is_relative() ? current / given.parent_path() : given.parent_path());
   if (folder.empty()) throw NoPlaceForPicture("no existe la carpeta de la imagen " + name);
-  if (!LiesIn(folder, current) && (script_folder.empty() || !LiesIn(folder, Resolved(script_folder)))) {
+  if (!LiesIn(folder, current) && (script_folder.empty() || !LiesIn(folder, ResolvedFolder(script_folder)))) {
     throw NoPlaceForPicture("una imagen se guarda dentro de la carpeta del guion o de la actual, y no en " +
                             name);
   }

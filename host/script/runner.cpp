@@ -1,10 +1,12 @@
 #include "host/script/runner.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <new>
 
 #include "host/printed_text.h"
+#include "host/script/included_script.h"
 #include "host/script/parser.h"
 
 namespace orvendal {
@@ -16,16 +18,23 @@ std::string ErrorSentence(const RuntimeError& error) {
   return "error " + std::to_string(error.Number()) + ": " + error.Description();
 }
 
-// A script that is going on, and the line that it has come to.
+constexpr const char* kInclude = "incluir";
+
+// A script that is going on, and those that it is including.
 class Run {
  public:
-  Run(std::istream& script, std::ostream& output, std::ostream& errors)
-      : script_(script), output_(output), errors_(errors) {}
+  // `file` is empty for a script that has none.
+  Run(std::ostream& output, std::ostream& errors, const std::filesystem::path& folder,
+      const std::filesystem::path& file)
+      : output_(output), errors_(errors), folder_(folder) {
+    std::error_code ignored;
+    levels_.push_back({"", std::filesystem::canonical(file, ignored)});
+  }
 
-  int ToTheEnd(const Options& options, const SavePicture& save_picture, const std::filesystem::path& folder) {
+  int ToTheEnd(std::istream& script, const Options& options, const SavePicture& save_picture) {
     try {
-      ScriptCommands commands(options, output_, save_picture, folder);
-      RunLines(commands);
+      ScriptCommands commands(options, output_, save_picture, folder_);
+      RunLines(script, folder_, commands);
       return 0;
     } catch (const ScriptStop& reason) {
       return Stop(reason.what(), reason.ExitCode());
@@ -47,34 +56,65 @@ class Run {
   }
 
  private:
-  void RunLines(ScriptCommands& commands) {
+  struct Level {
+    std::string name;  // as it was included; "" for the script that was started
+    std::filesystem::path file;
+    int number = 0;  // of the line that it has come to
+  };
+
+  void RunLines(std::istream& script, const std::filesystem::path& folder, ScriptCommands& commands) {
     std::string line;
-    while (std::getline(script_, line)) {
-      if (++number_ == 1 && line.starts_with(kByteOrderMark)) line.erase(0, kByteOrderMark.size());
-      commands.Execute(ParseScriptLine(line));
+    while (std::getline(script, line)) {
+      if (++levels_.back().number == 1 && line.starts_with(kByteOrderMark))
+        line.erase(0, kByteOrderMark.size());
+      const std::vector<std::string> words = ParseScriptLine(line);
+      if (!words.empty() && words.front() == kInclude) {
+        Include(words, folder, commands);
+      } else {
+        commands.Execute(words);
+      }
       // A script does not go on changing the store for somebody who does not see it.
       if (!output_.flush()) throw ScriptStop("no se puede escribir lo que muestra el guion");
     }
-    if (script_.bad()) throw ScriptStop("el guion no se puede leer más allá de esta línea");
+    if (script.bad()) throw ScriptStop("el guion no se puede leer más allá de esta línea");
+  }
+
+  void Include(const std::vector<std::string>& words, const std::filesystem::path& folder,
+               ScriptCommands& commands) {
+    if (words.size() != 2) throw ScriptStop("se escribe: incluir FICHERO.guion");
+    const std::string& name = words[1];
+    const std::filesystem::path file = IncludedScript(name, folder, folder_);
+    if (std::any_of(levels_.begin(), levels_.end(), [&](const Level& level) { return level.file == file; })) {
+      throw ScriptStop("un guion no puede incluirse a sí mismo, y " + name + " lo haría");
+    }
+    std::ifstream script(file, std::ios::binary);
+    if (!script.is_open()) throw ScriptStop("no se puede leer el guion " + name);
+    levels_.push_back({name, file});
+    RunLines(script, file.parent_path(), commands);
+    levels_.pop_back();  // after an exception it stays, and says where that came from
   }
 
   int Stop(const std::string& sentence, int exit_code = ScriptStop::kCannotGoOn) {
     output_.flush();
-    errors_ << "línea " << number_ << ": " << PrintedText(sentence) << '\n';
+    for (const Level& level : levels_) {
+      if (!level.name.empty()) errors_ << PrintedText(level.name) << ", ";
+      errors_ << "línea " << level.number << ": ";
+    }
+    errors_ << PrintedText(sentence) << '\n';
     return exit_code;
   }
 
-  std::istream& script_;
   std::ostream& output_;
   std::ostream& errors_;
-  int number_ = 0;
+  const std::filesystem::path& folder_;
+  std::vector<Level> levels_;  // from the script that was started on
 };
 
 }  // namespace
 
 int RunScript(std::istream& script, const Options& options, const SavePicture& save_picture,
               std::ostream& output, std::ostream& errors, const std::filesystem::path& folder) {
-  return Run(script, output, errors).ToTheEnd(options, save_picture, folder);
+  return Run(output, errors, folder, {}).ToTheEnd(script, options, save_picture);
 }
 
 int RunScriptFile(const std::string& path, const Options& options, const SavePicture& save_picture,
@@ -89,7 +129,7 @@ int RunScriptFile(const std::string& path, const Options& options, const SavePic
   }
   const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
   script.clear();  // an empty script has come to its end already
-  return RunScript(script, options, save_picture, output, errors, folder);
+  return Run(output, errors, folder, file).ToTheEnd(script, options, save_picture);
 }
 
 }  // namespace orvendal

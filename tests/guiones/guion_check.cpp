@@ -36,13 +36,12 @@ std::vector<std::string> OptionsIn(const std::string& script) {
   return words;
 }
 
-std::string Show(const std::string& script) {
-  const CommandLine line = ReadCommandLine(OptionsIn(script), Language::kSpanish, {});
+std::string Show(const std::string& script_file) {
+  const CommandLine line = ReadCommandLine(OptionsIn(ReadFile(script_file)), Language::kSpanish, {});
   if (line.exit_code) throw std::runtime_error(line.errors);
-  std::istringstream input(script);
   std::ostringstream output;
   std::ostringstream errors;
-  const int exit_code = RunScript(input, line.options, nullptr, output, errors);
+  const int exit_code = RunScriptFile(script_file, line.options, nullptr, output, errors);
   std::string shown = output.str() + errors.str();
   if (exit_code != 0) shown += "código de salida: " + std::to_string(exit_code) + "\n";
   return shown;
@@ -66,9 +65,8 @@ int Compare(const std::string& expected, const std::string& shown) {
 }
 
 int Check(const std::string& script_file, const std::string& expected_file, bool write) {
-  const std::string script = ReadFile(script_file);
-  const std::string shown = Show(script);
-  if (Show(script) != shown) {
+  const std::string shown = Show(script_file);
+  if (Show(script_file) != shown) {
     std::cerr << "the second run shows something else\n";
     return 1;
   }
