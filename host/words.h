@@ -61,13 +61,19 @@ struct Words {
   std::string_view store_damaged;
   std::string_view store_read_only;
   std::string_view store_refused;
-  std::string_view store_foreign;   // %2 is the table that it lacks
-  std::string_view store_other;     // %2 is what the engine says
-  std::string_view store_newer;     // %2 is its version, %3 the one that this program knows
-  std::string_view store_older;     // %2 is its version, %3 as above, %4 what it lacks, %5 how that is added
-  std::string_view store_lacks;     // %2 is what it lacks, %3 how that is added
-  std::string_view store_no_table;  // %2 is a name that is no table's
-  std::string_view store_no_date;   // %2 is the field that is not declared as a date
+  std::string_view store_foreign;          // %2 is the table that it lacks
+  std::string_view store_other;            // %2 is what the engine says
+  std::string_view store_newer;            // %2 is its version, %3 the one that this program knows
+  std::string_view store_version_unknown;  // %2 is its version, %3 as above
+  std::string_view store_older;      // %2 is its version, %3 as above, %4 what it lacks, %5 how that is added
+  std::string_view store_lacks;      // %2 is what it lacks, %3 how that is added
+  std::string_view store_no_table;   // %2 is a name that is no table's
+  std::string_view store_no_date;    // %2 is the field that is not declared as a date
+  std::string_view store_no_text;    // %2 is the field that is not declared as a text
+  std::string_view store_no_number;  // %2 is the field that is not declared as a number with decimals
+  std::string_view store_narrow_field;  // %2 is a field, %3 the characters that it takes, %4 those it needs
+  std::string_view store_generated_field;  // %2 is a field that is calculated
+  std::string_view store_own_rule;         // %2 is a table, %3 the rule as SQL names it
   std::string_view store_demanding_field;  // %2 is a field that demands a value
 
   // Why the store ends what is being done; %1 is its file.

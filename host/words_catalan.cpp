@@ -49,6 +49,10 @@ const Words& CatalanWords() {
       .store_newer =
           "La base de dades %1 és d’una versió més nova (%2) que la que coneix aquest programa (%3). "
           "Actualitzeu el programa; no s’ha canviat res.",
+      .store_version_unknown =
+          "La base de dades %1 diu que és de la versió %2, que no existeix (aquest programa coneix la %3). "
+          "No "
+          "s’ha canviat res; trieu una altra base de dades.",
       .store_older =
           "La base de dades %1 és d’una versió anterior (%2; aquest programa necessita la %3): li falta %4. "
           "No s’ha canviat res. Per posar-la al dia, feu-ne una còpia i executeu-hi: %5",
@@ -60,6 +64,22 @@ const Words& CatalanWords() {
       .store_no_date =
           "A la base de dades %1, el camp %2 no està declarat com a data (DATETIME). No s’ha canviat res; "
           "corregiu la taula o trieu una altra base de dades.",
+      .store_no_text =
+          "A la base de dades %1, el camp %2 no està declarat com a text (VARCHAR), i un codi com 007 no "
+          "s’hi "
+          "desa tal com és. No s’ha canviat res; corregiu la taula o trieu una altra base de dades.",
+      .store_no_number =
+          "A la base de dades %1, el camp %2 no està declarat com a nombre amb decimals (NUMERIC). No s’ha "
+          "canviat res; corregiu la taula o trieu una altra base de dades.",
+      .store_narrow_field =
+          "A la base de dades %1, el camp %2 admet menys caràcters (%3) dels que s’hi desen (%4). No s’ha "
+          "canviat res; eixampleu-lo o trieu una altra base de dades.",
+      .store_generated_field =
+          "A la base de dades %1, el camp %2 és calculat (GENERATED), cosa que no pot ser en una taula on es "
+          "desa. No s’ha canviat res; corregiu la taula o trieu una altra base de dades.",
+      .store_own_rule =
+          "A la base de dades %1, la taula %2 té una regla pròpia que pot aturar un desament quan el dia ja "
+          "està esborrat: %3. No s’ha canviat res; traieu-la o trieu una altra base de dades.",
       .store_demanding_field =
           "A la base de dades %1, el camp %2 exigeix un valor que aquest programa no coneix. No s’ha canviat "
           "res; doneu-li un valor per defecte o permeteu que quedi buit.",

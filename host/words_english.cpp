@@ -49,6 +49,9 @@ const Words& EnglishWords() {
       .store_newer =
           "The database %1 is of a newer version (%2) than this program knows (%3). Update the program; "
           "nothing has been changed.",
+      .store_version_unknown =
+          "The database %1 says that it is of version %2, which does not exist (this program knows %3). "
+          "Nothing has been changed; choose another database.",
       .store_older =
           "The database %1 is of an older version (%2; this program needs %3): it lacks %4. Nothing has been "
           "changed. To bring it up to date, make a copy and run in it: %5",
@@ -60,6 +63,23 @@ const Words& EnglishWords() {
       .store_no_date =
           "In the database %1, the field %2 is not declared as a date (DATETIME). Nothing has been changed; "
           "correct the table or choose another database.",
+      .store_no_text =
+          "In the database %1, the field %2 is not declared as a text (VARCHAR), and a code such as 007 "
+          "would "
+          "not stay as it is. Nothing has been changed; correct the table or choose another database.",
+      .store_no_number =
+          "In the database %1, the field %2 is not declared as a number with decimals (NUMERIC). Nothing has "
+          "been changed; correct the table or choose another database.",
+      .store_narrow_field =
+          "In the database %1, the field %2 takes fewer characters (%3) than are saved in it (%4). Nothing "
+          "has "
+          "been changed; widen it or choose another database.",
+      .store_generated_field =
+          "In the database %1, the field %2 is calculated (GENERATED), which cannot be in a table that is "
+          "written. Nothing has been changed; correct the table or choose another database.",
+      .store_own_rule =
+          "In the database %1, the table %2 has a rule of its own that can stop a save when the day has been "
+          "deleted already: %3. Nothing has been changed; remove it or choose another database.",
       .store_demanding_field =
           "In the database %1, the field %2 demands a value that this program does not know. Nothing has "
           "been changed; give it a default value or let it stay empty.",

@@ -49,6 +49,10 @@ const Words& SpanishWords() {
       .store_newer =
           "La base de datos %1 es de una versión más nueva (%2) que la que conoce este programa (%3). "
           "Actualice el programa; no se ha cambiado nada.",
+      .store_version_unknown =
+          "La base de datos %1 dice ser de la versión %2, que no existe (este programa conoce la %3). No se "
+          "ha "
+          "cambiado nada; elija otra base de datos.",
       .store_older =
           "La base de datos %1 es de una versión anterior (%2; este programa necesita la %3): le falta %4. "
           "No se ha cambiado nada. Para ponerla al día, haga una copia y ejecute en ella: %5",
@@ -60,6 +64,25 @@ const Words& SpanishWords() {
       .store_no_date =
           "En la base de datos %1, el campo %2 no está declarado como fecha (DATETIME). No se ha cambiado "
           "nada; corrija la tabla o elija otra base de datos.",
+      .store_no_text =
+          "En la base de datos %1, el campo %2 no está declarado como texto (VARCHAR), y un código como 007 "
+          "no "
+          "cabe en él tal cual. No se ha cambiado nada; corrija la tabla o elija otra base de datos.",
+      .store_no_number =
+          "En la base de datos %1, el campo %2 no está declarado como número con decimales (NUMERIC). No se "
+          "ha "
+          "cambiado nada; corrija la tabla o elija otra base de datos.",
+      .store_narrow_field =
+          "En la base de datos %1, el campo %2 admite menos caracteres (%3) de los que se guardan en él "
+          "(%4). "
+          "No se ha cambiado nada; ensánchelo o elija otra base de datos.",
+      .store_generated_field =
+          "En la base de datos %1, el campo %2 es calculado (GENERATED), lo que no puede ser en una tabla en "
+          "la que se guarda. No se ha cambiado nada; corrija la tabla o elija otra base de datos.",
+      .store_own_rule =
+          "En la base de datos %1, la tabla %2 tiene una regla propia que puede detener un guardado cuando "
+          "el "
+          "día ya está borrado: %3. No se ha cambiado nada; quítela o elija otra base de datos.",
       .store_demanding_field =
           "En la base de datos %1, el campo %2 exige un valor que este programa no conoce. No se ha cambiado "
           "nada; dele un valor por defecto o permita que quede vacío.",

@@ -29,4 +29,8 @@ void AdoConnection::CheckNumber(const std::string& text) const {
   }
 }
 
+void AdoConnection::Close() {
+  ado::Ask([&] { return object_->Close(); });
+}
+
 }  // namespace orvendal

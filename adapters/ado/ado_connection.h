@@ -17,6 +17,7 @@ class AdoConnection final : public Connection {
 
   std::string Provider() const override;
   void CheckNumber(const std::string& text) const override;
+  void Close() override;
   /// Borrowed.
   IDispatch* Object() const { return object_.Get(); }
 

@@ -56,7 +56,7 @@ class SqliteConnection final : public Connection {
   const std::string& Path() const { return path_; }
 
   bool IsOpen() const { return database_ != nullptr; }
-  void Close();
+  void Close() override;
   /// How long to wait for another program that holds the store, 2,000 milliseconds at first.
   void BusyTimeout(int milliseconds);
   /// How long a statement may run, 30,000 milliseconds at first; 0 for without end.

@@ -9,8 +9,9 @@ namespace orvendal::sqlite {
 namespace {
 
 constexpr std::size_t kMostIdle = 16;
-// Steps of the engine's machine from one look at the clock to the next: about a millisecond.
-constexpr int kStepsBetweenLooks = 10000;
+// Steps of the engine's machine from one look at the clock to the next: some microseconds, or the time of a
+// few dozen calls of functions, each of which may take a second at worst.
+constexpr int kStepsBetweenLooks = 250;
 
 }  // namespace
 

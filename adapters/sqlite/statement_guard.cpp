@@ -11,7 +11,10 @@
 namespace orvendal::sqlite {
 namespace {
 
-constexpr int kLongestValue = 64 * 1024 * 1024;  // bytes; no field of a store comes near it
+// In bytes. No field of a store comes near it, but for a picture that somebody else keeps there.
+constexpr int kLongestValue = 4 * 1024 * 1024;
+// In bytes, of the engine's own LIKE and GLOB, whose work is the pattern's length times the text's.
+constexpr int kLongestEnginePattern = 100;
 
 // They tell what there is.
 constexpr std::array<std::string_view, 18> kTelling = {
@@ -22,8 +25,9 @@ constexpr std::array<std::string_view, 18> kTelling = {
 constexpr std::array<std::string_view, 10> kTellingOf = {
     "foreign_key_check", "foreign_key_list", "index_info", "index_list", "index_xinfo",
     "integrity_check",   "quick_check",      "table_info", "table_list", "table_xinfo"};
-// Functions that give the engine code to run.
-constexpr std::array<std::string_view, 2> kFunctions = {"fts3_tokenizer", "load_extension"};
+// Functions that give the engine code to run, and those whose one call may take hours.
+constexpr std::array<std::string_view, 4> kFunctions = {"fts3_tokenizer", "load_extension", "json_patch",
+                                                        "unhex"};
 
 template <std::size_t Count>
 bool Has(const std::array<std::string_view, Count>& names, const char* name) {
@@ -48,6 +52,9 @@ StatementGuard::StatementGuard(sqlite3* database) : database_(database) {
   sqlite3_db_config(database_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   sqlite3_limit(database_, SQLITE_LIMIT_ATTACHED, 0);
   sqlite3_limit(database_, SQLITE_LIMIT_LENGTH, kLongestValue);
+  sqlite3_limit(database_, SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kLongestEnginePattern);
+  // A foreign key would stop a save half way; the screen sees to its codes itself.
+  sqlite3_db_config(database_, SQLITE_DBCONFIG_ENABLE_FKEY, 0, nullptr);
   // What a statement sorts or keeps for itself goes into no file.
   sqlite3_exec(database_, "PRAGMA temp_store = MEMORY", nullptr, nullptr, nullptr);
   sqlite3_set_authorizer(database_, Decide, this);

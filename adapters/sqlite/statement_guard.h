@@ -7,8 +7,9 @@ namespace orvendal::sqlite {
 /// What the statements of one connection may do. Codes typed on the screen are pasted into statements,
 /// scripts bring their own, and the file may come from anywhere: so the engine refuses what reaches beyond
 /// the tables of the file, with an error of the statement. Refused are other files (ATTACH, VACUUM,
-/// extensions), virtual tables, pointers given to the engine, and every pragma but those that only tell
-/// something. The host's own statements may use any pragma.
+/// extensions), virtual tables, pointers given to the engine, values and patterns so long that a single call
+/// of a function would hold up the program, and every pragma but those that only tell something. The host's
+/// own statements may use any pragma. Foreign keys are not enforced.
 ///
 /// Invariant: watches its connection from its making until LetGo or its end.
 class StatementGuard {

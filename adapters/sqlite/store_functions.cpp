@@ -2,12 +2,14 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 
+#include "adapters/sqlite/bounded_functions.h"
 #include "adapters/sqlite/stored_date.h"
 #include "adapters/sqlite/text_folding.h"
 #include "adapters/sqlite/text_pattern.h"
@@ -31,15 +33,21 @@ void Answer(sqlite3_context* context, const std::string& text) {
 
 // Whether `text` matches the pattern in the second argument, which is parsed once for each run of a
 // statement.
-bool MatchesPattern(sqlite3_context* context, sqlite3_value** arguments, std::string_view text) {
-  if (const auto* kept = static_cast<const TextPattern*>(sqlite3_get_auxdata(context, 1))) {
-    return kept->Matches(text);
+void AnswerMatch(sqlite3_context* context, sqlite3_value** arguments, std::string_view text) {
+  const std::size_t pattern_size = Text(arguments[1]).size();
+  // A set of characters may be longer than the text.
+  if (TakesTooLong(std::max(text.size(), pattern_size), std::min(text.size(), pattern_size))) {
+    return sqlite3_result_error_toobig(context);
   }
-  auto pattern = std::make_unique<TextPattern>(Text(arguments[1]));
-  const bool matches = pattern->Matches(text);
-  sqlite3_set_auxdata(context, 1, pattern.release(),
-                      [](void* old) { delete static_cast<TextPattern*>(old); });
-  return matches;
+  const auto* pattern = static_cast<const TextPattern*>(sqlite3_get_auxdata(context, 1));
+  std::unique_ptr<TextPattern> parsed;
+  if (pattern == nullptr) {
+    parsed = std::make_unique<TextPattern>(Text(arguments[1]));
+    pattern = parsed.get();
+  }
+  sqlite3_result_int(context, pattern->Matches(text) ? 1 : 0);
+  if (!parsed) return;
+  sqlite3_set_auxdata(context, 1, parsed.release(), [](void* old) { delete static_cast<TextPattern*>(old); });
 }
 
 std::optional<Date> DateIn(sqlite3_value* value) {
@@ -54,7 +62,7 @@ void TextEqualsFunction(sqlite3_context* context, int, sqlite3_value** arguments
 
 void TextLikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (IsNull(arguments[0]) || IsNull(arguments[1])) return;
-  sqlite3_result_int(context, MatchesPattern(context, arguments, Text(arguments[0])) ? 1 : 0);
+  AnswerMatch(context, arguments, Text(arguments[0]));
 }
 
 void RangeLowFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -85,7 +93,7 @@ void RegionDateLikeFunction(sqlite3_context* context, int, sqlite3_value** argum
   const auto* region = static_cast<const Region*>(sqlite3_user_data(context));
   const std::optional<Date> date = DateIn(arguments[0]);
   const std::string text = date ? region->ToText(*date) : std::string(Text(arguments[0]));
-  sqlite3_result_int(context, MatchesPattern(context, arguments, text) ? 1 : 0);
+  AnswerMatch(context, arguments, text);
 }
 
 // How the server writes a date where it needs a text and is told no style: "Nov 16 2026 12:00AM".
@@ -103,7 +111,7 @@ void ServerDateLikeFunction(sqlite3_context* context, int, sqlite3_value** argum
   if (IsNull(arguments[0]) || IsNull(arguments[1])) return;
   const std::optional<Date> date = DateIn(arguments[0]);
   const std::string text = date ? ServerText(*date) : std::string(Text(arguments[0]));
-  sqlite3_result_int(context, MatchesPattern(context, arguments, text) ? 1 : 0);
+  AnswerMatch(context, arguments, text);
 }
 
 }  // namespace
@@ -116,6 +124,7 @@ void RegisterFunctions(sqlite3* database, const Region& region) {
     sqlite3_create_function_v2(database, name, arguments, kFlags, const_cast<Region*>(&region), call, nullptr,
                                nullptr, nullptr);
   };
+  RegisterBoundedFunctions(database);
   give(function::kTextEquals, 2, TextEqualsFunction);
   give(function::kTextLike, 2, TextLikeFunction);
   give(function::kRangeLow, 1, RangeLowFunction);

@@ -89,10 +89,10 @@ void WorkstationForm::ShowValues(std::string_view state) {
 
 // A save would delete the day and then fail: nothing more is read or written there until it is opened again.
 void WorkstationForm::GiveUpStore() {
-  if (auto* const embedded = dynamic_cast<SqliteConnection*>(store_.get())) {
-    embedded->Close();
-  } else {
-    store_ = nullptr;
+  try {
+    if (store_) store_->Close();
+  } catch (const RuntimeError&) {
+    store_ = nullptr;  // it would stay open
   }
   context_.connection = store_;
   TxtProveedor.Text("");

@@ -5,82 +5,105 @@
 #include <vector>
 
 #include "adapters/sqlite/column_type.h"
+#include "host/store/sample_mark.h"
 #include "host/store/schema.h"
+#include "host/store/store_table.h"
+#include "platform/base/runtime_error.h"
 #include "platform/base/text.h"
 
 namespace orvendal {
 namespace {
 
 using sqlite::ColumnKind;
+using sqlite::ColumnType;
 using sqlite::ColumnTypeOf;
-
-struct FieldOfTable {
-  std::string name;
-  std::string type;
-  bool demands_value = false;
-};
-
-struct Table {
-  std::string name;
-  std::string definition;
-  std::vector<FieldOfTable> fields;
-};
 
 // In this order they are told.
 constexpr std::array kScreenTables = {"Sucursales",  "Empleados",    "Productos",
                                       "Referencias", "ProdSucStock", "HistOrvendalcial"};
 // Made when it is first written, so that it may be missing.
 constexpr const char* kJournal = kJournalTable;
-constexpr std::array kWrittenTables = {"ProdSucStock", "HistOrvendalcial", kJournal};
+
+// A table that is written to.
+struct Written {
+  const char* table;
+  std::vector<std::string> row_key;  // no two rows of ours are equal in these fields
+};
+const std::array<Written, 3>& WrittenTables() {
+  static const std::array<Written, 3> tables = {Written{"ProdSucStock", {"IdSucursal", "IdProducto"}},
+                                                {"HistOrvendalcial", {"IdSucursal", "Fecha", "IdProducto"}},
+                                                {kJournal, {}}};
+  return tables;
+}
+
+// Null for a table that is only read.
+const Written* WritingOf(const std::string& table) {
+  const auto& tables = WrittenTables();
+  const auto found = std::find_if(tables.begin(), tables.end(), [&table](const Written& each) {
+    return EqualsIgnoringCase(each.table, table);
+  });
+  return found == tables.end() ? nullptr : &*found;
+}
 
 // The branch of an employee is the host's own field, which only sorts the picker's list.
 bool MayBeMissing(const std::string& table, const std::string& field) {
   return table == "Empleados" && field == "IdSucursal";
 }
 
-bool IsWritten(const std::string& table) {
-  return std::any_of(kWrittenTables.begin(), kWrittenTables.end(),
-                     [&table](const char* each) { return EqualsIgnoringCase(each, table); });
+// Where the codes come from that a field takes.
+struct Source {
+  const char* field;
+  const char* table;
+  const char* source_field;
+};
+constexpr std::array kSources = {Source{"IdProducto", "Productos", "Codigo"},
+                                 Source{"IdEmpleado", "Empleados", "Codigo"}};
+
+// Whether a text stays a text in a field declared so, by the engine's own rules: as a number "007" is 7.
+bool KeepsTexts(const std::string& type) {
+  std::string declared = type;
+  for (char& c : declared) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  }
+  const auto has = [&declared](const char* word) { return declared.find(word) != std::string::npos; };
+  return declared.empty() || (!has("INT") && (has("CHAR") || has("TEXT") || has("CLOB")));
 }
 
-std::vector<FieldOfTable> FieldsOf(SqliteConnection& store, const std::string& table) {
-  SqliteStatement fields(
-      store,
-      "SELECT name, type, \"notnull\" AND dflt_value IS NULL AND hidden = 0 AND NOT (pk = 1 "
-      "AND upper(type) = 'INTEGER') FROM pragma_table_xinfo(?1) WHERE hidden = 0");
-  fields.Bind(1, table);
-  std::vector<FieldOfTable> found;
-  while (fields.Step()) found.push_back({fields.TextAt(0), fields.TextAt(1), fields.TextAt(2) == "1"});
-  return found;
+// Whether a field of type `present` takes what one of type `needed` does.
+bool TakesTheKind(const std::string& needed, const std::string& present) {
+  const ColumnType found = ColumnTypeOf(present.c_str());
+  switch (ColumnTypeOf(needed.c_str()).kind) {
+    case ColumnKind::kText:
+      return (found.kind == ColumnKind::kText || present.empty()) && KeepsTexts(present);
+    case ColumnKind::kNumber:
+      return found.kind == ColumnKind::kNumber && !found.whole_numbers;
+    case ColumnKind::kDate:
+      return found.kind == ColumnKind::kDate;
+    case ColumnKind::kUntyped:
+      break;
+  }
+  return true;
 }
 
-enum class Kind { kNothing, kTable, kOther };
+// Characters that a field takes; 0 for no limit.
+std::size_t WidthOf(const StoreField& field) {
+  const ColumnType type = ColumnTypeOf(field.type.c_str());
+  return type.kind == ColumnKind::kText ? type.length : 0;
+}
 
-// A view, and a table that the engine only makes believe, have no place in the file.
-Kind KindOf(SqliteConnection& store, const std::string& name, std::string& definition) {
-  SqliteStatement look(
-      store,
-      "SELECT type = 'table' AND rootpage > 0, sql FROM sqlite_master WHERE type IN ('table', "
-      "'view') AND name = ?1 COLLATE NOCASE");
-  if (!look.Bind(1, name).Step()) return Kind::kNothing;
-  definition = look.TextAt(1);
-  return look.TextAt(0) == "1" ? Kind::kTable : Kind::kOther;
+bool DemandsValue(const StoreField& field) {
+  return field.may_not_be_null && field.default_value.empty() && !field.generated && !field.row_number;
 }
 
 // What the screen and its journal need, from a store that has it all.
-std::vector<Table> TablesNeeded() {
+std::vector<StoreTable> TablesNeeded() {
   const auto model =
       SqliteConnection::Open(":memory:", Dialect::kSqlServer, Region::Spanish(), OpenMode::kCreate);
   CreateSchema(*model);
   model->Execute(JournalDefinition());
-  std::vector<Table> tables;
-  const auto add = [&](const char* name) {
-    Table table{name, {}, FieldsOf(*model, name)};
-    KindOf(*model, name, table.definition);
-    tables.push_back(std::move(table));
-  };
-  for (const char* name : kScreenTables) add(name);
-  add(kJournal);
+  std::vector<StoreTable> tables;
+  for (const char* name : kScreenTables) tables.push_back(ReadTable(*model, name));
+  tables.push_back(ReadTable(*model, kJournal));
   return tables;
 }
 
@@ -104,11 +127,11 @@ struct Lack {
   std::string names;
   std::string remedy;
 
-  void AddTable(const Table& table) {
+  void AddTable(const StoreTable& table) {
     Append(names, table.name, ", ");
     Append(remedy, Flat(table.definition), "; ");
   }
-  void AddField(const Table& table, const FieldOfTable& field) {
+  void AddField(const StoreTable& table, const StoreField& field) {
     Append(names, table.name + "." + field.name, ", ");
     const bool is_text = ColumnTypeOf(field.type.c_str()).kind == ColumnKind::kText;
     Append(remedy,
@@ -126,8 +149,11 @@ class Examination {
   std::string Run() {
     const int version = Version();
     const std::string known = std::to_string(kSchemaVersion);
+    if (version < 0) return Fill(words_.store_version_unknown, {name_, std::to_string(version), known});
     if (version > kSchemaVersion) return Fill(words_.store_newer, {name_, std::to_string(version), known});
-    for (const Table& table : TablesNeeded()) Examine(table);
+    for (const StoreTable& table : TablesNeeded()) Examine(table);
+    const std::string mark(kSampleMark);
+    if (WhatIs(store_, mark) == StoreName::kOther) Tell(no_table_, words_.store_no_table, mark);
     if (!no_table_.empty()) return no_table_;
     if (tables_present_ == 0) {
       return Fill(words_.store_foreign, {name_, kScreenTables.front()});
@@ -145,50 +171,90 @@ class Examination {
   }
 
   // The first one is told.
-  void Tell(std::string& trouble, std::string_view sentence, const std::string& what) const {
-    if (trouble.empty()) trouble = Fill(sentence, {name_, what});
+  void Tell(std::string& trouble, std::string_view sentence, const std::string& what,
+            const std::string& more = {}, const std::string& last = {}) const {
+    if (trouble.empty()) trouble = Fill(sentence, {name_, what, more, last});
   }
 
-  void Examine(const Table& needed) {
-    std::string ignored;
-    switch (KindOf(store_, needed.name, ignored)) {
-      case Kind::kNothing:
+  void Examine(const StoreTable& needed) {
+    switch (WhatIs(store_, needed.name)) {
+      case StoreName::kNothing:
         if (needed.name != kJournal) lack_.AddTable(needed);
         return;
-      case Kind::kOther:
+      case StoreName::kOther:
         Tell(no_table_, words_.store_no_table, needed.name);
         return;
-      case Kind::kTable:
+      case StoreName::kTable:
         break;
     }
     if (needed.name != kJournal) ++tables_present_;
-    const std::vector<FieldOfTable> present = FieldsOf(store_, needed.name);
-    const auto find = [](const std::vector<FieldOfTable>& fields, const FieldOfTable& wanted) {
-      return std::find_if(fields.begin(), fields.end(), [&wanted](const FieldOfTable& field) {
-        return EqualsIgnoringCase(field.name, wanted.name);
-      });
-    };
-    for (const FieldOfTable& field : needed.fields) {
-      const auto found = find(present, field);
-      if (found == present.end()) {
+    const StoreTable present = ReadTable(store_, needed.name);
+    const Written* const written = WritingOf(needed.name);
+    for (const StoreField& field : needed.fields) {
+      const StoreField* const found = present.Find(field.name);
+      if (found == nullptr) {
         if (!MayBeMissing(needed.name, field.name)) lack_.AddField(needed, field);
-      } else if (ColumnTypeOf(field.type.c_str()).kind == ColumnKind::kDate &&
-                 ColumnTypeOf(found->type.c_str()).kind != ColumnKind::kDate) {
-        Tell(trouble_, words_.store_no_date, needed.name + "." + field.name);
+        continue;
+      }
+      ExamineKind(needed.name, field, *found);
+      if (written != nullptr) ExamineWidth(needed.name, field, *found);
+    }
+    read_.push_back(present);
+    if (written != nullptr) ExamineWritten(*written, needed, present);
+  }
+
+  void ExamineKind(const std::string& table, const StoreField& needed, const StoreField& present) {
+    if (TakesTheKind(needed.type, present.type)) return;
+    const ColumnKind kind = ColumnTypeOf(needed.type.c_str()).kind;
+    const std::string_view sentence = kind == ColumnKind::kDate   ? words_.store_no_date
+                                      : kind == ColumnKind::kText ? words_.store_no_text
+                                                                  : words_.store_no_number;
+    Tell(trouble_, sentence, table + "." + needed.name);
+  }
+
+  // The width of the sample schema, and that of the codes themselves where these are declared wider.
+  void ExamineWidth(const std::string& table, const StoreField& needed, const StoreField& present) {
+    const std::size_t width = WidthOf(present);
+    if (width == 0) return;
+    const std::size_t least = WidthOf(needed);
+    const std::string name = table + "." + needed.name;
+    const auto told = [](std::size_t characters) {
+      return characters == 0 ? std::string("∞") : std::to_string(characters);
+    };
+    if (least == 0 || width < least) {
+      Tell(trouble_, words_.store_narrow_field, name, told(width), told(least));
+    }
+    for (const Source& source : kSources) {
+      if (!EqualsIgnoringCase(source.field, needed.name)) continue;
+      const auto from = std::find_if(read_.begin(), read_.end(), [&source](const StoreTable& each) {
+        return EqualsIgnoringCase(each.name, source.table);
+      });
+      const StoreField* const code = from == read_.end() ? nullptr : from->Find(source.source_field);
+      if (code != nullptr && WidthOf(*code) > width) {
+        Tell(trouble_, words_.store_narrow_field, name, told(width), told(WidthOf(*code)));
       }
     }
-    for (const FieldOfTable& field : present) {
-      const bool is_extra = find(needed.fields, field) == needed.fields.end();
-      if (is_extra && field.demands_value && IsWritten(needed.name)) {
-        Tell(trouble_, words_.store_demanding_field, needed.name + "." + field.name);
+  }
+
+  void ExamineWritten(const Written& writing, const StoreTable& needed, const StoreTable& present) {
+    std::vector<std::string> names;
+    for (const StoreField& field : needed.fields) names.push_back(field.name);
+    for (const StoreField& field : present.fields) {
+      const std::string name = needed.name + "." + field.name;
+      if (field.generated) Tell(trouble_, words_.store_generated_field, name);
+      if (needed.Find(field.name) == nullptr && DemandsValue(field)) {
+        Tell(trouble_, words_.store_demanding_field, name);
       }
     }
+    const std::string rule = OwnRuleOf(store_, present, names, writing.row_key);
+    if (!rule.empty()) Tell(trouble_, words_.store_own_rule, needed.name, rule);
   }
 
   SqliteConnection& store_;
   const std::string& name_;
   const Words& words_;
   int tables_present_ = 0;
+  std::vector<StoreTable> read_;
   std::string no_table_;
   std::string trouble_;
   Lack lack_;

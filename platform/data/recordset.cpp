@@ -8,6 +8,8 @@ namespace orvendal {
 
 void Connection::CheckNumber(const std::string& /*text*/) const {}
 
+void Connection::Close() {}
+
 Value Field::Value() const {
   orvendal::Value value = recordset_->FieldValue(index_);
   if (value.IsNumber() && !std::isfinite(value.Number())) throw RuntimeError(error_number::kOverflow);

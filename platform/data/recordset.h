@@ -26,6 +26,9 @@ class Connection {
   /// Raises what the assignment of `text` to a number field of this store raises, if it cannot be a number.
   /// A store that cannot tell beforehand takes every text here.
   virtual void CheckNumber(const std::string& text) const;
+  /// Ends the link for everybody who holds it: recordsets opened on it afterwards raise 3709. Raises what the
+  /// store objects to, an open transaction for one.
+  virtual void Close();
 };
 
 using ConnectionRef = std::shared_ptr<Connection>;

@@ -2,9 +2,11 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 
+#include "adapters/sqlite/store_functions.h"
 #include "tests/adapters/sqlite/store_fixture.h"
 
 namespace orvendal::store_testing {
@@ -224,6 +226,93 @@ TEST_F(HarmlessStore, TheTimeOfAStatementIsItsOwn) {
               while (endless.Step()) SqliteStatement(*store, "SELECT 1").Step();
             }),
             ado_error::kTimeout);
+}
+
+// One call of a function is not interrupted, so that none may take long.
+TEST_F(HarmlessStore, ASingleCallOfAFunctionEndsSoon) {
+  OpenSample();
+  const std::string long_text = "printf('%.*c', 3000000, 'a')";
+  const std::string half = "(printf('%.*c', 1500000, 'a') || 'b')";
+  for (const std::string& call :
+       {std::string("instr(zeroblob(60000000), zeroblob(30000000))"),
+        std::string("instr(zeroblob(3000000), zeroblob(1500000) || x'01')"),
+        "instr(" + long_text + ", " + half + ")", "length(replace(" + long_text + ", " + half + ", ''))",
+        long_text + " LIKE '%' || printf('%.*c', 40000, 'a') || 'b'",
+        long_text + " GLOB '*' || printf('%.*c', 40000, 'a') || 'b'",
+        std::string(sqlite::function::kTextLike) + "(" + long_text + ", '%' || " + half + ")",
+        std::string("length(json_patch('{}', '{}'))")}) {
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_NE(ErrorOfScript("SELECT " + call), 0) << call;
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10)) << call;
+  }
+  EXPECT_EQ(Told("SELECT length(trim(" + long_text + ", printf('%.*c', 3000000, 'b') || 'a'))"), "0");
+  EXPECT_EQ(Told("SELECT COUNT(*) FROM Productos"), "0");
+}
+
+TEST_F(HarmlessStore, FunctionsThatTakeTimeAreInterruptedBetweenTheirCalls) {
+  OpenSample();
+  store->CommandTimeout(50);
+  const auto start = std::chrono::steady_clock::now();
+  EXPECT_EQ(ErrorOfScript(std::string(kEndless) +
+                          "SELECT SUM(instr(printf('%.*c', 400000, 'a'), printf('%.*c', 490, 'a') || 'b')) "
+                          "FROM n"),
+            ado_error::kTimeout);
+  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+}
+
+TEST_F(HarmlessStore, SearchingReplacingAndTrimmingAnswerAsTheEngineDoes) {
+  OpenSample();
+  sqlite3* plain = nullptr;
+  ASSERT_EQ(sqlite3_open(":memory:", &plain), SQLITE_OK);
+  const Texts values = {"NULL",
+                        "''",
+                        "'a'",
+                        "'ña'",
+                        "'añb'",
+                        "'  a ñ '",
+                        "'aañaa'",
+                        "'ñ'",
+                        "x'c3b161'",
+                        "x'b1'",
+                        "12",
+                        "1.5",
+                        "'1'",
+                        "' '",
+                        "x''",
+                        "x'00'",
+                        "'a' || char(0) || 'b'"};
+  std::vector<std::string> calls;
+  for (const std::string& first : values) {
+    for (const std::string& second : values) {
+      for (const char* name : {"instr", "trim", "ltrim", "rtrim"}) {
+        calls.push_back(std::string(name) + "(" + first + ", " + second + ")");
+      }
+      for (const std::string& third : values) {
+        calls.push_back("replace(" + first + ", " + second + ", " + third + ")");
+      }
+    }
+  }
+  for (const std::string& call : calls) {
+    const std::string sql = "SELECT quote(CAST(" + call + " AS BLOB))";
+    sqlite3_stmt* statement = nullptr;
+    ASSERT_EQ(sqlite3_prepare_v2(plain, sql.c_str(), -1, &statement, nullptr), SQLITE_OK) << sql;
+    ASSERT_EQ(sqlite3_step(statement), SQLITE_ROW) << sql;
+    EXPECT_EQ(Told(sql), reinterpret_cast<const char*>(sqlite3_column_text(statement, 0))) << call;
+    sqlite3_finalize(statement);
+  }
+  sqlite3_close(plain);
+}
+
+TEST_F(HarmlessStore, AMegabytePastedIntoACodeIsACodeThatIsNotThere) {
+  OpenSample();
+  store->Execute("INSERT INTO Productos VALUES ('P1', 'Gel')");
+  const std::string pasted(1 << 20, 'x');
+  const std::string products = "SELECT Productos.Codigo FROM Productos WHERE Productos.";
+  for (const std::string& sql : {CodeExistsStatement(pasted), products + "Codigo Like '" + pasted + "%'",
+                                 products + "Descripcion Like '" + pasted + "%'"}) {
+    EXPECT_EQ(ErrorOfScreen(sql), 0);
+  }
+  EXPECT_EQ(Told("SELECT COUNT(*) FROM Productos"), "1");
 }
 
 }  // namespace

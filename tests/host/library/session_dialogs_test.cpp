@@ -134,6 +134,33 @@ TEST_F(WorkstationPanel, AStoreThatNoLongerFitsIsRefusedAndNothingMoreIsWrittenT
   EXPECT_FALSE(opened->IsOpen());
 }
 
+TEST_F(WorkstationPanel, AStoreOfAnotherProviderThatNoLongerFitsIsClosedAndNotOnlyDropped) {
+  class Elsewhere final : public Connection {
+   public:
+    std::string Provider() const override { return "SQLOLEDB.1"; }
+    void Close() override {
+      if (refuses) throw RuntimeError(3246);
+      ++closed;
+    }
+    int closed = 0;
+    bool refuses = false;
+  };
+  const auto elsewhere = std::make_shared<Elsewhere>();
+  context.reopen_store = []() -> ConnectionRef { throw StoreDoesNotFit("Le falta un campo."); };
+  for (const bool refuses : {false, true}) {
+    elsewhere->refuses = refuses;
+    connection = context.connection = elsewhere;
+    Open([this](Form& form) {
+      Reconnect(form);
+      Close(form);
+    });
+    EXPECT_EQ(elsewhere->closed, 1);
+    // One that cannot be closed is let go of, so that nothing more is written there.
+    EXPECT_EQ(connection, refuses ? ConnectionRef() : elsewhere);
+    EXPECT_EQ(context.connection, connection);
+  }
+}
+
 TEST_F(WorkstationPanel, ComesUpAlsoWhenTheStoreDoesNotAnswer) {
   store->Execute("DROP TABLE Sucursales");
   Open([](Form& form) {
