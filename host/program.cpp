@@ -141,7 +141,7 @@ class Program {
   QtHostOptions HostOptions() const {
     QtHostOptions host;
     if (options_.display) host.display = QSize(options_.display->width, options_.display->height);
-    host.application_title = QApplication::applicationDisplayName();
+    host.application_title = QApplication::applicationDisplayName().toStdString();
     host.captions = CaptionsOf(words_);
     host.edit_captions = EditCaptionsOf(words_);
     host.describe_error = [this](const RuntimeError& error) {

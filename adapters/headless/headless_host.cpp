@@ -101,16 +101,35 @@ std::unique_ptr<FormWindow> HeadlessHost::CreateFormWindow(Form& form) {
 }
 
 HeadlessWindow* HeadlessHost::WindowOf(const Form& form) const {
-  const auto found = windows_.find(&form);
-  return found == windows_.end() ? nullptr : found->second;
+  return static_cast<HeadlessWindow*>(CommonHost::WindowOf(form));
 }
 
-void HeadlessHost::RunModal(Form& form) {
-  if (dialogs_.empty()) throw UnansweredDialog("no answer is queued for the dialog " + form.Name());
-  const std::function<void(Form&)> answer = std::move(dialogs_.front());
-  dialogs_.pop_front();
-  answer(form);
-  if (form.Visible()) throw UnansweredDialog("the answer left the dialog " + form.Name() + " open");
+class HeadlessHost::QueuedAnswer final : public ModalLoop {
+ public:
+  QueuedAnswer(HeadlessHost& host, const CommonWindow& window) : ModalLoop(window), host_(host) {}
+
+  void Run(Form& form) override {
+    std::deque<std::function<void(Form&)>>& dialogs = host_.dialogs_;
+    if (dialogs.empty()) throw UnansweredDialog("no answer is queued for the dialog " + form.Name());
+    const std::function<void(Form&)> answer = std::move(dialogs.front());
+    dialogs.pop_front();
+    answer(form);
+    if (form.Visible()) throw UnansweredDialog("the answer left the dialog " + form.Name() + " open");
+  }
+
+ protected:
+  void End(ModalLoop*) override {}
+
+ private:
+  HeadlessHost& host_;
+};
+
+std::unique_ptr<CommonHost::ModalLoop> HeadlessHost::MakeModalLoop(const CommonWindow& window) {
+  return std::make_unique<QueuedAnswer>(*this, window);
+}
+
+int HeadlessHost::RunMessageBox(const std::string& text, int, const std::string&) {
+  throw UnansweredDialog("no answer is queued for the message " + text);
 }
 
 void HeadlessHost::DoEvents() {
@@ -121,12 +140,12 @@ void HeadlessHost::DoEvents() {
   }
 }
 
-void HeadlessHost::TimerChanged(Timer& timer, bool alive) {
-  if (alive && timer.Enabled() && timer.Interval() > 0) {
-    timers_.try_emplace(&timer, 0);
-  } else {
-    timers_.erase(&timer);
-  }
+void HeadlessHost::StartTimer(Timer& timer, int) {
+  timers_[&timer] = 0;
+}
+
+void HeadlessHost::StopTimer(Timer& timer) {
+  timers_.erase(&timer);
 }
 
 void HeadlessHost::PassTime(int milliseconds) {
@@ -145,17 +164,13 @@ void HeadlessHost::PassTime(int milliseconds) {
   }
 }
 
-void HeadlessHost::ReportError(const RuntimeError& error) {
+void HeadlessHost::TellError(const RuntimeError& error) {
   if (OnReport) OnReport(error);
   errors_.push_back(error);
 }
 
-HeadlessWindow::HeadlessWindow(HeadlessHost& host, Form& form) : host_(host), form_(form) {
-  host_.windows_[&form_] = this;
-}
-
-HeadlessWindow::~HeadlessWindow() {
-  host_.windows_.erase(&form_);
+void HeadlessHost::Log(const char*, const char*) {
+  throw;
 }
 
 }  // namespace orvendal

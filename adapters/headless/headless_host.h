@@ -9,8 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "platform/forms/common_host.h"
+#include "platform/forms/common_window.h"
 #include "platform/forms/form.h"
-#include "platform/forms/window_host.h"
 
 namespace orvendal {
 
@@ -36,7 +37,7 @@ class HeadlessWindow;
 /// A whole system without a display: nothing is shown, texts measure the same on every machine (a whole
 /// number of pixels high, as on a desktop), dialogs are answered by functions queued beforehand, timers run
 /// when told to.
-class HeadlessHost final : public WindowHost {
+class HeadlessHost final : public CommonHost {
  public:
   HeadlessHost(const Region& region, Clock& clock) : region_(region), clock_(clock) {}
 
@@ -71,7 +72,7 @@ class HeadlessHost final : public WindowHost {
   const std::vector<RuntimeError>& ReportedErrors() const { return errors_; }
   void ForgetErrors() { errors_.clear(); }
   int Beeps() const { return beeps_; }
-  /// Calls when an error is reported, before it is kept.
+  /// Called when an error is reported, before it is kept.
   std::function<void(const RuntimeError&)> OnReport;
   /// The window of a loaded form; nullptr without one.
   HeadlessWindow* WindowOf(const Form& form) const;
@@ -85,19 +86,26 @@ class HeadlessHost final : public WindowHost {
   double LineHeight(const FontSpec& font) override;
   Rect TextInk(const FontSpec& font, std::string_view text) override;
   std::unique_ptr<FormWindow> CreateFormWindow(Form& form) override;
-  void RunModal(Form& form) override;
   void DoEvents() override;
-  void TimerChanged(Timer& timer, bool alive) override;
   void Beep() override { ++beeps_; }
   std::string ClipboardText() override { return clipboard_; }
   void ClipboardText(const std::string& text) override { clipboard_ = text; }
   std::string SelectedText() override { return selected_; }
   void SelectedText(const std::string& text) override { selected_ = text; }
   std::optional<EditCommand> RunEditMenu(Form& form, Point place, const EditMenu& menu) override;
-  void ReportError(const RuntimeError& error) override;
+
+ protected:
+  std::unique_ptr<ModalLoop> MakeModalLoop(const CommonWindow& window) override;
+  /// Nobody is ever prepared for one.
+  int RunMessageBox(const std::string& text, int style, const std::string& title) override;
+  void StartTimer(Timer& timer, int milliseconds) override;
+  void StopTimer(Timer& timer) override;
+  void TellError(const RuntimeError& error) override;
+  /// There is no log to look into: what went wrong comes out where it did.
+  void Log(const char* what_ended, const char* how) override;
 
  private:
-  friend class HeadlessWindow;
+  class QueuedAnswer;
   const Region& region_;
   Clock& clock_;
   double screen_width_ = 15360;
@@ -108,7 +116,6 @@ class HeadlessHost final : public WindowHost {
   std::deque<std::function<void()>> events_;
   std::map<Timer*, int> timers_;  // milliseconds since each fired last
   std::vector<RuntimeError> errors_;
-  std::map<const Form*, HeadlessWindow*> windows_;
   std::string clipboard_;
   std::string selected_;
   TextMeasures* measures_ = nullptr;
@@ -116,10 +123,9 @@ class HeadlessHost final : public WindowHost {
 };
 
 /// What became of a form's window, for those who look.
-class HeadlessWindow final : public FormWindow {
+class HeadlessWindow final : public CommonWindow {
  public:
-  HeadlessWindow(HeadlessHost& host, Form& form);
-  ~HeadlessWindow() override;
+  using CommonWindow::CommonWindow;
 
   bool IsShown() const { return shown_; }
   int TimesRaised() const { return raised_; }
@@ -139,8 +145,6 @@ class HeadlessWindow final : public FormWindow {
   void Caret(const std::optional<Rect>& caret) override { caret_ = caret; }
 
  private:
-  HeadlessHost& host_;
-  Form& form_;
   bool shown_ = false;
   int raised_ = 0;
   int painted_ = 0;

@@ -87,7 +87,7 @@ void QtFormWidget::paintEvent(QPaintEvent* event) {
     return;
   }
   RequestLeftOvers(region);
-  host_.GuardPainting([&] { PaintForm(painter, region); });
+  host_.GuardQuietly("Painting", [&] { PaintForm(painter, region); });
 }
 
 // What the form waits for is asked for by RequestPaint already; should a part of it lie outside this event,

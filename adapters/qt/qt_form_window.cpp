@@ -10,9 +10,6 @@
 namespace orvendal {
 namespace {
 
-constexpr int kCenterOnOwner = 1;
-constexpr int kCenterOnScreen = 2;
-
 int PixelsOf(double twips) {
   return qRound(twips / kTwipsPerPixel);
 }
@@ -20,14 +17,12 @@ int PixelsOf(double twips) {
 }  // namespace
 
 QtFormWindow::QtFormWindow(QtWindowHost& host, Form& form)
-    : host_(host), form_(form), widget_(new QtFormWidget(host, form)) {
-  host_.windows_.push_back(this);
+    : CommonWindow(host, form), host_(host), form_(form), widget_(new QtFormWidget(host, form)) {
   CaptionChanged();
 }
 
 QtFormWindow::~QtFormWindow() {
   widget_->Detach();
-  host_.WindowGone(*this);
 }
 
 QWidget& QtFormWindow::Widget() const {
@@ -43,7 +38,7 @@ QPoint QtFormWindow::PlaceOnScreen(Point twips) const {
 }
 
 bool QtFormWindow::SimulatesDisplay() const {
-  return host_.options_.display.has_value() && !IsFramed() && !modal_;
+  return host_.display_.has_value() && !IsFramed() && !modal_;
 }
 
 QRect QtFormWindow::FormPixels() const {
@@ -66,36 +61,35 @@ void QtFormWindow::PrepareFlags() {
   widget_->setWindowModality(modal_ ? Qt::ApplicationModal : Qt::NonModal);
 }
 
-QPoint QtFormWindow::FirstPlace(const QSize& size) const {
-  const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-  QRect around = screen;
-  if (form_.StartUpPosition() == kCenterOnOwner && owner_ != nullptr) around = owner_->geometry();
-  QPoint place = around.center() - QPoint(size.width() / 2, size.height() / 2);
+QPoint QtFormWindow::PlaceAtFirst(const QSize& size) const {
+  const auto rect_of = [](const QRect& rect) {
+    return Rect{static_cast<double>(rect.left()), static_cast<double>(rect.top()),
+                static_cast<double>(rect.width()), static_cast<double>(rect.height())};
+  };
+  const auto size_of = [](const QSize& pixels) {
+    return Size{static_cast<double>(pixels.width()), static_cast<double>(pixels.height())};
+  };
   // The place is that of the frame's corner, and the whole frame has to be seen.
-  const QMargins frame = IsFramed() ? host_.FrameMargins() : QMargins();
-  const QSize whole = size.grownBy(frame);
-  place.setX(qBound(screen.left(), place.x(), std::max(screen.left(), screen.right() + 1 - whole.width())));
-  place.setY(qBound(screen.top(), place.y(), std::max(screen.top(), screen.bottom() + 1 - whole.height())));
-  return place;
+  const QSize whole = size.grownBy(IsFramed() ? host_.FrameMargins() : QMargins());
+  const Point place = FirstPlace(size_of(size), size_of(whole),
+                                 rect_of(QGuiApplication::primaryScreen()->availableGeometry()),
+                                 owner_ != nullptr ? rect_of(owner_->geometry()) : Rect{});
+  return {static_cast<int>(place.x), static_cast<int>(place.y)};
 }
 
 void QtFormWindow::ApplyBounds() {
   const QRect pixels = FormPixels();
   if (SimulatesDisplay()) {
-    widget_->setFixedSize(*host_.options_.display);
+    widget_->setFixedSize(*host_.display_);
     widget_->Origin({pixels.x() * kTwipsPerPixel, pixels.y() * kTwipsPerPixel});
     return;
   }
   widget_->setFixedSize(pixels.size());
-  if (!IsFramed()) {
-    const bool centered =
-        form_.StartUpPosition() == kCenterOnOwner || form_.StartUpPosition() == kCenterOnScreen;
-    if (!centered || form_.WindowState() == WindowState::kMaximized) {
-      widget_->move(QGuiApplication::primaryScreen()->geometry().topLeft() + pixels.topLeft());
-      return;
-    }
+  if (!IsPlacedOnce()) {
+    widget_->move(QGuiApplication::primaryScreen()->geometry().topLeft() + pixels.topLeft());
+    return;
   }
-  if (!placed_) widget_->move(FirstPlace(pixels.size()));
+  if (!placed_) widget_->move(PlaceAtFirst(pixels.size()));
   placed_ = placed_ || widget_->isVisible();
 }
 
@@ -136,9 +130,9 @@ void QtFormWindow::Show() {
 }
 
 void QtFormWindow::Hide() {
+  host_.EndModal(*this);
   widget_->hide();
   placed_ = false;
-  host_.WindowHidden(*this);
 }
 
 void QtFormWindow::Raise() {
@@ -153,8 +147,7 @@ void QtFormWindow::BoundsChanged() {
 }
 
 void QtFormWindow::CaptionChanged() {
-  const QString caption = QString::fromStdString(form_.Caption());
-  widget_->setWindowTitle(caption.isEmpty() ? host_.options_.application_title : caption);
+  widget_->setWindowTitle(QString::fromStdString(Title()));
 }
 
 void QtFormWindow::StateChanged(WindowState /*state*/) {

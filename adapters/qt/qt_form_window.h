@@ -4,8 +4,8 @@
 #include <QRect>
 #include <QWidget>
 
+#include "platform/forms/common_window.h"
 #include "platform/forms/form.h"
-#include "platform/forms/window_host.h"
 
 namespace orvendal {
 
@@ -18,12 +18,11 @@ class QtWindowHost;
 /// panels and docks too. With a simulated display the form that is not modal stands in a plain framed window
 /// as large as that display, at its place on it. A form with a border has the system's frame around its size.
 /// Nobody but the form changes the size.
-class QtFormWindow final : public FormWindow {
+class QtFormWindow final : public CommonWindow {
  public:
   QtFormWindow(QtWindowHost& host, Form& form);
   ~QtFormWindow() override;
 
-  Form& TheForm() const { return form_; }
   QWidget& Widget() const;
   /// The window in front of which a modal one was shown.
   QWidget* Owner() const { return owner_; }
@@ -44,7 +43,6 @@ class QtFormWindow final : public FormWindow {
   void Caret(const std::optional<Rect>& caret) override;
 
  private:
-  bool IsFramed() const { return form_.BorderStyle() != 0; }
   bool SimulatesDisplay() const;
   /// The form's place on the display, in logical pixels.
   QRect FormPixels() const;
@@ -54,7 +52,7 @@ class QtFormWindow final : public FormWindow {
   void Apply();
   void ApplyBounds();
   void ApplyState();
-  QPoint FirstPlace(const QSize& size) const;
+  QPoint PlaceAtFirst(const QSize& size) const;
 
   QtWindowHost& host_;
   Form& form_;

@@ -8,7 +8,6 @@
 #include <QWidget>
 #include <QWindow>
 #include <algorithm>
-#include <exception>
 #include <utility>
 
 #include "adapters/qt/qt_form_window.h"
@@ -19,8 +18,8 @@
 namespace orvendal {
 namespace {
 
-QString FromUtf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+QWidget& WidgetOfWindow(const CommonWindow& window) {
+  return static_cast<const QtFormWindow&>(window).Widget();
 }
 
 // On a display without a window manager the keyboard belongs to nobody after a dialog.
@@ -31,8 +30,16 @@ void GiveKeyboardTo(QWidget* window) {
 
 }  // namespace
 
-QtWindowHost::QtWindowHost(const Region& region, Clock& clock, QtHostOptions options)
-    : region_(region), clock_(clock), options_(std::move(options)), measures_(fonts_), timers_(*this) {
+QtWindowHost::QtWindowHost(const Region& region, Clock& clock, const QtHostOptions& options)
+    : CommonHost(options),
+      region_(region),
+      clock_(clock),
+      display_(options.display),
+      captions_(options.captions),
+      edit_captions_(options.edit_captions),
+      on_last_window_gone_(options.on_last_window_gone),
+      measures_(fonts_),
+      timers_(*this) {
   if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(ProgramIcon());
 }
 
@@ -41,7 +48,7 @@ QtWindowHost::~QtWindowHost() = default;
 // Screen and fonts.
 
 QSize QtWindowHost::DisplaySize() const {
-  return options_.display ? *options_.display : QGuiApplication::primaryScreen()->geometry().size();
+  return display_ ? *display_ : QGuiApplication::primaryScreen()->geometry().size();
 }
 
 double QtWindowHost::ScreenWidth() {
@@ -54,9 +61,10 @@ double QtWindowHost::ScreenHeight() {
 
 QMargins QtWindowHost::FrameMargins() const {
   constexpr QMargins kUsual(8, 40, 8, 8);
-  for (const QtFormWindow* window : windows_) {
-    const QWindow* handle = window->Widget().windowHandle();
-    if (handle != nullptr && window->Widget().isVisible() && !handle->frameMargins().isNull()) {
+  for (const CommonWindow* window : Windows()) {
+    const QWidget& widget = WidgetOfWindow(*window);
+    const QWindow* handle = widget.windowHandle();
+    if (handle != nullptr && widget.isVisible() && !handle->frameMargins().isNull()) {
       return handle->frameMargins();
     }
   }
@@ -76,9 +84,7 @@ std::unique_ptr<FormWindow> QtWindowHost::CreateFormWindow(Form& form) {
 }
 
 QtFormWindow* QtWindowHost::WindowOf(const Form& form) const {
-  const auto found = std::find_if(windows_.begin(), windows_.end(),
-                                  [&](const QtFormWindow* window) { return &window->TheForm() == &form; });
-  return found == windows_.end() ? nullptr : *found;
+  return static_cast<QtFormWindow*>(CommonHost::WindowOf(form));
 }
 
 QWidget* QtWindowHost::WidgetOf(const Form& form) const {
@@ -89,45 +95,47 @@ QWidget* QtWindowHost::WidgetOf(const Form& form) const {
 QWidget* QtWindowHost::FrontWindow() const {
   if (QWidget* modal = QApplication::activeModalWidget()) return modal;
   if (QWidget* active = QApplication::activeWindow()) return active;
-  for (auto window = windows_.rbegin(); window != windows_.rend(); ++window) {
-    if ((*window)->Widget().isVisible()) return &(*window)->Widget();
+  for (auto window = Windows().rbegin(); window != Windows().rend(); ++window) {
+    if (WidgetOfWindow(**window).isVisible()) return &WidgetOfWindow(**window);
   }
   return nullptr;
 }
 
 bool QtWindowHost::ShowsModal(const Form& form) const {
   if (!TakesInput(form)) return false;
-  return std::any_of(windows_.begin(), windows_.end(), [&](const QtFormWindow* window) {
-    return window->Widget().isVisible() && !TakesInput(window->TheForm());
+  return std::any_of(Windows().begin(), Windows().end(), [&](const CommonWindow* window) {
+    return WidgetOfWindow(*window).isVisible() && !TakesInput(window->TheForm());
   });
 }
 
-void QtWindowHost::RunModal(Form& form) {
-  const QtFormWindow* window = WindowOf(form);
-  if (window == nullptr || !form.Visible()) return;
-  const QPointer<QWidget> owner = window->Owner();
-  QEventLoop loop;
-  modal_loops_.push_back({window, &loop});
-  loop.exec(QEventLoop::DialogExec);
-  modal_loops_.pop_back();
-  GiveKeyboardTo(owner);
-  DialogOver();
-}
+class QtWindowHost::EventLoop final : public ModalLoop {
+ public:
+  explicit EventLoop(const CommonWindow& window)
+      : ModalLoop(window), owner_(static_cast<const QtFormWindow&>(window).Owner()) {}
 
-void QtWindowHost::WindowHidden(const QtFormWindow& window) {
-  for (const ModalLoop& modal : modal_loops_) {
-    if (modal.window == &window) modal.loop->quit();
+  void Run(Form&) override {
+    loop_.exec(QEventLoop::DialogExec);
+    GiveKeyboardTo(owner_);
   }
+
+ protected:
+  void End(ModalLoop*) override { loop_.quit(); }
+
+ private:
+  const QPointer<QWidget> owner_;
+  QEventLoop loop_;
+};
+
+std::unique_ptr<CommonHost::ModalLoop> QtWindowHost::MakeModalLoop(const CommonWindow& window) {
+  return std::make_unique<EventLoop>(window);
 }
 
-void QtWindowHost::WindowGone(const QtFormWindow& window) {
-  WindowHidden(window);
-  windows_.erase(std::remove(windows_.begin(), windows_.end(), &window), windows_.end());
-  if (!windows_.empty() || !options_.on_last_window_gone) return;
+void QtWindowHost::LastWindowGone() {
+  if (!on_last_window_gone_) return;
   QMetaObject::invokeMethod(
       &timers_,
       [this] {
-        if (windows_.empty()) options_.on_last_window_gone();
+        if (!HasWindows()) on_last_window_gone_();
       },
       Qt::QueuedConnection);
 }
@@ -135,8 +143,8 @@ void QtWindowHost::WindowGone(const QtFormWindow& window) {
 bool QtWindowHost::AskToClose(IfDialogIsUp dialog) {
   if (asking_to_close_) return false;  // the question stays
   std::vector<std::weak_ptr<Object>> open;
-  for (const QtFormWindow* window : windows_) open.push_back(window->TheForm().weak_from_this());
-  const bool dialog_is_up = std::any_of(windows_.begin(), windows_.end(), [&](const QtFormWindow* window) {
+  for (const CommonWindow* window : Windows()) open.push_back(window->TheForm().weak_from_this());
+  const bool dialog_is_up = std::any_of(Windows().begin(), Windows().end(), [&](const CommonWindow* window) {
     return !TakesInput(window->TheForm());
   });
   if (dialog_is_up) {
@@ -154,7 +162,7 @@ bool QtWindowHost::AskToClose(IfDialogIsUp dialog) {
     Guard([&] { form->CloseRequest(); });
   }
   asking_to_close_ = false;
-  return windows_.empty();
+  return !HasWindows();
 }
 
 void QtWindowHost::DialogOver() {
@@ -168,11 +176,6 @@ void QtWindowHost::DoEvents() {
 }
 
 // Timers.
-
-void QtWindowHost::TimerChanged(Timer& timer, bool alive) {
-  timers_.Remove(timer);
-  if (alive && timer.Enabled() && timer.Interval() > 0) timers_.Set(timer, timer.Interval());
-}
 
 void QtWindowHost::Timers::Set(Timer& timer, int milliseconds) {
   identifiers_[&timer] = startTimer(milliseconds);
@@ -223,69 +226,28 @@ std::optional<EditCommand> QtWindowHost::RunEditMenu(Form& form, Point place, co
   const QtFormWindow* window = WindowOf(form);
   if (window == nullptr) return std::nullopt;
   const auto chosen =
-      orvendal::RunEditMenu(&window->Widget(), window->PlaceOnScreen(place), menu, options_.edit_captions);
+      orvendal::RunEditMenu(&window->Widget(), window->PlaceOnScreen(place), menu, edit_captions_);
   DialogOver();
   return chosen;
 }
 
 // Messages and errors.
 
-int QtWindowHost::RunBox(const QString& text, int style, const QString& title) {
-  const ModalScope scope(*this);
+int QtWindowHost::RunMessageBox(const std::string& text, int style, const std::string& title) {
   const QPointer<QWidget> owner = FrontWindow();
-  const int answer = RunMessageBox(owner, text, style, title.isEmpty() ? options_.application_title : title,
-                                   options_.captions, Keys(), [this] { Beep(); });
+  const int answer =
+      orvendal::RunMessageBox(owner, QString::fromStdString(text), style, QString::fromStdString(title),
+                              captions_, Keys(), [this] { Beep(); });
   GiveKeyboardTo(owner);
-  DialogOver();
   return answer;
 }
 
-int QtWindowHost::ShowMessage(std::string_view text, int style, std::string_view title) {
-  return RunBox(FromUtf8(text), style, FromUtf8(title));
+std::string QtWindowHost::ErrorText(std::int32_t number, const std::string& description) const {
+  return captions_.error.arg(QString::number(number), QString::fromStdString(description)).toStdString();
 }
 
-void QtWindowHost::ReportError(const RuntimeError& error) {
-  if (options_.on_error) {
-    options_.on_error(error);
-    return;
-  }
-  errors_to_report_.push_back(error);
-  if (reporting_) return;
-  reporting_ = true;
-  while (!errors_to_report_.empty()) {
-    const RuntimeError next = errors_to_report_.front();
-    errors_to_report_.pop_front();
-    const std::string description =
-        options_.describe_error ? options_.describe_error(next) : next.Description();
-    const QString text =
-        options_.captions.error.arg(QString::number(next.Number()), QString::fromStdString(description));
-    RunBox(text, message_style::kStop, QString());
-  }
-  reporting_ = false;
-}
-
-void QtWindowHost::Guard(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    ReportError(error);
-  } catch (const std::exception& error) {
-    qCritical("An event ended with: %s", error.what());
-    ReportError(RuntimeError(error_number::kInternal, error.what()));
-  } catch (...) {
-    qCritical("An event ended with an unknown exception");
-    ReportError(RuntimeError(error_number::kInternal));
-  }
-}
-
-void QtWindowHost::GuardPainting(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const std::exception& error) {
-    qCritical("Painting ended with: %s", error.what());
-  } catch (...) {
-    qCritical("Painting ended with an unknown exception");
-  }
+void QtWindowHost::Log(const char* what_ended, const char* how) {
+  qCritical("%s ended with: %s", what_ended, how);
 }
 
 }  // namespace orvendal

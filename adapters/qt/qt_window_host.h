@@ -5,48 +5,38 @@
 #include <QPointer>
 #include <QSize>
 #include <QString>
-#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
+#include <string>
 #include <string_view>
-#include <vector>
 
 #include "adapters/qt/qt_edit_menu.h"
 #include "adapters/qt/qt_fonts.h"
 #include "adapters/qt/qt_message_box.h"
 #include "adapters/qt/qt_text_measures.h"
-#include "platform/forms/window_host.h"
-
-class QEventLoop;
+#include "platform/forms/common_host.h"
 
 namespace orvendal {
 
 class QtFormWindow;
 
-struct QtHostOptions {
+struct QtHostOptions : CommonHostOptions {
   /// A display in logical pixels that is to be played in a window; the real display without it.
   std::optional<QSize> display;
-  /// Title of windows and message boxes that have none.
-  QString application_title;
   QtCaptions captions;
   QtEditCaptions edit_captions;
-  /// The description of an error as the message box is to tell it; the error's own without it.
-  std::function<std::string(const RuntimeError&)> describe_error;
-  /// Told of errors in place of the message box.
-  std::function<void(const RuntimeError&)> on_error;
   /// The last form's window is gone and no other has come by the next turn of the event loop.
   std::function<void()> on_last_window_gone;
 };
 
 /// A desktop through Qt. A QApplication lives around it, and everything runs on its thread.
 ///
-/// Invariants: `windows_` holds the windows of the loaded forms in order of making; no exception leaves an
-/// event of theirs.
-class QtWindowHost : public WindowHost {
+/// Invariant: no exception leaves an event of a window.
+class QtWindowHost : public CommonHost {
  public:
   /// Region and clock outlive the host.
-  QtWindowHost(const Region& region, Clock& clock, QtHostOptions options = {});
+  QtWindowHost(const Region& region, Clock& clock, const QtHostOptions& options = {});
   ~QtWindowHost() override;
 
   const Region& UserRegion() override { return region_; }
@@ -60,28 +50,20 @@ class QtWindowHost : public WindowHost {
   double LineHeight(const FontSpec& font) override { return measures_.LineHeight(font); }
   Rect TextInk(const FontSpec& font, std::string_view text) override { return measures_.TextInk(font, text); }
   std::unique_ptr<FormWindow> CreateFormWindow(Form& form) override;
-  void RunModal(Form& form) override;
   void DoEvents() override;
-  void TimerChanged(Timer& timer, bool alive) override;
   void Beep() override;
   std::string ClipboardText() override;
   void ClipboardText(const std::string& text) override;
   std::string SelectedText() override;
   void SelectedText(const std::string& text) override;
   std::optional<EditCommand> RunEditMenu(Form& form, Point place, const EditMenu& menu) override;
-  /// A message box with number and description. An error that comes while it is up waits for its turn.
-  void ReportError(const RuntimeError& error) override;
-
-  /// A message box of the user's; see message_style and message_answer. An empty title is the application's.
-  int ShowMessage(std::string_view text, int style, std::string_view title);
 
   /// What the buttons of message boxes say from now on.
-  void Captions(const QtCaptions& captions) { options_.captions = captions; }
+  void Captions(const QtCaptions& captions) { captions_ = captions; }
   QtFonts& Fonts() { return fonts_; }
   /// What a frame of the system's takes around a window, in logical pixels: as it was seen around one, or
   /// what most window managers take at most.
   QMargins FrameMargins() const;
-  bool HasWindows() const { return !windows_.empty(); }
   enum class IfDialogIsUp { kWait, kRefuse };
   /// Asks each window that is no dialog to close, as its close button does; a minimised one comes back first,
   /// so that its question is seen. True if none is left open. A dialog that is up stays: then nothing is
@@ -90,17 +72,19 @@ class QtWindowHost : public WindowHost {
   /// The widget of a loaded form; nullptr without one.
   QWidget* WidgetOf(const Form& form) const;
 
-  /// Runs `action` and reports what it throws.
-  void Guard(const std::function<void()>& action);
-  /// The same for painting, where no dialog can come up: the error goes to the log.
-  void GuardPainting(const std::function<void()>& action);
+ protected:
+  std::unique_ptr<ModalLoop> MakeModalLoop(const CommonWindow& window) override;
+  int RunMessageBox(const std::string& text, int style, const std::string& title) override;
+  void StartTimer(Timer& timer, int milliseconds) override { timers_.Set(timer, milliseconds); }
+  void StopTimer(Timer& timer) override { timers_.Remove(timer); }
+  void Log(const char* what_ended, const char* how) override;
+  std::string ErrorText(std::int32_t number, const std::string& description) const override;
+  void DialogOver() override;
+  void LastWindowGone() override;
 
  private:
   friend class QtFormWindow;
-  struct ModalLoop {
-    const QtFormWindow* window;
-    QEventLoop* loop;
-  };
+  class EventLoop;
   // Timers by their Qt identifier. Stopping one inside its own event is safe.
   class Timers final : public QObject {
    public:
@@ -122,21 +106,16 @@ class QtWindowHost : public WindowHost {
   QWidget* FrontWindow() const;
   /// Whether a form that is about to be shown shuts others out.
   bool ShowsModal(const Form& form) const;
-  void WindowHidden(const QtFormWindow& window);
-  void WindowGone(const QtFormWindow& window);
-  int RunBox(const QString& text, int style, const QString& title);
-  void DialogOver();
 
   const Region& region_;
   Clock& clock_;
-  QtHostOptions options_;
+  std::optional<QSize> display_;
+  QtCaptions captions_;
+  QtEditCaptions edit_captions_;
+  std::function<void()> on_last_window_gone_;
   QtFonts fonts_;
   QtTextMeasures measures_;
   Timers timers_;
-  std::vector<QtFormWindow*> windows_;
-  std::vector<ModalLoop> modal_loops_;
-  std::deque<RuntimeError> errors_to_report_;
-  bool reporting_ = false;
   bool asking_to_close_ = false;
   bool close_when_dialogs_are_over_ = false;
 };

@@ -58,7 +58,7 @@ LRESULT CALLBACK Win32FormWindow::Procedure(HWND window, UINT message, WPARAM wp
   Form& form = link->window->form_;
   Win32WindowHost& host = link->window->host_;
   std::optional<LRESULT> result;
-  host.GuardQuietly([&] {
+  host.GuardQuietly("A message", [&] {
     const ObjectRef keep = form.shared_from_this();
     result = link->window->Handle(message, wparam, lparam);
     if (link->window != nullptr) link->window->events_.Announce(form, link->window->window_);
@@ -218,7 +218,7 @@ void Win32FormWindow::PaintWindow() {
 void Win32FormWindow::PaintPart(HDC dc, const RECT& part) {
   const int width = part.right - part.left, height = part.bottom - part.top;
   if (width <= 0 || height <= 0) return;
-  host_.GuardQuietly([&] {
+  host_.GuardQuietly("Painting", [&] {
     DibSurface& surface = host_.Surface(width, height);
     const RECT form = PixelsOf({0, 0, form_.Width(), form_.Height()});
     if (part.right > form.right || part.bottom > form.bottom) {

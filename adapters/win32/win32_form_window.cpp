@@ -11,8 +11,6 @@ namespace orvendal {
 namespace {
 
 constexpr double kTwipsPerInch = 1440.0;
-constexpr int kCenterOnOwner = 1;
-constexpr int kCenterOnScreen = 2;
 
 int Round(double value) {
   return static_cast<int>(std::floor(value + 0.5));
@@ -33,16 +31,17 @@ RECT WorkAreaAround(HWND window) {
 WindowClass Win32FormWindow::kClass(L"OrvendalForm", CS_DBLCLKS, Win32FormWindow::Procedure);
 
 Win32FormWindow::Win32FormWindow(Win32WindowHost& host, Form& form)
-    : host_(host), form_(form), link_(std::make_shared<Link>(Link{this})), dpi_(host.Dpi()) {
-  host_.windows_.push_back(this);
-}
+    : CommonWindow(host, form),
+      host_(host),
+      form_(form),
+      link_(std::make_shared<Link>(Link{this})),
+      dpi_(host.Dpi()) {}
 
 Win32FormWindow::~Win32FormWindow() {
   const DpiScope sharp(DpiContext::Sharpest());
-  host_.OpenShutWindows(*this);
+  host_.EndModal(*this);
   link_->window = nullptr;
   Destroy();
-  host_.WindowGone(*this);
 }
 
 // Making and unmaking.
@@ -56,24 +55,20 @@ Win32FormWindow::Look Win32FormWindow::WantedLook(bool modal) const {
   return {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, WS_EX_APPWINDOW};
 }
 
-std::wstring Win32FormWindow::Title() const {
-  return SingleLine(form_.Caption().empty() ? host_.options_.application_title : form_.Caption());
-}
-
 void Win32FormWindow::Make(HWND owner, const Look& look) {
   if (window_ != nullptr && owner == owner_ && look == look_) return;
   Destroy();
   kClass.Enter();
   owner_ = owner;
   look_ = look;
-  window_ = CreateWindowExW(look.extended, kClass.Name(), Title().c_str(), look.style, 0, 0, 0, 0, owner,
-                            nullptr, ThisModule(), link_.get());
+  window_ = CreateWindowExW(look.extended, kClass.Name(), SingleLine(Title()).c_str(), look.style, 0, 0, 0, 0,
+                            owner, nullptr, ThisModule(), link_.get());
   if (window_ == nullptr) {
     kClass.Leave();
     throw RuntimeError(error_number::kInternal, "The system refuses a window");
   }
   use_.emplace();
-  if (host_.options_.dpi == 0) TakeDpi(DpiOf(window_));
+  if (host_.given_dpi_ == 0) TakeDpi(DpiOf(window_));
 }
 
 void Win32FormWindow::Destroy() {
@@ -117,14 +112,16 @@ RECT Win32FormWindow::FormPixels() const {
   return {left, top, left + width, top + height};
 }
 
-POINT Win32FormWindow::FirstPlace(SIZE size) const {
-  const RECT screen = WorkAreaAround(owner_);
-  RECT around = screen;
-  if (form_.StartUpPosition() == kCenterOnOwner && owner_ != nullptr) GetWindowRect(owner_, &around);
-  const LONG left = (around.left + around.right - size.cx) / 2;
-  const LONG top = (around.top + around.bottom - size.cy) / 2;
-  return {std::clamp(left, screen.left, std::max(screen.left, screen.right - size.cx)),
-          std::clamp(top, screen.top, std::max(screen.top, screen.bottom - size.cy))};
+POINT Win32FormWindow::PlaceAtFirst(SIZE size) const {
+  const auto rect_of = [](const RECT& rect) {
+    return Rect{static_cast<double>(rect.left), static_cast<double>(rect.top),
+                static_cast<double>(rect.right - rect.left), static_cast<double>(rect.bottom - rect.top)};
+  };
+  RECT owner{};
+  if (owner_ != nullptr) GetWindowRect(owner_, &owner);
+  const Size whole{static_cast<double>(size.cx), static_cast<double>(size.cy)};
+  const Point place = FirstPlace(whole, whole, rect_of(WorkAreaAround(owner_)), rect_of(owner));
+  return {static_cast<LONG>(place.x), static_cast<LONG>(place.y)};
 }
 
 void Win32FormWindow::PlaceWindow() {
@@ -132,12 +129,10 @@ void Win32FormWindow::PlaceWindow() {
   RECT outside{0, 0, form.right - form.left, form.bottom - form.top};
   AdjustWindowRectEx(&outside, look_.style, FALSE, look_.extended);
   const SIZE size{outside.right - outside.left, outside.bottom - outside.top};
-  const bool centered =
-      form_.StartUpPosition() == kCenterOnOwner || form_.StartUpPosition() == kCenterOnScreen;
   POINT place{form.left, form.top};
   UINT flags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER;
-  if (IsFramed() || (centered && form_.WindowState() == WindowState::kNormal)) {
-    place = FirstPlace(size);
+  if (IsPlacedOnce()) {
+    place = PlaceAtFirst(size);
     if (placed_) flags |= SWP_NOMOVE;
   }
   placed_ = true;
@@ -199,7 +194,7 @@ void Win32FormWindow::TakeDpi(int dpi) {
 
 // A window that the user moves has to go where the system says, or it would stand on the other display again.
 void Win32FormWindow::MoveToOtherDisplay(int dpi, const RECT& suggested) {
-  if (host_.options_.dpi == 0) TakeDpi(dpi);
+  if (host_.given_dpi_ == 0) TakeDpi(dpi);
   if (IsFramed()) {
     SetWindowPos(window_, nullptr, suggested.left, suggested.top, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -219,7 +214,7 @@ void Win32FormWindow::Show() {
 }
 
 void Win32FormWindow::Hide() {
-  host_.OpenShutWindows(*this);
+  host_.EndModal(*this);
   if (window_ != nullptr) ShowWindow(window_, SW_HIDE);
   placed_ = false;
 }
@@ -249,7 +244,7 @@ void Win32FormWindow::BoundsChanged() {
 }
 
 void Win32FormWindow::CaptionChanged() {
-  if (window_ != nullptr) SetWindowTextW(window_, Title().c_str());
+  if (window_ != nullptr) SetWindowTextW(window_, SingleLine(Title()).c_str());
 }
 
 void Win32FormWindow::StateChanged(WindowState state) {

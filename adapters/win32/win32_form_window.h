@@ -9,8 +9,8 @@
 #include "adapters/win32/module_use.h"
 #include "adapters/win32/win32_keys.h"
 #include "adapters/win32/windows_api.h"
+#include "platform/forms/common_window.h"
 #include "platform/forms/form.h"
-#include "platform/forms/window_host.h"
 
 namespace orvendal {
 
@@ -28,12 +28,11 @@ class Win32WindowHost;
 /// A handler can unload the form in the middle of a message of this window; whoever calls the form looks at
 /// `link_` afterwards before touching anything. Invariant: `link_->window` is this object, and the system's
 /// window knows it through `link_` alone.
-class Win32FormWindow final : public FormWindow {
+class Win32FormWindow final : public CommonWindow {
  public:
   Win32FormWindow(Win32WindowHost& host, Form& form);
   ~Win32FormWindow() override;
 
-  Form& TheForm() const { return form_; }
   /// nullptr before the first Show.
   HWND Handle() const { return window_; }
 
@@ -65,15 +64,13 @@ class Win32FormWindow final : public FormWindow {
     DWORD extended = 0;
     bool operator==(const Look&) const = default;
   };
-  bool IsFramed() const { return form_.BorderStyle() != 0; }
   bool IsShown() const { return window_ != nullptr && form_.Visible(); }
   Look WantedLook(bool modal) const;
-  std::wstring Title() const;
   void Make(HWND owner, const Look& look);
   void Destroy();
   /// The form's place on the display, in pixels.
   RECT FormPixels() const;
-  POINT FirstPlace(SIZE size) const;
+  POINT PlaceAtFirst(SIZE size) const;
   void PlaceWindow();
   void ApplyState();
   void TakeStateFromSystem(WPARAM size_kind);

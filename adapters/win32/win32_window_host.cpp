@@ -1,7 +1,6 @@
 #include "adapters/win32/win32_window_host.h"
 
 #include <algorithm>
-#include <exception>
 #include <new>
 
 #include "adapters/win32/clipboard.h"
@@ -18,16 +17,14 @@ constexpr double kTwipsPerInch = 1440.0;
 // A window that keeps asking for something must not hold a DoEvents for ever.
 constexpr int kMostMessagesOfOneTurn = 20000;
 
-void LogToDebugger(const char* what) {
-  OutputDebugStringA("DllOrvendal: ");
-  OutputDebugStringA(what);
-  OutputDebugStringA("\n");
-}
-
 void Dispatch(MSG& message) {
   if (CallMsgFilterW(&message, MSGF_DIALOGBOX)) return;
   TranslateMessage(&message);
   DispatchMessageW(&message);
+}
+
+HWND HandleOfWindow(const CommonWindow& window) {
+  return static_cast<const Win32FormWindow&>(window).Handle();
 }
 
 int PrimaryDpi() {
@@ -65,10 +62,13 @@ void OpenWindows(const std::vector<HWND>& windows) {
 
 }  // namespace
 
-Win32WindowHost::Win32WindowHost(Win32HostOptions options)
-    : options_(std::move(options)),
+Win32WindowHost::Win32WindowHost(const Win32HostOptions& options)
+    : CommonHost(options),
+      given_region_(options.region),
+      given_clock_(options.clock),
+      given_dpi_(options.dpi),
       region_(UserRegionOfSystem()),
-      dpi_(options_.dpi > 0 ? options_.dpi : PrimaryDpi()),
+      dpi_(given_dpi_ > 0 ? given_dpi_ : PrimaryDpi()),
       timers_([this](Timer& timer) { Guard([&] { timer.Parent().TimerElapsed(timer); }); }) {}
 
 Win32WindowHost::~Win32WindowHost() {
@@ -133,9 +133,7 @@ std::unique_ptr<FormWindow> Win32WindowHost::CreateFormWindow(Form& form) {
 }
 
 Win32FormWindow* Win32WindowHost::WindowOf(const Form& form) const {
-  const auto found = std::find_if(windows_.begin(), windows_.end(),
-                                  [&](const Win32FormWindow* window) { return &window->TheForm() == &form; });
-  return found == windows_.end() ? nullptr : *found;
+  return static_cast<Win32FormWindow*>(CommonHost::WindowOf(form));
 }
 
 HWND Win32WindowHost::HandleOf(const Form& form) const {
@@ -146,61 +144,62 @@ HWND Win32WindowHost::HandleOf(const Form& form) const {
 HWND Win32WindowHost::FrontWindow() const {
   const HWND active = GetActiveWindow();
   if (active != nullptr && IsWindowVisible(active)) return active;
-  for (auto window = windows_.rbegin(); window != windows_.rend(); ++window) {
-    if (IsWindowVisible((*window)->Handle())) return GetLastActivePopup((*window)->Handle());
+  for (auto window = Windows().rbegin(); window != Windows().rend(); ++window) {
+    const HWND handle = HandleOfWindow(**window);
+    if (IsWindowVisible(handle)) return GetLastActivePopup(handle);
   }
   return nullptr;
 }
 
 HWND Win32WindowHost::AnyWindow() const {
-  for (const Win32FormWindow* window : windows_) {
-    if (window->Handle() != nullptr) return window->Handle();
+  for (const CommonWindow* window : Windows()) {
+    if (const HWND handle = HandleOfWindow(*window)) return handle;
   }
   return FrontWindow();
 }
 
-void Win32WindowHost::RunModal(Form& form) {
-  const Win32FormWindow* window = WindowOf(form);
-  if (window == nullptr || !form.Visible()) return;
-  ModalLoop loop;
-  loop.window = window;
-  loop.shut = ShutWindows(window->Handle());
-  modal_loops_.push_back(&loop);
-  MSG message{};
-  while (!loop.ended) {
-    const BOOL got = GetMessageW(&message, nullptr, 0, 0);
-    if (got > 0) {
-      Dispatch(message);
-      continue;
-    }
-    // The program quits: the dialog is over, and the outer loop is to learn of it as well.
-    Guard([&] { form.Hide(); });
-    if (!loop.ended) OpenShutWindows(*window);
-    if (got == 0) PostQuitMessage(static_cast<int>(message.wParam));
-  }
-  modal_loops_.erase(std::find(modal_loops_.begin(), modal_loops_.end(), &loop));
-}
+/// One modal form with the windows that it has shut.
+class Win32WindowHost::MessageLoop final : public ModalLoop {
+ public:
+  MessageLoop(Win32WindowHost& host, const CommonWindow& window)
+      : ModalLoop(window), host_(host), window_(window), shut_(ShutWindows(HandleOfWindow(window))) {}
 
-void Win32WindowHost::OpenShutWindows(const Win32FormWindow& window) {
-  for (std::size_t i = 0; i < modal_loops_.size(); ++i) {
-    ModalLoop& loop = *modal_loops_[i];
-    if (loop.window != &window || loop.ended) continue;
-    loop.ended = true;
-    // With another dialog still in front of it, the windows stay shut until that one ends.
-    const auto inner = std::find_if(modal_loops_.begin() + static_cast<std::ptrdiff_t>(i) + 1,
-                                    modal_loops_.end(), [](const ModalLoop* other) { return !other->ended; });
-    if (inner == modal_loops_.end()) {
-      OpenWindows(loop.shut);
+  void Run(Form& form) override {
+    MSG message{};
+    while (!HasEnded()) {
+      const BOOL got = GetMessageW(&message, nullptr, 0, 0);
+      if (got > 0) {
+        Dispatch(message);
+        continue;
+      }
+      // The program quits: the dialog is over, and the outer loop is to learn of it as well.
+      host_.Guard([&] { form.Hide(); });
+      if (!HasEnded()) host_.EndModal(window_);
+      if (got == 0) PostQuitMessage(static_cast<int>(message.wParam));
+    }
+  }
+
+ protected:
+  /// At once, so that the system activates one of the windows that were shut when this one goes.
+  void End(ModalLoop* inner) override {
+    if (inner == nullptr) {
+      OpenWindows(shut_);
     } else {
-      (*inner)->shut.insert((*inner)->shut.end(), loop.shut.begin(), loop.shut.end());
+      // With another dialog still in front of it, the windows stay shut until that one ends.
+      std::vector<HWND>& kept = static_cast<MessageLoop*>(inner)->shut_;
+      kept.insert(kept.end(), shut_.begin(), shut_.end());
     }
-    loop.shut.clear();
+    shut_.clear();
   }
-}
 
-void Win32WindowHost::WindowGone(const Win32FormWindow& window) {
-  windows_.erase(std::remove(windows_.begin(), windows_.end(), &window), windows_.end());
-  if (windows_.empty()) surface_.reset();
+ private:
+  Win32WindowHost& host_;
+  const CommonWindow& window_;
+  std::vector<HWND> shut_;
+};
+
+std::unique_ptr<CommonHost::ModalLoop> Win32WindowHost::MakeModalLoop(const CommonWindow& window) {
+  return std::make_unique<MessageLoop>(*this, window);
 }
 
 void Win32WindowHost::DoEvents() {
@@ -212,11 +211,6 @@ void Win32WindowHost::DoEvents() {
     }
     Dispatch(message);
   }
-}
-
-void Win32WindowHost::TimerChanged(Timer& timer, bool alive) {
-  timers_.Stop(timer);
-  if (alive && timer.Enabled() && timer.Interval() > 0) timers_.Set(timer, timer.Interval());
 }
 
 // Sound and clipboard.
@@ -235,10 +229,9 @@ void Win32WindowHost::ClipboardText(const std::string& text) {
 
 // Messages and errors.
 
-int Win32WindowHost::ShowMessage(std::string_view text, int style, std::string_view title) {
-  const ModalScope scope(*this);
+int Win32WindowHost::RunMessageBox(const std::string& text, int style, const std::string& title) {
   const std::wstring wide_text = Wide(text);
-  const std::wstring wide_title = Wide(title.empty() ? std::string_view(options_.application_title) : title);
+  const std::wstring wide_title = Wide(title);
   const HWND owner = FrontWindow();
   // The box shuts its owner by itself, and opens it before it goes.
   const std::vector<HWND> shut = ShutWindows(owner);
@@ -248,45 +241,8 @@ int Win32WindowHost::ShowMessage(std::string_view text, int style, std::string_v
   return answer;
 }
 
-void Win32WindowHost::ReportError(const RuntimeError& error) {
-  if (options_.on_error) {
-    options_.on_error(error);
-    return;
-  }
-  errors_to_report_.push_back(error);
-  if (reporting_) return;
-  reporting_ = true;
-  GuardQuietly([this] {
-    while (!errors_to_report_.empty()) {
-      const RuntimeError next = errors_to_report_.front();
-      errors_to_report_.pop_front();
-      ShowMessage("Error " + std::to_string(next.Number()) + ": " + next.Description(), MB_ICONHAND, "");
-    }
-  });
-  reporting_ = false;
-}
-
-void Win32WindowHost::ReportCaught() {
-  try {
-    throw;
-  } catch (const RuntimeError& error) {
-    ReportError(error);
-  } catch (const std::exception& error) {
-    LogToDebugger(error.what());
-    ReportError(RuntimeError(error_number::kInternal, error.what()));
-  } catch (...) {
-    ReportError(RuntimeError(error_number::kInternal));
-  }
-}
-
-void Win32WindowHost::LogCaught() noexcept {
-  try {
-    throw;
-  } catch (const std::exception& error) {
-    LogToDebugger(error.what());
-  } catch (...) {
-    LogToDebugger("an unknown exception");
-  }
+void Win32WindowHost::Log(const char* what_ended, const char* how) {
+  for (const char* part : {"DllOrvendal: ", what_ended, " ended with: ", how, "\n"}) OutputDebugStringA(part);
 }
 
 }  // namespace orvendal

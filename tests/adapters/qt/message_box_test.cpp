@@ -282,5 +282,28 @@ TEST_F(MessageBoxes, AnErrorThatComesWhileOneIsToldWaitsForItsTurn) {
   EXPECT_EQ(told, (std::vector<QString>{"Error 5: Invalid", "Error 6: Overflow"}));
 }
 
+TEST_F(MessageBoxes, AnErrorThatCannotBeToldSilencesNoneAfterIt) {
+  bool has_words = false;
+  QtHostOptions options;
+  options.describe_error = [&](const RuntimeError& error) {
+    if (!std::exchange(has_words, true)) throw std::runtime_error("no words");
+    return error.Description();
+  };
+  QtWindowHost speechless(Region::Spanish(), clock, options);
+  const CriticalMessages messages;
+  EXPECT_NO_THROW(speechless.Guard([] { throw RuntimeError(5, "Invalid"); }));
+  EXPECT_EQ(messages.All(), (std::vector<std::string>{"A report of an error ended with: no words"}));
+  QString told;
+  InNextDialog([&] {
+    if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+      told = box->text();
+      box->accept();
+    }
+  });
+  speechless.ReportError(RuntimeError(6, "Overflow"));
+  QApplication::processEvents();
+  EXPECT_EQ(told, "Error 6: Overflow");
+}
+
 }  // namespace
 }  // namespace orvendal

@@ -353,6 +353,34 @@ TEST_F(HostOnWindows, AnErrorIsShownWithNumberAndDescription) {
   failing->Unload();
 }
 
+TEST_F(HostOnWindows, AnErrorThatCannotBeToldSilencesNoneAfterIt) {
+  bool has_words = false;
+  Win32HostOptions options = Options();
+  options.on_error = nullptr;
+  options.describe_error = [&](const RuntimeError& error) {
+    if (!std::exchange(has_words, true)) throw std::runtime_error("no words");
+    return error.Description();
+  };
+  Win32WindowHost speechless(options);
+  speechless.Guard([] { throw RuntimeError(5, "Invalid"); });
+  std::wstring text;
+  int looks = 0;
+  const std::function<void()> look = [&] {
+    const HWND box = FindWindowW(L"#32770", L"Recuento");
+    if (box == nullptr) {
+      if (++looks < 200) Later(look);
+      return;
+    }
+    wchar_t buffer[200] = L"";
+    GetWindowTextW(GetDlgItem(box, 0xFFFF), buffer, 200);
+    text = buffer;
+    PostMessageW(box, WM_COMMAND, IDOK, 0);
+  };
+  Later(look);
+  speechless.ReportError(RuntimeError(6, "Overflow"));
+  EXPECT_EQ(text, L"Error 6: Overflow");
+}
+
 TEST_F(HostOnWindows, NothingIsInUseOnceTheLastFormIsUnloaded) {
   EXPECT_FALSE(ModuleIsInUse());
   ShowForm();
