@@ -1,24 +1,12 @@
 #pragma once
 
 #include <initializer_list>
-#include <utility>
 
-#include "adapters/automation/com_headers.h"
+#include "adapters/automation/call_out.h"
 #include "adapters/automation/com_ptr.h"
-#include "adapters/automation/error_boundary.h"
-#include "adapters/automation/module_lifetime.h"
 #include "adapters/automation/variant.h"
 
 namespace orvendal::ado {
-
-/// One call of an operation of ADO's: the module stays meanwhile, and what the operation answers is thrown
-/// with its own description, not with one that an earlier call left behind.
-template <typename Call>
-void Ask(Call&& call) {
-  const module_lifetime::Hold hold;
-  ForgetErrorInformation();
-  Check(std::forward<Call>(call)());
-}
 
 /// An optional argument that is left out.
 class Omitted : public Variant {

@@ -15,7 +15,7 @@ ComPtr<Connection15> AdoConnection::InterfaceOf(IUnknown* object) {
 
 std::string AdoConnection::Provider() const {
   BstrCell name;
-  ado::Ask([&] { return object_->get_Provider(name.InOut()); });
+  Ask([&] { return object_->get_Provider(name.InOut()); });
   return name.Text();
 }
 

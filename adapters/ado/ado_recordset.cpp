@@ -12,8 +12,6 @@
 
 namespace orvendal {
 
-using ado::Ask;
-
 namespace {
 
 constexpr std::int32_t kEditNone = 0;

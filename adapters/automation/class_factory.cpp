@@ -20,15 +20,6 @@ bool TakeOneLock() noexcept {
 
 }  // namespace
 
-HRESULT ClassFactory::QueryInterface(REFIID iid, void** object) noexcept {
-  if (!object) return E_POINTER;
-  *object = nullptr;
-  if (iid != IID_IUnknown && iid != IID_IClassFactory) return E_NOINTERFACE;
-  AddRef();
-  *object = static_cast<IClassFactory*>(this);
-  return S_OK;
-}
-
 HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object) noexcept {
   if (!object) return E_POINTER;
   *object = nullptr;
@@ -51,14 +42,20 @@ HRESULT ClassFactory::LockServer(BOOL lock) noexcept {
   return S_OK;
 }
 
-HRESULT GetClassFactory(ClassFactory::Make make, REFIID iid, void** object) noexcept {
+HRESULT GetClassFactory(std::span<const CreatableClass> classes, REFCLSID class_id, REFIID iid,
+                        void** object) noexcept {
   if (!object) return E_POINTER;
   *object = nullptr;
-  auto* const factory = new (std::nothrow) ClassFactory(make);
-  if (!factory) return E_OUTOFMEMORY;
-  const HRESULT result = factory->QueryInterface(iid, object);
-  factory->Release();
-  return result;
+  if (IsMissing(class_id)) return E_INVALIDARG;
+  for (const CreatableClass& known : classes) {
+    if (known.identifier != class_id) continue;
+    auto* const factory = new (std::nothrow) ClassFactory(known.make);
+    if (!factory) return E_OUTOFMEMORY;
+    const HRESULT result = factory->QueryInterface(iid, object);
+    factory->Release();
+    return result;
+  }
+  return CLASS_E_CLASSNOTAVAILABLE;
 }
 
 }  // namespace orvendal

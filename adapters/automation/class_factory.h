@@ -1,5 +1,8 @@
 #pragma once
 
+#include <new>
+#include <span>
+
 #include "adapters/automation/counted.h"
 
 namespace orvendal {
@@ -12,7 +15,6 @@ class ClassFactory final : public Counted<IClassFactory> {
 
   explicit ClassFactory(Make make) : make_(make) {}
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** object) noexcept override;
   HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) noexcept override;
 
@@ -20,7 +22,21 @@ class ClassFactory final : public Counted<IClassFactory> {
   Make make_;
 };
 
-/// A factory for `make` as `iid`, for DllGetClassObject.
-[[nodiscard]] HRESULT GetClassFactory(ClassFactory::Make make, REFIID iid, void** object) noexcept;
+/// One class that a module makes objects of.
+struct CreatableClass {
+  GUID identifier;
+  ClassFactory::Make make;
+};
+
+/// The body of DllGetClassObject: the factory of one of `classes` as `iid`.
+[[nodiscard]] HRESULT GetClassFactory(std::span<const CreatableClass> classes, REFCLSID class_id, REFIID iid,
+                                      void** object) noexcept;
+
+/// Makes objects of a class whose constructor takes nothing.
+template <typename Object>
+IUnknown* MakeObject() noexcept {
+  auto* const made = new (std::nothrow) Object;
+  return made ? static_cast<IDispatch*>(made) : nullptr;
+}
 
 }  // namespace orvendal

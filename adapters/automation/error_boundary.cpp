@@ -16,12 +16,12 @@ constexpr std::int32_t kOutOfMemory = 7;
 
 constinit const wchar_t* error_source = L"";
 
-void LeaveErrorInformation(REFIID iid, const std::string& description) {
+void LeaveErrorInformation(REFIID iid, const wchar_t* source, const std::string& description) {
   ComPtr<ICreateErrorInfo> made;
   if (FAILED(CreateErrorInfo(made.Receive()))) return;
   const BstrCell text(description);
   made->SetGUID(iid);
-  made->SetSource(const_cast<LPOLESTR>(error_source));
+  made->SetSource(const_cast<LPOLESTR>(source));
   made->SetDescription(text.Get());
   if (const auto info = made.Query<IErrorInfo>(IID_IErrorInfo)) SetErrorInfo(0, info.Get());
 }
@@ -44,6 +44,10 @@ std::string SystemDescription(HRESULT result) {
 
 void NameErrorSource(const wchar_t* name) noexcept {
   error_source = name;
+}
+
+const wchar_t* ErrorSource() noexcept {
+  return error_source;
 }
 
 HRESULT HresultOfNumber(std::int32_t number) noexcept {
@@ -72,24 +76,24 @@ RuntimeError CurrentError() {
   }
 }
 
-HRESULT ReportCurrentException(REFIID iid) noexcept {
+HRESULT ReportCurrentException(REFIID iid, const wchar_t* source) noexcept {
   try {
     const RuntimeError error = CurrentError();
-    LeaveErrorInformation(iid, error.Description());
+    LeaveErrorInformation(iid, source, error.Description());
     return HresultOfNumber(error.Number());
   } catch (...) {
     return E_OUTOFMEMORY;
   }
 }
 
-HRESULT FillExceptionInfo(EXCEPINFO* info) noexcept {
+HRESULT FillExceptionInfo(EXCEPINFO* info, const wchar_t* source) noexcept {
   try {
     const RuntimeError error = CurrentError();
     if (info) {
       BSTR description = MakeBstr(error.Description());
       *info = {};
       info->scode = HresultOfNumber(error.Number());
-      info->bstrSource = SysAllocString(error_source);
+      info->bstrSource = SysAllocString(source);
       info->bstrDescription = description;
     }
     return DISP_E_EXCEPTION;

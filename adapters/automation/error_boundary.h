@@ -14,6 +14,7 @@ namespace orvendal {
 /// What the errors of this module name as their source; for the rest of its life, before its first object is
 /// made.
 void NameErrorSource(const wchar_t* name) noexcept;
+const wchar_t* ErrorSource() noexcept;
 
 [[nodiscard]] HRESULT HresultOfNumber(std::int32_t number) noexcept;
 [[nodiscard]] std::int32_t NumberOfHresult(HRESULT result) noexcept;
@@ -21,11 +22,11 @@ void NameErrorSource(const wchar_t* name) noexcept;
 /// To be called while an exception is handled, whatever it is: the error that it stands for. 7 where memory
 /// has run out, 51 for what nobody expected.
 RuntimeError CurrentError();
-/// To be called while an exception is handled: its HRESULT, with the module as source and its description
-/// left as the thread's error information for `iid`.
-[[nodiscard]] HRESULT ReportCurrentException(REFIID iid) noexcept;
+/// To be called while an exception is handled: its HRESULT, with its source and description left as the
+/// thread's error information for `iid`.
+[[nodiscard]] HRESULT ReportCurrentException(REFIID iid, const wchar_t* source = ErrorSource()) noexcept;
 /// The same for a client of Invoke: DISP_E_EXCEPTION with `info` filled, if there is one.
-[[nodiscard]] HRESULT FillExceptionInfo(EXCEPINFO* info) noexcept;
+[[nodiscard]] HRESULT FillExceptionInfo(EXCEPINFO* info, const wchar_t* source) noexcept;
 
 /// The body of a COM method: nothing that `body` throws gets out.
 template <typename Body>

@@ -1,8 +1,65 @@
 #include "adapters/automation/type_information.h"
 
+#include <cstring>
+#include <map>
+#include <mutex>
+
 #include "adapters/automation/error_boundary.h"
 
 namespace orvendal {
+namespace {
+
+bool IsLess(REFGUID left, REFGUID right) {
+  return std::memcmp(&left, &right, sizeof left) < 0;
+}
+
+ComPtr<ITypeInfo> ReadTypeInfo(REFGUID guid) {
+  ComPtr<ITypeLib> library;
+  Check(LoadTypeLibEx(OwnPath().c_str(), REGKIND_NONE, library.Receive()));
+  ComPtr<ITypeInfo> info;
+  Check(library->GetTypeInfoOfGuid(guid, info.Receive()));
+  return info;
+}
+
+/// Reading a type library anew for every field that a script touches would cost far more than the field.
+class TypeDescriptions {
+ public:
+  void Keep() noexcept {
+    const std::lock_guard lock(mutex_);
+    ++users_;
+  }
+  void LetGo() noexcept {
+    std::map<GUID, ComPtr<ITypeInfo>, decltype(&IsLess)> dropped(IsLess);
+    const std::lock_guard lock(mutex_);
+    if (--users_ == 0) dropped.swap(known_);
+  }
+  ComPtr<ITypeInfo> Find(REFGUID guid) {
+    const std::lock_guard lock(mutex_);
+    ComPtr<ITypeInfo>& known = known_[guid];
+    if (!known) known = ReadTypeInfo(guid);
+    return known;
+  }
+
+ private:
+  std::mutex mutex_;
+  int users_ = 0;
+  std::map<GUID, ComPtr<ITypeInfo>, decltype(&IsLess)> known_{IsLess};
+};
+
+TypeDescriptions& Descriptions() {
+  static TypeDescriptions descriptions;
+  return descriptions;
+}
+
+}  // namespace
+
+TypeDescriptionsHold::TypeDescriptionsHold() noexcept {
+  Descriptions().Keep();
+}
+
+TypeDescriptionsHold::~TypeDescriptionsHold() {
+  Descriptions().LetGo();
+}
 
 HMODULE OwnModule() noexcept {
   HMODULE module = nullptr;
@@ -26,9 +83,10 @@ std::wstring OwnPath() {
 
 HRESULT OwnTypeInfo(REFGUID guid, ComPtr<ITypeInfo>& info) noexcept {
   try {
-    ComPtr<ITypeLib> library;
-    const HRESULT result = LoadTypeLibEx(OwnPath().c_str(), REGKIND_NONE, library.Receive());
-    return FAILED(result) ? result : library->GetTypeInfoOfGuid(guid, info.Receive());
+    info = Descriptions().Find(guid);
+    return S_OK;
+  } catch (const RuntimeError& error) {
+    return HresultOfNumber(error.Number());
   } catch (...) {
     return E_OUTOFMEMORY;
   }

@@ -17,14 +17,9 @@ const VARIANT& Behind(const VARIANT& value) {
   return *behind;
 }
 
-/// A chain that was cut, or a reference to nothing, which the system's own functions follow all the same.
-bool LeadsNowhere(const VARIANT& behind) {
-  return V_VT(&behind) == kReference || ((V_VT(&behind) & VT_BYREF) && !V_BYREF(&behind));
-}
-
 HRESULT Converted(const VARIANT& value, LCID lcid, VARTYPE type, Variant& converted) {
   const VARIANT& behind = Behind(value);
-  if (LeadsNowhere(behind)) return DISP_E_TYPEMISMATCH;
+  if (LeadsNowhere(value)) return DISP_E_TYPEMISMATCH;
   if (V_VT(&behind) & (VT_ARRAY | VT_VECTOR)) return DISP_E_TYPEMISMATCH;
   const HRESULT result =
       VariantChangeTypeEx(converted.Address(), const_cast<VARIANT*>(&behind), lcid, VARIANT_ALPHABOOL, type);
@@ -37,7 +32,7 @@ HRESULT Converted(const VARIANT& value, LCID lcid, VARTYPE type, Variant& conver
 
 HRESULT ReadDirect(const VARIANT& value, Variant& direct) {
   const VARIANT& behind = Behind(value);
-  if (LeadsNowhere(behind)) return DISP_E_TYPEMISMATCH;
+  if (LeadsNowhere(value)) return DISP_E_TYPEMISMATCH;
   return VariantCopyInd(direct.Address(), const_cast<VARIANT*>(&behind));
 }
 
@@ -89,6 +84,12 @@ HRESULT ReadObject(const VARIANT& value, ComPtr<IUnknown>& object) {
   return S_OK;
 }
 
+// A chain that was cut is a ring. The system's own functions follow a reference to nothing all the same.
+bool LeadsNowhere(const VARIANT& value) {
+  const VARIANT& behind = Behind(value);
+  return V_VT(&behind) == kReference || ((V_VT(&behind) & VT_BYREF) && !V_BYREF(&behind));
+}
+
 bool IsOmitted(const VARIANT& value) {
   const VARIANT& behind = Behind(value);
   return V_VT(&behind) == VT_ERROR && V_ERROR(&behind) == DISP_E_PARAMNOTFOUND;
@@ -111,7 +112,7 @@ void WriteLong(VARIANT& value, LONG number) {
 
 void WriteFlag(VARIANT& value, bool flag) {
   V_VT(&value) = VT_BOOL;
-  V_BOOL(&value) = flag ? VARIANT_TRUE : VARIANT_FALSE;
+  V_BOOL(&value) = FlagOf(flag);
 }
 
 void WriteObject(VARIANT& value, ComPtr<IDispatch> object) {

@@ -7,6 +7,10 @@
 
 namespace orvendal {
 
+constexpr VARIANT_BOOL FlagOf(bool flag) {
+  return flag ? VARIANT_TRUE : VARIANT_FALSE;
+}
+
 /// A VARIANT of its own, cleared when it goes.
 class Variant {
  public:
@@ -34,6 +38,8 @@ class Variant {
 [[nodiscard]] HRESULT ReadFlag(const VARIANT& value, LCID lcid, bool& flag);
 /// Nothing gives an empty pointer; what is no object is a mismatch.
 [[nodiscard]] HRESULT ReadObject(const VARIANT& value, ComPtr<IUnknown>& object);
+/// Whether a value is a reference to nothing, or a ring of them.
+bool LeadsNowhere(const VARIANT& value);
 /// Whether the caller left the argument out.
 bool IsOmitted(const VARIANT& value);
 

@@ -4,21 +4,16 @@
 
 #include "adapters/automation/com_headers.h"
 #include "adapters/automation/com_ptr.h"
+#include "adapters/automation/dispatch_rules.h"
 
 namespace orvendal {
-
-/// An argument that does not fit, as a client of Invoke is told of it.
-struct ArgumentError {
-  HRESULT result;
-  UINT index;  // in rgvarg
-};
 
 /// One call of a member of an automation object: its arguments by place, from 0, and its result.
 class AutomationCall {
  public:
-  /// Everything outlives the call. `result` may be nullptr.
-  AutomationCall(const DISPPARAMS& given, LCID lcid, VARIANT* result)
-      : given_(given), lcid_(lcid), result_(result) {}
+  /// What is called outlives it.
+  explicit AutomationCall(const DispatchCall& call)
+      : given_(call.arguments), lcid_(call.lcid), result_(call.Puts() ? nullptr : call.result) {}
 
   UINT Count() const { return given_.cArgs; }
   /// Whether the argument is there and was not left out.

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "adapters/automation/counted.h"
+#include "adapters/automation/dual_object.h"
 #include "adapters/com/automation_call.h"
 #include "adapters/com/automation_registry.h"
 #include "platform/base/runtime_error.h"
@@ -23,16 +23,8 @@ struct AutomationMember {
 /// What our objects that are handed out have in common: members by name through Invoke, errors with number
 /// and description. It never keeps alive what it stands for: after a form is gone, everything answers
 /// error 91. From another thread than the form's everything answers RPC_E_WRONG_THREAD.
-class AutomationObject : public Counted<IDispatch, ISupportErrorInfo, IOrvendalObject> {
+class AutomationObject : public DualObject<IDispatch, IOrvendalObject> {
  public:
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID lcid, ITypeInfo** info) noexcept override;
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID lcid,
-                                          DISPID* ids) noexcept override;
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID iid, LCID lcid, WORD flags, DISPPARAMS* arguments,
-                                   VARIANT* result, EXCEPINFO* exception, UINT* wrong) noexcept override;
-  HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID iid) noexcept override;
   ObjectRef Target() override { return nullptr; }
 
   virtual bool IsGone() const = 0;
@@ -43,8 +35,6 @@ class AutomationObject : public Counted<IDispatch, ISupportErrorInfo, IOrvendalO
   /// False if there is no such member, or none for that.
   virtual bool Get(DISPID member, const AutomationCall& call) = 0;
   virtual bool Put(DISPID member, const AutomationCall& call) = 0;
-  /// The private interface that it answers to besides; GUID_NULL for none.
-  virtual GUID PrivateInterface() const { return GUID_NULL; }
   /// Whether it becomes what it stands for again when it comes back from outside.
   virtual bool ComesBackAsItself() const { return false; }
 
@@ -77,6 +67,9 @@ class AutomationObject : public Counted<IDispatch, ISupportErrorInfo, IOrvendalO
   static bool SameName(const wchar_t* left, const wchar_t* right);
 
  private:
+  void* Find(REFIID iid) noexcept override;
+  HRESULT NumbersOf(LPOLESTR* names, UINT count, DISPID* ids) override;
+  HRESULT Call(const DispatchCall& call) override;
   bool IsAtHome() const { return GetCurrentThreadId() == home_; }
 
   const DWORD home_ = GetCurrentThreadId();

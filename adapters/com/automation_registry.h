@@ -11,13 +11,17 @@
 namespace orvendal {
 
 /// How one of our automation objects, come back from outside, says what it stands for.
-/// {E0EE27BB-F559-4877-8717-137A2FA94D8D}
-inline constexpr GUID kOrvendalObject = {
-    0xE0EE27BB, 0xF559, 0x4877, {0x87, 0x17, 0x13, 0x7A, 0x2F, 0xA9, 0x4D, 0x8D}};
 struct IOrvendalObject : IUnknown {
   /// Empty if it is gone.
   virtual ObjectRef Target() = 0;
 };
+
+}  // namespace orvendal
+
+__CRT_UUID_DECL(orvendal::IOrvendalObject, 0xE0EE27BB, 0xF559, 0x4877, 0x87, 0x17, 0x13, 0x7A, 0x2F, 0xA9,
+                0x4D, 0x8D)
+
+namespace orvendal {
 
 class AutomationObject;
 

@@ -1,29 +1,15 @@
 #include "adapters/com/com_library.h"
 
+#include "adapters/automation/create_object.h"
 #include "adapters/com/library_dialogs.h"
 #include "adapters/com/library_tools.h"
 
 namespace orvendal {
-namespace {
-
-constexpr std::int32_t kCannotCreateObject = 429;
-constexpr std::int32_t kNoSuchInterface = 430;
-
-}  // namespace
-
 ComPtr<IUnknown> CreateLibraryObject(REFCLSID class_id, REFIID iid) {
   const module_lifetime::Hold hold;
-  ComPtr<IUnknown> made;
-  if (FAILED(CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, IID_IUnknown,
-                              made.ReceiveVoid())) ||
-      !made) {
-    throw RuntimeError(kCannotCreateObject, "ActiveX component can't create object");
-  }
-  ComPtr<IUnknown> object = made.Query<IUnknown>(iid);
-  if (!object) {
-    throw RuntimeError(kNoSuchInterface,
-                       "Class does not support Automation or does not support expected interface");
-  }
+  ComPtr<IUnknown> object =
+      CreateObject(class_id, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER).Query<IUnknown>(iid);
+  if (!object) RaiseNoSuchInterface();
   return object;
 }
 

@@ -1,9 +1,6 @@
 #include "adapters/com/controls_automation.h"
 
-#include <new>
-
-#include "adapters/automation/error_boundary.h"
-#include "adapters/automation/variant.h"
+#include "adapters/automation/enumeration.h"
 #include "adapters/com/control_automation.h"
 #include "platform/base/text.h"
 
@@ -14,61 +11,24 @@ constexpr DISPID kCount = 1;
 constexpr std::int32_t kNoSuchControl = 730;
 
 /// A walk over the controls of a form.
-class ControlWalk final : public Counted<IEnumVARIANT> {
+class ControlWalk final : public Enumeration {
  public:
-  ControlWalk(const std::shared_ptr<AutomationRegistry>& registry, const std::weak_ptr<Form>& form,
-              std::size_t position)
-      : registry_(registry), form_(form), position_(position) {}
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override {
-    if (!object) return E_POINTER;
-    *object = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IEnumVARIANT) return E_NOINTERFACE;
-    AddRef();
-    *object = static_cast<IEnumVARIANT*>(this);
-    return S_OK;
-  }
-
-  HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* values, ULONG* fetched) noexcept override {
-    if (!values || (!fetched && count != 1)) return E_POINTER;
-    if (fetched) *fetched = 0;
-    ULONG given = 0;
-    const HRESULT result = Guarded(IID_IEnumVARIANT, [&] {
-      const std::shared_ptr<Form> form = form_.lock();
-      if (!form) throw RuntimeError(error_number::kObjectNotSet);
-      for (; given < count && position_ < form->Controls().size(); ++given, ++position_) {
-        VariantInit(&values[given]);
-        WriteObject(values[given], ControlAutomation::Of(registry_, *form->Controls()[position_]));
-      }
-    });
-    if (fetched) *fetched = given;
-    if (FAILED(result)) return result;
-    return given == count ? S_OK : S_FALSE;
-  }
-
-  HRESULT STDMETHODCALLTYPE Skip(ULONG count) noexcept override {
-    const std::shared_ptr<Form> form = form_.lock();
-    const std::size_t size = form ? form->Controls().size() : 0;
-    const bool enough = position_ <= size && count <= size - position_;
-    position_ = enough ? position_ + count : size;
-    return enough ? S_OK : S_FALSE;
-  }
-
-  HRESULT STDMETHODCALLTYPE Reset() noexcept override {
-    position_ = 0;
-    return S_OK;
-  }
-
-  HRESULT STDMETHODCALLTYPE Clone(IEnumVARIANT** copy) noexcept override {
-    if (!copy) return E_POINTER;
-    *copy = new (std::nothrow) ControlWalk(registry_, form_, position_);
-    return *copy ? S_OK : E_OUTOFMEMORY;
-  }
+  ControlWalk(const std::shared_ptr<AutomationRegistry>& registry, const std::weak_ptr<Form>& form)
+      : registry_(registry), form_(form) {}
 
  private:
+  std::size_t Size() const override {
+    const std::shared_ptr<Form> form = form_.lock();
+    if (!form) throw RuntimeError(error_number::kObjectNotSet);
+    return form->Controls().size();
+  }
+  ComPtr<IDispatch> At(std::size_t place) override {
+    return ControlAutomation::Of(registry_, *form_.lock()->Controls()[place]);
+  }
+  Enumeration* Copy() const override { return new ControlWalk(registry_, form_); }
+
   std::shared_ptr<AutomationRegistry> registry_;
   std::weak_ptr<Form> form_;
-  std::size_t position_;
 };
 
 }  // namespace
@@ -124,7 +84,7 @@ bool ControlsAutomation::Get(DISPID member, const AutomationCall& call) {
       return true;
     case DISPID_NEWENUM:
       call.Expect(0, 0);
-      call.Give(ComPtr<IUnknown>::Adopt(new ControlWalk(registry_, Living(), 0)));
+      call.Give(ComPtr<IUnknown>::Adopt(new ControlWalk(registry_, Living())));
       return true;
     default:
       return false;

@@ -136,8 +136,8 @@ Form& FormAutomation::Living() const {
   return *form;  // Get and Put keep it for the call
 }
 
-GUID FormAutomation::PrivateInterface() const {
-  return identity::kFormInterface;
+bool FormAutomation::AnswersTo(REFIID iid) const noexcept {
+  return iid == identity::kFormInterface;
 }
 
 DISPID FormAutomation::IdOf(const wchar_t* name) {

@@ -23,7 +23,7 @@ class FormAutomation final : public AutomationObject {
   DISPID IdOf(const wchar_t* name) override;
   bool Get(DISPID member, const AutomationCall& call) override;
   bool Put(DISPID member, const AutomationCall& call) override;
-  GUID PrivateInterface() const override;
+  bool AnswersTo(REFIID iid) const noexcept override;
   bool ComesBackAsItself() const override { return true; }
 
  private:

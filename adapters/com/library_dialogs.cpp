@@ -1,22 +1,10 @@
 #include "adapters/com/library_dialogs.h"
 
+#include "adapters/automation/variant.h"
 #include "adapters/com/com_library.h"
 #include "adapters/com/com_session.h"
 
 namespace orvendal {
-namespace {
-
-VARIANT_BOOL FlagOf(bool value) {
-  return value ? VARIANT_TRUE : VARIANT_FALSE;
-}
-
-/// A call without anything by reference.
-template <typename Call>
-void CallPlainly(Call&& plain) {
-  CallOut().Make(std::forward<Call>(plain)).Finish();
-}
-
-}  // namespace
 
 ComMessages::ComMessages(Boundary& boundary)
     : boundary_(boundary),
@@ -110,38 +98,38 @@ ComEmployeePicker::ComEmployeePicker(Boundary& boundary)
                                                      __uuidof(_SelectorEmpleado))) {}
 
 void ComEmployeePicker::ParaNuevo(bool value) {
-  CallPlainly([&] { return object_->put_ParaNuevo(FlagOf(value)); });
+  Ask([&] { return object_->put_ParaNuevo(FlagOf(value)); });
 }
 
 bool ComEmployeePicker::Aceptado() {
   VARIANT_BOOL value = VARIANT_FALSE;
-  CallPlainly([&] { return object_->get_Aceptado(&value); });
+  Ask([&] { return object_->get_Aceptado(&value); });
   return value != VARIANT_FALSE;
 }
 
 void ComEmployeePicker::Aceptado(bool value) {
-  CallPlainly([&] { return object_->put_Aceptado(FlagOf(value)); });
+  Ask([&] { return object_->put_Aceptado(FlagOf(value)); });
 }
 
 void ComEmployeePicker::OpcionFija(bool value) {
-  CallPlainly([&] { return object_->put_OpcionFija(FlagOf(value)); });
+  Ask([&] { return object_->put_OpcionFija(FlagOf(value)); });
 }
 
 std::string ComEmployeePicker::Codigo() {
   BstrCell value;
-  CallPlainly([&] { return object_->get_Codigo(value.InOut()); });
+  Ask([&] { return object_->get_Codigo(value.InOut()); });
   return value.Text();
 }
 
 std::string ComEmployeePicker::Nombre() {
   BstrCell value;
-  CallPlainly([&] { return object_->get_Nombre(value.InOut()); });
+  Ask([&] { return object_->get_Nombre(value.InOut()); });
   return value.Text();
 }
 
 void ComEmployeePicker::Nombre(const std::string& value) {
   const BstrCell text(value);
-  CallPlainly([&] { return object_->put_Nombre(text.Get()); });
+  Ask([&] { return object_->put_Nombre(text.Get()); });
 }
 
 void ComEmployeePicker::Elegir(ConnectionRef& conexion, std::string& cod_sucursal) {

@@ -1,5 +1,6 @@
 #include "adapters/com/library_tools.h"
 
+#include "adapters/automation/variant.h"
 #include "adapters/com/com_library.h"
 
 namespace orvendal {
@@ -11,9 +12,9 @@ ComTools::ComTools(Boundary& boundary)
 int ComTools::FiltrarTecla(TextBox& caja, int key_ascii, bool opcion) {
   InterfaceCell box(boundary_.objects.ToCom(caja));
   auto key = static_cast<SHORT>(key_ascii);
-  VARIANT_BOOL option = opcion ? VARIANT_TRUE : VARIANT_FALSE;
+  VARIANT_BOOL option = FlagOf(opcion);
   SHORT filtered = 0;
-  CallOut().Make([&] { return object_->FiltrarTecla(box.InOut(), &key, &option, &filtered); }).Finish();
+  Ask([&] { return object_->FiltrarTecla(box.InOut(), &key, &option, &filtered); });
   return filtered;
 }
 

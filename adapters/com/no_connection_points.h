@@ -10,14 +10,6 @@ namespace orvendal {
 /// The enumeration of the connection points of a class without events: it is at its end from the start.
 class NoConnectionPoints final : public Counted<IEnumConnectionPoints> {
  public:
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override {
-    if (!object) return E_POINTER;
-    *object = nullptr;
-    if (iid != IID_IUnknown && iid != IID_IEnumConnectionPoints) return E_NOINTERFACE;
-    AddRef();
-    *object = static_cast<IEnumConnectionPoints*>(this);
-    return S_OK;
-  }
   HRESULT STDMETHODCALLTYPE Next(ULONG count, IConnectionPoint** points, ULONG* fetched) noexcept override {
     if (!points || (!fetched && count != 1)) return E_POINTER;
     if (fetched) *fetched = 0;

@@ -37,7 +37,7 @@ ComPtr<IDispatch> ObjectBridge::ToCom(Control& control) {
 ObjectRef ObjectBridge::FromCom(IDispatch* object, ObjectRole role) {
   if (!object) return nullptr;
   const ComPtr<IDispatch> given(object);
-  if (const auto own = given.Query<IOrvendalObject>(kOrvendalObject)) {
+  if (const auto own = given.Query<IOrvendalObject>(__uuidof(IOrvendalObject))) {
     // Another module's object of the same kind, or one of an earlier life, is not in the registry.
     if (registry_->Holds(own.Get())) return own->Target();
   }

@@ -3,15 +3,13 @@
 #include <array>
 
 #include "adapters/ado/ado_wrappers.h"
-#include "host/windows/library/in_out.h"
+#include "adapters/automation/call_out.h"
+#include "adapters/automation/variant.h"
+#include "host/windows/library/connection_in_out.h"
 #include "host/windows/library/library_state.h"
 
 namespace orvendal {
 namespace {
-
-constexpr VARIANT_BOOL FlagOf(bool flag) {
-  return flag ? VARIANT_TRUE : VARIANT_FALSE;
-}
 
 /// A host's session object, as far as the library asks it: for the connection.
 class HostSession final : public DatosClase {
@@ -25,11 +23,12 @@ class HostSession final : public DatosClase {
     double on_screen = 0;
     BstrCell text;
     BstrCell branch(session.CodSucursal);
-    ForgetErrorInformation();
-    Check(host_->RellenarSesion(objects[0].InOut(), objects[1].InOut(), objects[2].InOut(),
-                                objects[3].InOut(), objects[4].InOut(), objects[5].InOut(),
-                                objects[6].InOut(), &width, &height, &on_screen, objects[7].InOut(),
-                                objects[8].InOut(), objects[9].InOut(), text.InOut(), branch.InOut()));
+    Ask([&] {
+      return host_->RellenarSesion(objects[0].InOut(), objects[1].InOut(), objects[2].InOut(),
+                                   objects[3].InOut(), objects[4].InOut(), objects[5].InOut(),
+                                   objects[6].InOut(), &width, &height, &on_screen, objects[7].InOut(),
+                                   objects[8].InOut(), objects[9].InOut(), text.InOut(), branch.InOut());
+    });
     session.Conexion = WrapConnection(objects[0].Get());
   }
 
@@ -37,25 +36,14 @@ class HostSession final : public DatosClase {
   ComPtr<_DatosClase> host_;
 };
 
-HRESULT GiveFlag(VARIANT_BOOL* place, bool flag) {
-  if (!place) return E_POINTER;
-  *place = FlagOf(flag);
-  return S_OK;
-}
-
 }  // namespace
-
-SessionChangeObject::SessionChangeObject() noexcept
-    : DualObject(__uuidof(_CambioSesion), __uuidof(::CambioSesion)) {}
 
 HRESULT SessionChangeObject::AbrirCambio(IDispatch** conexion, double* dato_pantalla, BSTR* cod_sucursal,
                                          BSTR* cod_puesto, BSTR* cod_turno, LONG* ancho_base, LONG* alto_base,
                                          LONG* resultado) noexcept {
-  return Do([&] {
-    for (const void* place : {static_cast<void*>(dato_pantalla), static_cast<void*>(ancho_base),
-                              static_cast<void*>(alto_base), static_cast<void*>(resultado)}) {
-      RequireReference(place);
-    }
+  const std::initializer_list<const void*> references = {conexion,  dato_pantalla, cod_sucursal, cod_puesto,
+                                                         cod_turno, ancho_base,    alto_base,    resultado};
+  return Do(references, [&] {
     ConnectionInOut connection(conexion);
     TextInOut branch(cod_sucursal);
     TextInOut workstation(cod_puesto);
@@ -76,17 +64,12 @@ HRESULT SessionChangeObject::AbrirCambio(IDispatch** conexion, double* dato_pant
   });
 }
 
-ProductSearchObject::ProductSearchObject() noexcept
-    : DualObject(__uuidof(_BuscadorProductos), __uuidof(::BuscadorProductos)) {}
-
 HRESULT ProductSearchObject::Buscar(_DatosClase** datos_sesion, IDispatch** formulario, BSTR* llamador,
                                     BSTR* campo, BSTR* texto, BSTR* modo, VARIANT_BOOL* indicador,
                                     BSTR* codigo) noexcept {
-  return Do([&] {
-    for (const void* place : {static_cast<void*>(datos_sesion), static_cast<void*>(formulario),
-                              static_cast<void*>(indicador), static_cast<void*>(codigo)}) {
-      RequireReference(place);
-    }
+  const std::initializer_list<const void*> references = {datos_sesion, formulario, llamador,  campo,
+                                                         texto,        modo,       indicador, codigo};
+  return Do(references, [&] {
     DatosClaseRef session;
     if (*datos_sesion) session = std::make_shared<HostSession>(*datos_sesion);
     const TextInOut caller(llamador);
@@ -95,50 +78,52 @@ HRESULT ProductSearchObject::Buscar(_DatosClase** datos_sesion, IDispatch** form
     const TextInOut mode(modo);
     ObjectRef form;
     bool flag = *indicador != VARIANT_FALSE;
-    GiveText(codigo, LibraryState::Of().Library().NewBuscadorProductos()->Buscar(
-                         session, form, caller.text, field.text, text.text, mode.text, flag));
+    *codigo = MakeBstr(LibraryState::Of().Library().NewBuscadorProductos()->Buscar(
+        session, form, caller.text, field.text, text.text, mode.text, flag));
   });
 }
 
-EmployeePickerObject::EmployeePickerObject() noexcept
-    : DualObject(__uuidof(_SelectorEmpleado), __uuidof(::SelectorEmpleado)) {}
-
 HRESULT EmployeePickerObject::get_ParaNuevo(VARIANT_BOOL* valor) noexcept {
-  return GiveFlag(valor, for_new_);
+  return Give(valor, [&] { return FlagOf(for_new_); });
 }
 HRESULT EmployeePickerObject::put_ParaNuevo(VARIANT_BOOL valor) noexcept {
   for_new_ = valor != VARIANT_FALSE;
   return S_OK;
 }
 HRESULT EmployeePickerObject::get_Aceptado(VARIANT_BOOL* valor) noexcept {
-  return GiveFlag(valor, accepted_);
+  return Give(valor, [&] { return FlagOf(accepted_); });
 }
 HRESULT EmployeePickerObject::put_Aceptado(VARIANT_BOOL valor) noexcept {
   accepted_ = valor != VARIANT_FALSE;
   return S_OK;
 }
 HRESULT EmployeePickerObject::get_OpcionFija(VARIANT_BOOL* valor) noexcept {
-  return GiveFlag(valor, fixed_option_);
+  return Give(valor, [&] { return FlagOf(fixed_option_); });
 }
 HRESULT EmployeePickerObject::put_OpcionFija(VARIANT_BOOL valor) noexcept {
   fixed_option_ = valor != VARIANT_FALSE;
   return S_OK;
 }
 HRESULT EmployeePickerObject::get_Codigo(BSTR* valor) noexcept {
-  return Do([&] { GiveText(valor, code_); });
+  return Give(valor, [&] { return MakeBstr(code_); });
 }
 HRESULT EmployeePickerObject::put_Codigo(BSTR valor) noexcept {
   return Do([&] { code_ = TextOfBstr(valor); });
 }
 HRESULT EmployeePickerObject::get_Nombre(BSTR* valor) noexcept {
-  return Do([&] { GiveText(valor, name_); });
+  return Give(valor, [&] { return MakeBstr(name_); });
 }
 HRESULT EmployeePickerObject::put_Nombre(BSTR valor) noexcept {
   return Do([&] { name_ = TextOfBstr(valor); });
 }
 
+HRESULT EmployeePickerObject::get_Reservada6(VARIANT* valor) noexcept {
+  const HRESULT whole = Do({valor}, [] {});
+  return FAILED(whole) ? whole : E_NOTIMPL;
+}
+
 HRESULT EmployeePickerObject::Elegir(IDispatch** conexion, BSTR* cod_sucursal) noexcept {
-  return Do([&] {
+  return Do({conexion, cod_sucursal}, [&] {
     ConnectionInOut connection(conexion);
     TextInOut branch(cod_sucursal);
     const auto picker = LibraryState::Of().Library().NewSelectorEmpleado();

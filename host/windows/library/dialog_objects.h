@@ -3,32 +3,29 @@
 #include <memory>
 
 #include "DllTrevano.h"
-#include "host/windows/library/dual_object.h"
+#include "adapters/automation/dual_object.h"
 #include "platform/library/library.h"
 
 namespace orvendal {
 
 // The library's classes that are dialogs.
 
-class SessionChangeObject final : public DualObject<_CambioSesion> {
+class SessionChangeObject final : public ClassObject<_CambioSesion, ::CambioSesion> {
  public:
-  SessionChangeObject() noexcept;
   HRESULT STDMETHODCALLTYPE AbrirCambio(IDispatch** conexion, double* dato_pantalla, BSTR* cod_sucursal,
                                         BSTR* cod_puesto, BSTR* cod_turno, LONG* ancho_base, LONG* alto_base,
                                         LONG* resultado) noexcept override;
 };
 
-class ProductSearchObject final : public DualObject<_BuscadorProductos> {
+class ProductSearchObject final : public ClassObject<_BuscadorProductos, ::BuscadorProductos> {
  public:
-  ProductSearchObject() noexcept;
   HRESULT STDMETHODCALLTYPE Buscar(_DatosClase** datos_sesion, IDispatch** formulario, BSTR* llamador,
                                    BSTR* campo, BSTR* texto, BSTR* modo, VARIANT_BOOL* indicador,
                                    BSTR* codigo) noexcept override;
 };
 
-class EmployeePickerObject final : public DualObject<_SelectorEmpleado> {
+class EmployeePickerObject final : public ClassObject<_SelectorEmpleado, ::SelectorEmpleado> {
  public:
-  EmployeePickerObject() noexcept;
   HRESULT STDMETHODCALLTYPE get_ParaNuevo(VARIANT_BOOL* valor) noexcept override;
   HRESULT STDMETHODCALLTYPE put_ParaNuevo(VARIANT_BOOL valor) noexcept override;
   HRESULT STDMETHODCALLTYPE get_Aceptado(VARIANT_BOOL* valor) noexcept override;
@@ -39,7 +36,7 @@ class EmployeePickerObject final : public DualObject<_SelectorEmpleado> {
   HRESULT STDMETHODCALLTYPE put_Codigo(BSTR valor) noexcept override;
   HRESULT STDMETHODCALLTYPE get_Nombre(BSTR* valor) noexcept override;
   HRESULT STDMETHODCALLTYPE put_Nombre(BSTR valor) noexcept override;
-  HRESULT STDMETHODCALLTYPE get_Reservada6(VARIANT*) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE get_Reservada6(VARIANT* valor) noexcept override;
   HRESULT STDMETHODCALLTYPE put_Reservada6(VARIANT) noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE Elegir(IDispatch** conexion, BSTR* cod_sucursal) noexcept override;
 

@@ -1,5 +1,3 @@
-#include <new>
-
 #include "adapters/automation/class_factory.h"
 #include "host/windows/library/dialog_objects.h"
 #include "host/windows/library/library_identity.h"
@@ -12,32 +10,15 @@
 namespace orvendal {
 namespace {
 
-template <typename Object>
-IUnknown* Make() noexcept {
-  auto* const made = new (std::nothrow) Object;
-  return made ? static_cast<IDispatch*>(made) : nullptr;
-}
-
-struct LibraryClass {
-  GUID identifier;
-  ClassFactory::Make make;
+constexpr CreatableClass kClasses[] = {
+    {__uuidof(::DatosClase), MakeObject<SessionObject>},
+    {__uuidof(::Herramientas), MakeObject<ToolsObject>},
+    {__uuidof(::Mensajes), MakeObject<MessagesObject>},
+    {__uuidof(::CambioSesion), MakeObject<SessionChangeObject>},
+    {__uuidof(::BuscadorProductos), MakeObject<ProductSearchObject>},
+    {__uuidof(::SelectorEmpleado), MakeObject<EmployeePickerObject>},
+    {__uuidof(::Recalculo), MakeObject<RecalculationObject>},
 };
-
-ClassFactory::Make MakerOf(REFCLSID class_id) noexcept {
-  const LibraryClass classes[] = {
-      {__uuidof(::DatosClase), Make<SessionObject>},
-      {__uuidof(::Herramientas), Make<ToolsObject>},
-      {__uuidof(::Mensajes), Make<MessagesObject>},
-      {__uuidof(::CambioSesion), Make<SessionChangeObject>},
-      {__uuidof(::BuscadorProductos), Make<ProductSearchObject>},
-      {__uuidof(::SelectorEmpleado), Make<EmployeePickerObject>},
-      {__uuidof(::Recalculo), Make<RecalculationObject>},
-  };
-  for (const LibraryClass& known : classes) {
-    if (known.identifier == class_id) return known.make;
-  }
-  return nullptr;
-}
 
 }  // namespace
 }  // namespace orvendal
@@ -45,12 +26,8 @@ ClassFactory::Make MakerOf(REFCLSID class_id) noexcept {
 extern "C" {
 
 HRESULT WINAPI DllGetClassObject(REFCLSID class_id, REFIID iid, LPVOID* object) {
-  if (!object) return E_POINTER;
-  *object = nullptr;
-  const auto make = orvendal::MakerOf(class_id);
-  if (!make) return CLASS_E_CLASSNOTAVAILABLE;
   orvendal::NameErrorSource(orvendal::library_identity::kProject);
-  return orvendal::GetClassFactory(make, iid, object);
+  return orvendal::GetClassFactory(orvendal::kClasses, class_id, iid, object);
 }
 
 HRESULT WINAPI DllCanUnloadNow() {

@@ -1,21 +1,15 @@
 #include "host/windows/library/library_objects.h"
 
-#include "host/windows/library/in_out.h"
+#include "host/windows/library/connection_in_out.h"
 #include "host/windows/library/library_state.h"
 #include "host/windows/library/object_property.h"
 #include "platform/base/text.h"
 
 namespace orvendal {
 
-ToolsObject::ToolsObject() noexcept : DualObject(__uuidof(_Herramientas), __uuidof(::Herramientas)) {}
-
 HRESULT ToolsObject::FiltrarTecla(IDispatch** caja, SHORT* key_ascii, VARIANT_BOOL* opcion,
                                   SHORT* tecla) noexcept {
-  return Do([&] {
-    for (const void* place : {static_cast<void*>(caja), static_cast<void*>(key_ascii),
-                              static_cast<void*>(opcion), static_cast<void*>(tecla)}) {
-      RequireReference(place);
-    }
+  return Do({caja, key_ascii, opcion, tecla}, [&] {
     const ComPtr<IDispatch> box(*caja);
     const EditedText text{TextProperty(box.Get(), L"Text"),
                           static_cast<int>(LongProperty(box.Get(), L"SelStart")),
@@ -35,7 +29,7 @@ HRESULT ToolsObject::FiltrarTecla(IDispatch** caja, SHORT* key_ascii, VARIANT_BO
 }
 
 HRESULT ToolsObject::AccionPuesto(IDispatch** conexion, BSTR* cod_puesto) noexcept {
-  return Do([&] {
+  return Do({conexion, cod_puesto}, [&] {
     ConnectionInOut connection(conexion);
     TextInOut workstation(cod_puesto);
     LibraryState::Of().Library().NewHerramientas()->AccionPuesto(connection.connection, workstation.text);
@@ -45,26 +39,22 @@ HRESULT ToolsObject::AccionPuesto(IDispatch** conexion, BSTR* cod_puesto) noexce
 }
 
 HRESULT ToolsObject::LiberarForm(IDispatch** formulario) noexcept {
-  return Do([&] {
-    RequireReference(formulario);
-    Replace(*formulario, {});
-  });
+  return Do({formulario}, [&] { Replace(*formulario, {}); });
 }
 
 HRESULT ToolsObject::FormatoFecha(BSTR* fecha, unsigned char* opcion, BSTR* modo1, BSTR* modo2,
                                   BSTR* texto) noexcept {
-  return Do([&] {
-    RequireReference(opcion);
+  return Do({fecha, opcion, modo1, modo2, texto}, [&] {
     TextInOut date(fecha);
     TextInOut first_mode(modo1);
     TextInOut second_mode(modo2);
-    GiveText(texto, LibraryState::Of().Library().NewHerramientas()->FormatoFecha(
-                        date.text, *opcion, first_mode.text, second_mode.text));
+    *texto = MakeBstr(LibraryState::Of().Library().NewHerramientas()->FormatoFecha(
+        date.text, *opcion, first_mode.text, second_mode.text));
   });
 }
 
 HRESULT ToolsObject::RegistrarSentencia(BSTR* cadena_sesion, IDispatch** conexion, BSTR* sentencia) noexcept {
-  return Do([&] {
+  return Do({cadena_sesion, conexion, sentencia}, [&] {
     TextInOut session(cadena_sesion);
     ConnectionInOut connection(conexion);
     TextInOut statement(sentencia);
@@ -74,19 +64,15 @@ HRESULT ToolsObject::RegistrarSentencia(BSTR* cadena_sesion, IDispatch** conexio
 }
 
 HRESULT ToolsObject::FechaHoraTexto(DATE* momento, BSTR* texto) noexcept {
-  return Do([&] {
-    RequireReference(momento);
+  return Do({momento, texto}, [&] {
     Date moment = Date::FromSerial(*momento);
-    GiveText(texto, LibraryState::Of().Library().NewHerramientas()->FechaHoraTexto(moment));
+    *texto = MakeBstr(LibraryState::Of().Library().NewHerramientas()->FechaHoraTexto(moment));
   });
 }
 
-RecalculationObject::RecalculationObject() noexcept
-    : DualObject(__uuidof(_Recalculo), __uuidof(::Recalculo)) {}
-
 HRESULT RecalculationObject::RecalcularProducto(IDispatch** conexion, BSTR* clave_sucursal, BSTR* codigo,
                                                 BSTR* texto) noexcept {
-  return Do([&] {
+  return Do({conexion, clave_sucursal, codigo, texto}, [&] {
     ConnectionInOut connection(conexion);
     TextInOut branch(clave_sucursal);
     TextInOut code(codigo);
@@ -96,12 +82,8 @@ HRESULT RecalculationObject::RecalcularProducto(IDispatch** conexion, BSTR* clav
   });
 }
 
-MessagesObject::MessagesObject() noexcept : DualObject(__uuidof(_Mensajes), __uuidof(::Mensajes)) {}
-
 HRESULT MessagesObject::Mostrar(BSTR* texto, LONG* estilo, BSTR* titulo, LONG* respuesta) noexcept {
-  return Do([&] {
-    RequireReference(estilo);
-    RequireReference(respuesta);
+  return Do({texto, estilo, titulo, respuesta}, [&] {
     TextInOut text(texto);
     TextInOut title(titulo);
     std::int32_t style = *estilo;

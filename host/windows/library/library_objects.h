@@ -1,8 +1,8 @@
 #pragma once
 
 #include "DllTrevano.h"
+#include "adapters/automation/dual_object.h"
 #include "host/library/quantity_filter.h"
-#include "host/windows/library/dual_object.h"
 #include "platform/library/library.h"
 
 namespace orvendal {
@@ -10,9 +10,8 @@ namespace orvendal {
 // The library's classes that work without a dialog of their own but for F1, and its messages. What each does
 // is the stand-in library's affair; here arguments cross, by the rules of the contract.
 
-class ToolsObject final : public DualObject<_Herramientas> {
+class ToolsObject final : public ClassObject<_Herramientas, ::Herramientas> {
  public:
-  ToolsObject() noexcept;
   HRESULT STDMETHODCALLTYPE Reservada1() noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE FiltrarTecla(IDispatch** caja, SHORT* key_ascii, VARIANT_BOOL* opcion,
                                          SHORT* tecla) noexcept override;
@@ -38,9 +37,8 @@ class ToolsObject final : public DualObject<_Herramientas> {
   QuantityFilter quantity_filter_;
 };
 
-class RecalculationObject final : public DualObject<_Recalculo> {
+class RecalculationObject final : public ClassObject<_Recalculo, ::Recalculo> {
  public:
-  RecalculationObject() noexcept;
   HRESULT STDMETHODCALLTYPE Reservada1() noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE Reservada2() noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE Reservada3() noexcept override { return E_NOTIMPL; }
@@ -59,9 +57,8 @@ class RecalculationObject final : public DualObject<_Recalculo> {
                                                BSTR* texto) noexcept override;
 };
 
-class MessagesObject final : public DualObject<_Mensajes> {
+class MessagesObject final : public ClassObject<_Mensajes, ::Mensajes> {
  public:
-  MessagesObject() noexcept;
   HRESULT STDMETHODCALLTYPE Mostrar(BSTR* texto, LONG* estilo, BSTR* titulo,
                                     LONG* respuesta) noexcept override;
 };

@@ -5,7 +5,9 @@
 #include "adapters/ado/ado_identity.h"
 #include "adapters/ado/ado_wrappers.h"
 #include "adapters/automation/bstr.h"
+#include "adapters/automation/call_out.h"
 #include "adapters/automation/com_ptr.h"
+#include "adapters/automation/create_object.h"
 #include "adapters/automation/error_boundary.h"
 #include "adapters/automation/module_lifetime.h"
 #include "adapters/win32/module_use.h"
@@ -35,16 +37,12 @@ Win32HostOptions NamedHost() {
 
 /// A new object of ADO's, opened.
 ConnectionRef OpenedConnection(const std::string& connection_string) {
-  constexpr std::int32_t kCannotCreate = 429;
-  ComPtr<::_Connection> connection;
-  if (FAILED(CoCreateInstance(ado::kConnectionClass, nullptr, CLSCTX_INPROC_SERVER, ado::kConnection,
-                              connection.ReceiveVoid()))) {
-    throw RuntimeError(kCannotCreate);
-  }
+  const auto connection =
+      CreateObject(ado::kConnectionClass, CLSCTX_INPROC_SERVER).Query<::_Connection>(ado::kConnection);
+  if (!connection) RaiseNoSuchInterface();
   const BstrCell text(connection_string);
   const BstrCell nothing("");
-  ForgetErrorInformation();
-  Check(connection->Open(text.Get(), nothing.Get(), nothing.Get(), kCommandUnspecified));
+  Ask([&] { return connection->Open(text.Get(), nothing.Get(), nothing.Get(), kCommandUnspecified); });
   return WrapConnection(connection.Get());
 }
 

@@ -3,7 +3,8 @@
 #include <atomic>
 
 #include "adapters/ado/ado_wrappers.h"
-#include "host/windows/library/in_out.h"
+#include "adapters/automation/in_out.h"
+#include "adapters/automation/variant.h"
 #include "host/windows/library/library_state.h"
 #include "host/windows/library/message_loop.h"
 
@@ -23,14 +24,8 @@ const char* NameOf(Language language) {
   return language == Language::kEnglish ? "en" : "es";
 }
 
-void GiveLong(LONG* place, std::int32_t number) {
-  RequireReference(place);
-  *place = number;
-}
-
 template <typename Reference>
 void ReplaceByStores(IDispatch** place, const Reference& reference) {
-  RequireReference(place);
   Replace(*place, ComPtr<IDispatch>(Unwrap(reference)));
 }
 
@@ -40,7 +35,7 @@ HostContext& Session() {
 
 }  // namespace
 
-SessionObject::SessionObject() noexcept : DualObject(__uuidof(_SampleSession), __uuidof(::DatosClase)) {
+SessionObject::SessionObject() noexcept {
   ++session_objects;
 }
 
@@ -48,16 +43,18 @@ SessionObject::~SessionObject() {
   if (--session_objects == 0) LibraryState::EndSession();
 }
 
-HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** /*objeto1*/, IDispatch** /*objeto2*/,
-                                      IDispatch** /*objeto3*/, IDispatch** /*objeto4*/, IDispatch** /*form1*/,
-                                      IDispatch** /*form2*/, LONG* ancho_base, LONG* alto_base,
+HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** objeto1, IDispatch** objeto2,
+                                      IDispatch** objeto3, IDispatch** objeto4, IDispatch** form1,
+                                      IDispatch** form2, LONG* ancho_base, LONG* alto_base,
                                       double* dato_pantalla, IDispatch** general, IDispatch** acciones,
                                       IDispatch** pantallas, BSTR* cadena_sesion,
                                       BSTR* cod_sucursal) noexcept {
-  return Do([&] {
+  const std::initializer_list<const void*> references = {
+      conexion,  objeto1,       objeto2, objeto3,  objeto4,   form1,         form2,       ancho_base,
+      alto_base, dato_pantalla, general, acciones, pantallas, cadena_sesion, cod_sucursal};
+  return Do(references, [&] {
     LibraryState& state = LibraryState::Of();
     HostContext& session = state.Context();
-    RequireReference(dato_pantalla);
     TextInOut text(cadena_sesion);
     TextInOut branch(cod_sucursal);
     if (!session.connection) state.OpenStore("", ProviderOf(dialect_));
@@ -69,8 +66,8 @@ HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** /*objeto
     text.text = SessionText(session);
 
     ReplaceByStores(conexion, session.connection);
-    GiveLong(ancho_base, session.ancho_base);
-    GiveLong(alto_base, session.alto_base);
+    *ancho_base = session.ancho_base;
+    *alto_base = session.alto_base;
     *dato_pantalla = session.dato_pantalla.Number();
     ReplaceByStores(general, dictionaries.general);
     ReplaceByStores(acciones, dictionaries.acciones);
@@ -81,7 +78,7 @@ HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** /*objeto
 }
 
 HRESULT SessionObject::get_Dialect(BSTR* value) noexcept {
-  return Do([&] { GiveText(value, dialect_); });
+  return Give(value, [&] { return MakeBstr(dialect_); });
 }
 
 HRESULT SessionObject::put_Dialect(BSTR value) noexcept {
@@ -101,10 +98,7 @@ HRESULT SessionObject::OpenConnection(BSTR connection_string) noexcept {
 }
 
 HRESULT SessionObject::get_Connection(IDispatch** value) noexcept {
-  return Do([&] {
-    RequireReference(value);
-    *value = ComPtr<IDispatch>(Unwrap(Session().connection)).Detach();
-  });
+  return Give(value, [] { return ComPtr<IDispatch>(Unwrap(Session().connection)).Detach(); });
 }
 
 HRESULT SessionObject::putref_Connection(IDispatch* value) noexcept {
@@ -112,11 +106,11 @@ HRESULT SessionObject::putref_Connection(IDispatch* value) noexcept {
 }
 
 HRESULT SessionObject::get_StoreName(BSTR* value) noexcept {
-  return Do([&] { GiveText(value, Session().store_name); });
+  return Give(value, [&] { return MakeBstr(Session().store_name); });
 }
 
 HRESULT SessionObject::get_Language(BSTR* value) noexcept {
-  return Do([&] { GiveText(value, NameOf(LibraryState::Of().GetLanguage())); });
+  return Give(value, [&] { return MakeBstr(NameOf(LibraryState::Of().GetLanguage())); });
 }
 
 HRESULT SessionObject::put_Language(BSTR value) noexcept {
@@ -128,7 +122,7 @@ HRESULT SessionObject::put_Language(BSTR value) noexcept {
 }
 
 HRESULT SessionObject::get_BaseWidth(LONG* value) noexcept {
-  return Do([&] { GiveLong(value, Session().ancho_base); });
+  return Give(value, [&] { return LONG{Session().ancho_base}; });
 }
 
 HRESULT SessionObject::put_BaseWidth(LONG value) noexcept {
@@ -136,7 +130,7 @@ HRESULT SessionObject::put_BaseWidth(LONG value) noexcept {
 }
 
 HRESULT SessionObject::get_BaseHeight(LONG* value) noexcept {
-  return Do([&] { GiveLong(value, Session().alto_base); });
+  return Give(value, [&] { return LONG{Session().alto_base}; });
 }
 
 HRESULT SessionObject::put_BaseHeight(LONG value) noexcept {
@@ -144,7 +138,7 @@ HRESULT SessionObject::put_BaseHeight(LONG value) noexcept {
 }
 
 HRESULT SessionObject::get_Branch(BSTR* value) noexcept {
-  return Do([&] { GiveText(value, branch_); });
+  return Give(value, [&] { return MakeBstr(branch_); });
 }
 
 HRESULT SessionObject::put_Branch(BSTR value) noexcept {
@@ -152,7 +146,7 @@ HRESULT SessionObject::put_Branch(BSTR value) noexcept {
 }
 
 HRESULT SessionObject::get_Workstation(BSTR* value) noexcept {
-  return Do([&] { GiveText(value, Session().puesto); });
+  return Give(value, [&] { return MakeBstr(Session().puesto); });
 }
 
 HRESULT SessionObject::put_Workstation(BSTR value) noexcept {
@@ -160,7 +154,7 @@ HRESULT SessionObject::put_Workstation(BSTR value) noexcept {
 }
 
 HRESULT SessionObject::get_Shift(BSTR* value) noexcept {
-  return Do([&] { GiveText(value, Session().turno); });
+  return Give(value, [&] { return MakeBstr(Session().turno); });
 }
 
 HRESULT SessionObject::put_Shift(BSTR value) noexcept {
@@ -172,10 +166,7 @@ HRESULT SessionObject::Pump(LONG milliseconds) noexcept {
 }
 
 HRESULT SessionObject::get_ScreenIsOpen(VARIANT_BOOL* value) noexcept {
-  return Do([&] {
-    RequireReference(value);
-    *value = HasScreen() ? VARIANT_TRUE : VARIANT_FALSE;
-  });
+  return Give(value, [] { return FlagOf(HasScreen()); });
 }
 
 }  // namespace orvendal

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "DllTrevano.h"
-#include "host/windows/library/dual_object.h"
+#include "adapters/automation/dual_object.h"
 
 namespace orvendal {
 
 /// A session object for hosts that have none of their own, scripts above all: DatosClase. All of them stand
 /// for the one session of the library, whose connection goes with the last of them.
-class SessionObject final : public DualObject<_SampleSession> {
+class SessionObject final : public ClassObject<_SampleSession, ::DatosClase> {
  public:
   SessionObject() noexcept;
 
@@ -43,7 +43,7 @@ class SessionObject final : public DualObject<_SampleSession> {
   HRESULT STDMETHODCALLTYPE get_ScreenIsOpen(VARIANT_BOOL* value) noexcept override;
 
  protected:
-  bool AnswersBase(REFIID iid) const noexcept override { return iid == __uuidof(_DatosClase); }
+  bool AnswersTo(REFIID iid) const noexcept override { return iid == __uuidof(_DatosClase); }
 
  private:
   ~SessionObject() override;

@@ -16,7 +16,7 @@ namespace {
 constexpr GUID kIdentifiers[] = {ado::kAdo,          ado::kNewerAdo,
                                  ado::kConnection15, ado::kNewerConnection15,
                                  ado::kConnection,   ado::kNewerConnection};
-constexpr DataObjectKind kKind{L"ADODB.Connection", ado::kConnection, kIdentifiers};
+constexpr DataObjectKind kKind{L"ADODB.Connection", kIdentifiers};
 
 // By which the module knows its own connections: the object's own address comes back.
 constexpr GUID kOwnConnection = {
@@ -51,13 +51,8 @@ ComPtr<ConnectionObject> ConnectionObject::Behind(IUnknown* object) {
   return ComPtr<ConnectionObject>::Adopt(static_cast<ConnectionObject*>(own));
 }
 
-HRESULT ConnectionObject::QueryInterface(REFIID iid, void** object) noexcept {
-  if (object && iid == kOwnConnection) {
-    AddRef();
-    *object = this;
-    return S_OK;
-  }
-  return DataObject::QueryInterface(iid, object);
+void* ConnectionObject::Find(REFIID iid) noexcept {
+  return iid == kOwnConnection ? this : DataObject::Find(iid);
 }
 
 std::shared_ptr<SqliteConnection> ConnectionObject::Store() const {
@@ -147,9 +142,8 @@ HRESULT ConnectionObject::put_ConnectionString(BSTR text) noexcept {
 
 HRESULT ConnectionObject::Execute(BSTR command, VARIANT* affected, LONG options,
                                   ::_Recordset** result) noexcept {
-  if (!result) return E_POINTER;
-  *result = nullptr;
-  return Do([&] {
+  return Do({result}, [&] {
+    *result = nullptr;
     SqliteConnection& store = OpenedStore();
     const bool unspecified = options == kCommandUnspecified;
     const int before = sqlite3_total_changes(store.Handle());
@@ -165,15 +159,14 @@ HRESULT ConnectionObject::Execute(BSTR command, VARIANT* affected, LONG options,
 }
 
 HRESULT ConnectionObject::BeginTrans(LONG* result) noexcept {
-  if (result) *result = 0;
-  return Do([&] {
+  return Give(result, [&] {
     SqliteConnection& store = OpenedStore();
     if (in_transaction_) {
       throw RuntimeError(kTransactionExists, "Cannot start more transactions on this session.");
     }
     store.Execute("BEGIN");
     in_transaction_ = true;
-    if (result) *result = 1;
+    return LONG{1};
   });
 }
 

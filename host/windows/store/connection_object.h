@@ -28,7 +28,6 @@ class ConnectionObject final : public DataObject<::_Connection> {
   /// As the method of the same name, with no name and no password. Raises 3705 if it is open.
   void OpenBy(const std::string& connection_string);
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override;
   HRESULT STDMETHODCALLTYPE get_Properties(IDispatch** result) noexcept override;
   HRESULT STDMETHODCALLTYPE get_ConnectionString(BSTR* result) noexcept override;
   HRESULT STDMETHODCALLTYPE put_ConnectionString(BSTR text) noexcept override;
@@ -65,6 +64,7 @@ class ConnectionObject final : public DataObject<::_Connection> {
  private:
   ~ConnectionObject() override;
 
+  void* Find(REFIID iid) noexcept override;
   bool IsOpen() const { return store_ && store_->IsOpen(); }
   void RequireClosed() const;
   SqliteConnection& OpenedStore() const;

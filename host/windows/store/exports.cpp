@@ -1,5 +1,3 @@
-#include <new>
-
 #include "adapters/automation/class_factory.h"
 #include "adapters/automation/module_lifetime.h"
 #include "host/windows/store/connection_object.h"
@@ -11,10 +9,10 @@
 namespace orvendal {
 namespace {
 
-template <typename Object, typename Interface>
-IUnknown* Make() noexcept {
-  return static_cast<Interface*>(new (std::nothrow) Object);
-}
+constexpr CreatableClass kClasses[] = {
+    {ado::kConnectionClass, MakeObject<ConnectionObject>},
+    {ado::kRecordsetClass, MakeObject<RecordsetObject>},
+};
 
 }  // namespace
 }  // namespace orvendal
@@ -22,16 +20,7 @@ IUnknown* Make() noexcept {
 extern "C" {
 
 HRESULT WINAPI DllGetClassObject(REFCLSID class_id, REFIID iid, LPVOID* object) {
-  using namespace orvendal;
-  if (!object) return E_POINTER;
-  *object = nullptr;
-  if (class_id == ado::kConnectionClass) {
-    return GetClassFactory(Make<ConnectionObject, ::_Connection>, iid, object);
-  }
-  if (class_id == ado::kRecordsetClass) {
-    return GetClassFactory(Make<RecordsetObject, ::_Recordset>, iid, object);
-  }
-  return CLASS_E_CLASSNOTAVAILABLE;
+  return orvendal::GetClassFactory(orvendal::kClasses, class_id, iid, object);
 }
 
 HRESULT WINAPI DllCanUnloadNow() {

@@ -10,8 +10,6 @@ class FieldsObject final : public DataObject<::Fields> {
  public:
   explicit FieldsObject(RecordsetObject& recordset) noexcept;
 
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID iid, LCID lcid, WORD flags, DISPPARAMS* arguments,
-                                   VARIANT* result, EXCEPINFO* exception, UINT* wrong) noexcept override;
   HRESULT STDMETHODCALLTYPE get_Count(LONG* result) noexcept override;
   HRESULT STDMETHODCALLTYPE _NewEnum(IUnknown** result) noexcept override;
   HRESULT STDMETHODCALLTYPE Refresh() noexcept override;
@@ -29,6 +27,7 @@ class FieldsObject final : public DataObject<::Fields> {
 
  private:
   ~FieldsObject() override;
+  HRESULT Call(const DispatchCall& call) override;
 
   ComPtr<RecordsetObject> recordset_;
 };

@@ -16,7 +16,7 @@ constexpr GUID kIdentifiers[] = {
     ado::kAdo,         ado::kNewerAdo,         ado::kRecordset15, ado::kNewerRecordset15,
     ado::kRecordset20, ado::kNewerRecordset20, ado::kRecordset21, ado::kNewerRecordset21,
     ado::kRecordset,   ado::kNewerRecordset};
-constexpr DataObjectKind kKind{L"ADODB.Recordset", ado::kRecordset, kIdentifiers};
+constexpr DataObjectKind kKind{L"ADODB.Recordset", kIdentifiers};
 
 constexpr DISPID kCollect = -8;
 
@@ -68,22 +68,16 @@ void RecordsetObject::Forget(const FieldsObject* fields) {
 }
 
 // A script's rs("Name") and rs.Fields("Name") come as the default property with an argument more than it has.
-HRESULT RecordsetObject::Invoke(DISPID member, REFIID iid, LCID lcid, WORD flags, DISPPARAMS* arguments,
-                                VARIANT* result, EXCEPINFO* exception, UINT* wrong) noexcept {
-  const bool puts = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
-  const bool indexed = member == DISPID_VALUE && arguments && arguments->cArgs == (puts ? 2U : 1U);
-  if (indexed && puts) {
-    return RecordsetPlaces::Invoke(kCollect, iid, lcid, DISPATCH_PROPERTYPUT, arguments, result, exception,
-                                   wrong);
+HRESULT RecordsetObject::Call(const DispatchCall& call) {
+  const bool indexed = call.member == DISPID_VALUE && call.arguments.cArgs == (call.Puts() ? 2U : 1U);
+  if (indexed && call.Puts()) {
+    return RecordsetPlaces::Call(
+        {kCollect, call.lcid, DISPATCH_PROPERTYPUT, call.arguments, call.result, call.exception, call.wrong});
   }
-  if (!indexed || arguments->cNamedArgs != 0) {
-    return RecordsetPlaces::Invoke(member, iid, lcid, flags, arguments, result, exception, wrong);
-  }
-  const ComPtr<IUnknown> self(static_cast<::_Recordset*>(this));
+  if (!indexed || call.arguments.cNamedArgs != 0) return RecordsetPlaces::Call(call);
   ComPtr<::Fields> fields;
-  const HRESULT got = get_Fields(fields.Receive());
-  if (FAILED(got)) return AsInvokeFailure(got, exception);
-  return fields->Invoke(DISPID_VALUE, iid, lcid, DISPATCH_PROPERTYGET, arguments, result, exception, wrong);
+  Check(get_Fields(fields.Receive()));
+  return CallDefault(*fields.Get(), DISPATCH_PROPERTYGET, call);
 }
 
 HRESULT RecordsetObject::get_AbsolutePosition(ADO_LONGPTR* result) noexcept {
@@ -193,7 +187,6 @@ HRESULT RecordsetObject::get_Collect(VARIANT index, VARIANT* result) noexcept {
 HRESULT RecordsetObject::put_Collect(VARIANT index, VARIANT value) noexcept {
   return Do([&] {
     RequireOpen();
-    const ComPtr<IUnknown> self(static_cast<::_Recordset*>(this));
     const std::size_t field = FieldAt(index);
     const unsigned opening = opening_;
     const Value read = ValueOf(value);

@@ -48,8 +48,6 @@ class RecordsetObject final : public RecordsetPlaces {
   std::size_t FieldAt(const VARIANT& index) const;
   void Forget(const FieldsObject* fields);
 
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID iid, LCID lcid, WORD flags, DISPPARAMS* arguments,
-                                   VARIANT* result, EXCEPINFO* exception, UINT* wrong) noexcept override;
   HRESULT STDMETHODCALLTYPE get_AbsolutePosition(ADO_LONGPTR* result) noexcept override;
   HRESULT STDMETHODCALLTYPE put_AbsolutePosition(ADO_LONGPTR position) noexcept override;
   HRESULT STDMETHODCALLTYPE putref_ActiveConnection(IDispatch* connection) noexcept override;
@@ -89,6 +87,7 @@ class RecordsetObject final : public RecordsetPlaces {
   HRESULT STDMETHODCALLTYPE Cancel() noexcept override;
 
  private:
+  HRESULT Call(const DispatchCall& call) override;
   void RequireClosed() const;
   void RequireOpen() const;
   /// Counts and positions are not known with a forward-only cursor.

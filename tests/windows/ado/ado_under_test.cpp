@@ -33,7 +33,8 @@ IUnknown* MakeRecordset() noexcept {
 
 ComPtr<IUnknown> RecordsetFactoryObject() {
   ComPtr<IUnknown> factory;
-  EXPECT_EQ(GetClassFactory(MakeRecordset, IID_IUnknown, factory.ReceiveVoid()), S_OK);
+  constexpr CreatableClass kClasses[] = {{ado::kRecordsetClass, MakeRecordset}};
+  EXPECT_EQ(GetClassFactory(kClasses, ado::kRecordsetClass, IID_IUnknown, factory.ReceiveVoid()), S_OK);
   return factory;
 }
 

@@ -126,7 +126,8 @@ class Factory : public Wrapping {
     provider_of_class = of_class;
     answer_of_class = answer;
     ComPtr<IUnknown> factory;
-    ASSERT_EQ(GetClassFactory(MakeRecordset, IID_IUnknown, factory.ReceiveVoid()), S_OK);
+    constexpr CreatableClass kClasses[] = {{ado::kRecordsetClass, MakeRecordset}};
+    ASSERT_EQ(GetClassFactory(kClasses, ado::kRecordsetClass, IID_IUnknown, factory.ReceiveVoid()), S_OK);
     known_.emplace(ado::kRecordsetClass, factory.Get());
     ASSERT_EQ(known_->Result(), S_OK);
   }
