@@ -30,7 +30,7 @@ void AdoConnection::CheckNumber(const std::string& text) const {
 }
 
 void AdoConnection::Close() {
-  ado::Ask([&] { return object_->Close(); });
+  Ask([&] { return object_->Close(); });
 }
 
 }  // namespace orvendal

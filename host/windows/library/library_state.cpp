@@ -17,6 +17,7 @@
 #include "host/store/default_store.h"
 #include "host/store/host_store.h"
 #include "host/store/private_file.h"
+#include "host/utf8_path.h"
 
 namespace orvendal {
 namespace {
