@@ -88,7 +88,8 @@ TEST_F(ChangeGuardTest, StopsAtAnEmptyRowPastTheSnapshot) {
 
 TEST_F(ChangeGuardTest, DoesNotCompareDescriptionPreviousQuantityStylistOrDate) {
   Open(3);
-  for (const int column : {kDescription, kBefore, kEmployee, kStylist, kDay, kStoredCode, kStoredQuantity})
+  for (const int column :
+       {kDescription, kPreviousQuantity, kEmployeeCode, kStylist, kDate, kStoredCode, kStoredQuantity})
     screen.form().MSFProductos.TextMatrix(2, column, "otro");
   EXPECT_FALSE(HasChanges());
 }

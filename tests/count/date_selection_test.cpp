@@ -43,7 +43,7 @@ TEST_P(DateSelectionTest, WithNothingUnsavedShowsTheDayWithoutAQuestion) {
   EXPECT_EQ(form().Calendario.Value(), kOther);
   EXPECT_EQ(form().MkFecha.Text(), Text(kOther));
   EXPECT_EQ(screen.Codes(), Texts{"P20"});
-  EXPECT_EQ(screen.Cell(1, kDay), Text(kOther));
+  EXPECT_EQ(screen.Cell(1, kDate), Text(kOther));
   EXPECT_FALSE(form().HayCambios());
 }
 

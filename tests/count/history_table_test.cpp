@@ -101,7 +101,7 @@ TEST_P(HistoryTableTest, FieldNamesAreTakenInAnySpelling) {
   screen.Execute("ALTER TABLE HistOrvendalcial RENAME COLUMN IdSucursal TO IDSUCURSAL");
   screen.AddCount("P1", 7, 9);
   screen.OpenWithStylist();
-  EXPECT_EQ(screen.Cell(1, kBefore), "7");
+  EXPECT_EQ(screen.Cell(1, kPreviousQuantity), "7");
   screen.Click("LblGuardar");
   EXPECT_TRUE(TakeErrors(screen).empty());
   EXPECT_EQ(screen.Sql("SELECT StockAnterior FROM HistOrvendalcial"), "7");

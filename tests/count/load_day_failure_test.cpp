@@ -68,7 +68,7 @@ TEST_P(LoadDayFailureTest, ANullNameIsAnEmptyStylist) {
   screen.Click("LblCancelar");
   EXPECT_TRUE(TakeErrors(screen).empty());
   EXPECT_EQ(screen.Cell(1, kStylist), "");
-  EXPECT_EQ(screen.Cell(1, kEmployee), "E1");
+  EXPECT_EQ(screen.Cell(1, kEmployeeCode), "E1");
 }
 
 TEST_P(LoadDayFailureTest, AStoreWithoutTheFieldIsReported) {

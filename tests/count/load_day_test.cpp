@@ -69,7 +69,7 @@ TEST_P(LoadDayTest, ThirteenRowsMakeFifteen) {
 TEST_P(LoadDayTest, AnEmployeeWhomTheStoreDoesNotKnowShowsCodeOnly) {
   screen.AddCount("P1", 1, 2, "E99");
   screen.Open();
-  EXPECT_EQ(screen.Cell(1, kEmployee), "E99");
+  EXPECT_EQ(screen.Cell(1, kEmployeeCode), "E99");
   EXPECT_EQ(screen.Cell(1, kStylist), "");
   EXPECT_EQ(SnapshotLine(screen, 1)[kStylist], "");
 }
@@ -152,7 +152,7 @@ TEST_P(LoadDayTest, ShowsARowWithATimeOfTheDay) {
   screen.AddCount("P1", 1, 2);
   screen.Execute("UPDATE HistOrvendalcial SET Fecha = '2026-11-16 23:59:59'");
   screen.Open();
-  EXPECT_EQ(screen.Cell(1, kDay), "16/11/2026 23:59:59");
+  EXPECT_EQ(screen.Cell(1, kDate), "16/11/2026 23:59:59");
 }
 
 TEST_P(LoadDayTest, TouchesNeitherHeaderNorEditorNorBarNorTheListOfCodes) {

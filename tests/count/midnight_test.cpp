@@ -42,7 +42,7 @@ TEST_P(MidnightTest, UnderTheOpenScreenLeavesTheCountOnItsDay) {
   screen.EnterLine("P1", "5");
   Strike();
   screen.EnterLine("P4", "6");
-  EXPECT_EQ(screen.Cell(3, kDay), "16/11/2026");
+  EXPECT_EQ(screen.Cell(3, kDate), "16/11/2026");
   screen.Click("LblGuardar");
   EXPECT_EQ(StoredOn("2026-11-16"), "P10 P1 P4");
   EXPECT_EQ(StoredOn("2026-11-17"), "P20");

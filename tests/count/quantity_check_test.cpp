@@ -102,7 +102,7 @@ TEST_P(QuantityCheckTest, PutRightThereTheCountIsSavedWhole) {
 TEST_P(QuantityCheckTest, APreviousQuantityThatTheStoreHeldAsAWordLeadsToItsLine) {
   screen.Execute("UPDATE HistOrvendalcial SET StockAnterior = 'pocos' WHERE IdProducto = 'P12'");
   screen.Click("LblCancelar");
-  ASSERT_EQ(screen.Cell(3, kBefore), "pocos");
+  ASSERT_EQ(screen.Cell(3, kPreviousQuantity), "pocos");
   screen.EnterLine("P1", "5");
   Forget(screen);
   screen.Click("LblGuardar");
@@ -136,7 +136,7 @@ TEST_P(QuantityCheckTest, ALineFarBelowIsBroughtIntoView) {
 
 TEST_P(QuantityCheckTest, AnEmptyQuantityIsZeroAsEver) {
   PutQuantity(2, "");
-  screen.form().MSFProductos.TextMatrix(2, kBefore, "");
+  screen.form().MSFProductos.TextMatrix(2, kPreviousQuantity, "");
   screen.Click("LblGuardar");
   EXPECT_TRUE(TakeErrors(screen).empty());
   EXPECT_EQ(screen.Sql("SELECT StockAnterior || ' ' || StockActual FROM HistOrvendalcial WHERE IdProducto = "

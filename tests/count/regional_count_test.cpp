@@ -46,7 +46,7 @@ TEST_P(RegionalCountTest, SavedTwiceIsStillOneDay) {
   screen.AddCount("P2", 2.5, 3.5, "E1", Iso(GetParam().day));
   screen.AddCount("P3", 1, 2, "E1", Iso(DaysLater(1)));
   screen.OpenWithStylist();
-  EXPECT_EQ(screen.Cell(1, kBefore), Quantity("2", "5"));
+  EXPECT_EQ(screen.Cell(1, kPreviousQuantity), Quantity("2", "5"));
   for (int times = 0; times < 2; ++times) {
     screen.form().TxtEmpleado.Text("Ana");
     screen.form().LblGuardar_Click(0);

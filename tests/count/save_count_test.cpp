@@ -131,7 +131,7 @@ TEST_P(SaveCountTest, AnEmptyQuantityIsStoredAsZero) {
 TEST_P(SaveCountTest, EmptyCellsAreFilledFromTheHeaderAndTheScreen) {
   screen.OpenWithStylist();
   screen.EnterLine("P1", "5");
-  for (const int column : {kBefore, kQuantity, kEmployee, kDay})
+  for (const int column : {kPreviousQuantity, kQuantity, kEmployeeCode, kDate})
     screen.form().MSFProductos.TextMatrix(1, column, "");
   screen.Click("LblGuardar");
   EXPECT_EQ(screen.Sql("SELECT StockAnterior || ' ' || StockActual || ' ' || IdEmpleado || ' ' || Fecha "
@@ -184,8 +184,8 @@ TEST_P(SaveCountTest, ALineIsSavedOnItsOwnDayAndOneWithoutADayOnThatOfTheHiddenB
   screen.EnterLine("P1", "5");
   screen.EnterLine("P4", "6");
   screen.EnterLine("P3", "7");
-  screen.form().MSFProductos.TextMatrix(1, kDay, "12/11/2026");
-  screen.form().MSFProductos.TextMatrix(2, kDay, "");
+  screen.form().MSFProductos.TextMatrix(1, kDate, "12/11/2026");
+  screen.form().MSFProductos.TextMatrix(2, kDate, "");
   ASSERT_EQ(screen.form().MkFecha.Text(), "13/11/2026");
   screen.Click("LblGuardar");
   EXPECT_EQ(Stored("P1", "Fecha"), "2026-11-12 00:00:00");

@@ -96,13 +96,13 @@ TEST_P(SaveFailureTest, AnEmptyQuantityShowsZeroInTheGridAfterwards) {
 }
 
 TEST_P(SaveFailureTest, ATextThatIsTooLongForItsColumnIsRefusedByTheStoreItself) {
-  screen.form().MSFProductos.TextMatrix(2, kEmployee, std::string(300, 'E'));
+  screen.form().MSFProductos.TextMatrix(2, kEmployeeCode, std::string(300, 'E'));
   screen.Click("LblGuardar");
   const Texts messages = TakeMessages(screen);
   ASSERT_EQ(messages.size(), 1U);
   EXPECT_TRUE(messages[0].starts_with("[16] \"Error\" \"Error al grabar \\r\\n")) << messages[0];
   EXPECT_EQ(StoredCodes(), "P10");
-  screen.form().MSFProductos.TextMatrix(2, kEmployee, "E1");
+  screen.form().MSFProductos.TextMatrix(2, kEmployeeCode, "E1");
   ExpectNextSaveStartsClean();
 }
 
@@ -183,14 +183,14 @@ TEST_P(UntrappedSaveFailureTest, OfTheMomentLeavesItsRowPendingToo) {
 }
 
 TEST_P(UntrappedSaveFailureTest, OfADateThatIsNoneComesFromItsAssignment) {
-  screen.form().MSFProductos.TextMatrix(2, kDay, "ayer");
+  screen.form().MSFProductos.TextMatrix(2, kDate, "ayer");
   screen.Click("LblGuardar");
   const Texts errors = TakeErrors(screen);
   ASSERT_EQ(errors.size(), 1U);
   EXPECT_TRUE(errors[0].starts_with("3421: ")) << errors[0];
   EXPECT_EQ(StoredCodes(), "P10");
   EXPECT_TRUE(TakeMessages(screen).empty());
-  screen.form().MSFProductos.TextMatrix(2, kDay, "16/11/2026");
+  screen.form().MSFProductos.TextMatrix(2, kDate, "16/11/2026");
   ExpectNextSaveStartsClean();
 }
 

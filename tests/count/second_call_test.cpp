@@ -44,7 +44,7 @@ TEST_P(SecondCallTest, LeavesTheEditorWithWhatWasTyped) {
 TEST_P(SecondCallTest, LinesEnteredAfterItTakeTheStockOfTheNewBranch) {
   screen.Open("02");
   screen.Type("P5\n");
-  EXPECT_EQ(screen.Cell(3, kBefore), "4");
+  EXPECT_EQ(screen.Cell(3, kPreviousQuantity), "4");
 }
 
 TEST_P(SecondCallTest, ASaveAfterItWritesAllLinesUnderTheNewBranch) {

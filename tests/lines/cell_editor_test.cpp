@@ -105,7 +105,7 @@ TEST_F(CellEditorTest, NotesCodeAndPreviousQuantityOfItsLine) {
 }
 
 TEST_F(CellEditorTest, OpensOnTheNewQuantityWhenThePreviousOneIsDoubleClicked) {
-  screen.DoubleClickCell(2, kBefore);
+  screen.DoubleClickCell(2, kPreviousQuantity);
   EXPECT_EQ(Cursor(screen), "2,3");
   EXPECT_TRUE(EditorIsOpen(screen));
   EXPECT_EQ(EditorText(screen), "2");
@@ -122,7 +122,7 @@ TEST_F(CellEditorTest, OpensOnTheNewQuantityWhenTheStylistIsDoubleClicked) {
 
 TEST_F(CellEditorTest, OpensOnTheNewQuantityAlsoWhenThePreviousOneIsTheCurrentCell) {
   form().MSFProductos.Row(2);
-  form().MSFProductos.Col(kBefore);
+  form().MSFProductos.Col(kPreviousQuantity);
   int blank = ' ';
   form().EntrarCelda(blank);
   EXPECT_EQ(Cursor(screen), "2,3");
@@ -230,7 +230,7 @@ TEST_F(CellEditorTest, BeepsAtWhatIsNoDigitIfItEverStandsOnThePreviousQuantity) 
   screen.DoubleClickCell(2, kQuantity);
   // The cursor is carried past the previous quantity; only with the events silenced does it stay there.
   form().variables.PintandoFila = true;
-  form().MSFProductos.Col(kBefore);
+  form().MSFProductos.Col(kPreviousQuantity);
   form().variables.PintandoFila = false;
   screen.Type("a5/:");
   EXPECT_EQ(EditorText(screen), "5");

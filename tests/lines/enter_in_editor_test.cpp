@@ -160,7 +160,7 @@ TEST_F(EnterInEditorTest, OnColumnTwoGoesToColumnThreeIfItEverStandsThere) {
   Open(2);
   screen.DoubleClickCell(1, kQuantity);
   screen.form().variables.PintandoFila = true;  // no event carries the cursor past the previous quantity
-  screen.form().MSFProductos.Col(kBefore);
+  screen.form().MSFProductos.Col(kPreviousQuantity);
   screen.form().variables.PintandoFila = false;
   screen.form().TxtMSF.Text("");
   screen.Enter();
@@ -168,7 +168,7 @@ TEST_F(EnterInEditorTest, OnColumnTwoGoesToColumnThreeIfItEverStandsThere) {
   screen.form().TxtMSF.Text("8");
   screen.Enter();
   EXPECT_EQ(Cursor(screen), "1,3");
-  EXPECT_EQ(screen.Cell(1, kBefore), "0");
+  EXPECT_EQ(screen.Cell(1, kPreviousQuantity), "0");
   EXPECT_EQ(screen.Cell(1, kQuantity), "1");
 }
 

@@ -60,7 +60,7 @@ TEST_F(EventOrderTest, OfAClickOnAnotherLine) {
 TEST_F(EventOrderTest, OfADoubleClickOnThePreviousQuantity) {
   screen.ClickCell(2, kCode);
   Take();
-  screen.DoubleClickCell(2, kBefore);
+  screen.DoubleClickCell(2, kPreviousQuantity);
   EXPECT_EQ(Take(),
             (Texts{"LeaveCell 2,0", "end LeaveCell", "RowColChange 2,2", "end RowColChange", "MouseDown 2,2",
                    "Click 2,2", "LeaveCell 2,2", "end LeaveCell", "RowColChange 2,3", "end RowColChange",

@@ -28,7 +28,7 @@ TEST_F(GridCursorTest, AClickOnTheDescriptionStaysThere) {
 }
 
 TEST_F(GridCursorTest, AClickOnThePreviousQuantityLandsOnTheNewOne) {
-  screen.ClickCell(2, kBefore);
+  screen.ClickCell(2, kPreviousQuantity);
   EXPECT_EQ(Cursor(screen), "2,3");
 }
 

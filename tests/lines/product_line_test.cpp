@@ -29,7 +29,7 @@ class ProductLineTest : public testing::Test {
 TEST_F(ProductLineTest, WithoutAStockRowShowsZeroTwice) {
   Open();
   Enter(1, "P4");
-  EXPECT_EQ(screen.Cell(1, kBefore), "0");
+  EXPECT_EQ(screen.Cell(1, kPreviousQuantity), "0");
   EXPECT_EQ(screen.Cell(1, kQuantity), "0");
   EXPECT_EQ(EditorText(screen), "0");
 }
@@ -38,9 +38,9 @@ TEST_F(ProductLineTest, RoundsAFractionalStockToTheEvenNumber) {
   Open();
   Enter(1, "P2");  // 2.5
   Enter(2, "P3");  // 3.5
-  EXPECT_EQ(screen.Cell(1, kBefore), "2");
+  EXPECT_EQ(screen.Cell(1, kPreviousQuantity), "2");
   EXPECT_EQ(screen.Cell(1, kQuantity), "2");
-  EXPECT_EQ(screen.Cell(2, kBefore), "4");
+  EXPECT_EQ(screen.Cell(2, kPreviousQuantity), "4");
   EXPECT_EQ(screen.Cell(2, kQuantity), "4");
 }
 
@@ -48,21 +48,21 @@ TEST_F(ProductLineTest, ShowsANegativeStock) {
   screen.Execute("UPDATE ProdSucStock SET Stock = -3.5 WHERE IdProducto = 'P1'");
   Open();
   Enter(1, "P1");
-  EXPECT_EQ(screen.Cell(1, kBefore), "-4");
+  EXPECT_EQ(screen.Cell(1, kPreviousQuantity), "-4");
 }
 
 TEST_F(ProductLineTest, TakesTheStockOfItsBranchOnly) {
   Open("02");
   Enter(1, "P5");
   Enter(2, "P1");
-  EXPECT_EQ(screen.Cell(1, kBefore), "4");
-  EXPECT_EQ(screen.Cell(2, kBefore), "0");
+  EXPECT_EQ(screen.Cell(1, kPreviousQuantity), "4");
+  EXPECT_EQ(screen.Cell(2, kPreviousQuantity), "0");
 }
 
 TEST_F(ProductLineTest, CutsALongBranchCodeToItsFirstTwoCharacters) {
   Open("02-NORTE");
   Enter(1, "P5");
-  EXPECT_EQ(screen.Cell(1, kBefore), "4");
+  EXPECT_EQ(screen.Cell(1, kPreviousQuantity), "4");
   const Texts statements = TakeStatements(screen);
   ASSERT_FALSE(statements.empty());
   EXPECT_EQ(statements.back(), "SELECT * FROM ProdSucStock WHERE IdSucursal ='02' AND IdProducto ='P5'");
@@ -90,7 +90,7 @@ TEST_F(ProductLineTest, TakesTheDayOfTheCalendar) {
   EnterSupervisorMode(screen);
   PickDay(screen, Date(2026, 11, 20));
   Enter(1, "P1");
-  EXPECT_EQ(screen.Cell(1, kDay), "20/11/2026");
+  EXPECT_EQ(screen.Cell(1, kDate), "20/11/2026");
   EXPECT_EQ(screen.Cell(1, kStylist), "Berta");
 }
 
@@ -99,7 +99,7 @@ TEST_F(ProductLineTest, TakesTheDayOfTheCalendarInTheSystemsFormWhateverFormTheL
   Open();
   ASSERT_EQ(screen.form().MkFecha.Text(), "2026-11-16");
   Enter(1, "P1");
-  EXPECT_EQ(screen.Cell(1, kDay), "16/11/2026");
+  EXPECT_EQ(screen.Cell(1, kDate), "16/11/2026");
 }
 
 TEST_F(ProductLineTest, TakesWhoeverStandsInTheHeader) {
@@ -107,9 +107,9 @@ TEST_F(ProductLineTest, TakesWhoeverStandsInTheHeader) {
   Enter(1, "P1");
   screen.ChooseStylist("E2", "Berta");
   Enter(2, "P4");
-  EXPECT_EQ(screen.Cell(1, kEmployee), "E1");
+  EXPECT_EQ(screen.Cell(1, kEmployeeCode), "E1");
   EXPECT_EQ(screen.Cell(1, kStylist), "Ana");
-  EXPECT_EQ(screen.Cell(2, kEmployee), "E2");
+  EXPECT_EQ(screen.Cell(2, kEmployeeCode), "E2");
   EXPECT_EQ(screen.Cell(2, kStylist), "Berta");
 }
 

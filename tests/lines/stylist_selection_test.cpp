@@ -241,9 +241,9 @@ TEST_F(StylistSelectionTest, AChangeOfStylistTouchesNoLineThatIsThere) {
   screen.Click("TxtMSF");  // it stayed open over the free line
   screen.EnterLine("P4", "4");
   EXPECT_EQ(screen.Cell(1, kStylist), "Ana");
-  EXPECT_EQ(screen.Cell(1, kEmployee), "E1");
+  EXPECT_EQ(screen.Cell(1, kEmployeeCode), "E1");
   EXPECT_EQ(screen.Cell(2, kStylist), "Berta");
-  EXPECT_EQ(screen.Cell(2, kEmployee), "E2");
+  EXPECT_EQ(screen.Cell(2, kEmployeeCode), "E2");
 }
 
 TEST_F(StylistSelectionTest, NobodyTypesIntoTheBox) {

@@ -1,14 +1,9 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
-#include "adapters/sqlite/sqlite_store.h"
-#include "component/class_orvendal.h"
-#include "form/frm_orvendalciales.h"
 #include "host/dictionaries.h"
-#include "host/store/schema.h"
-#include "tests/support/plain_library.h"
+#include "tests/support/form_driver.h"
 
 namespace orvendal {
 
@@ -31,14 +26,13 @@ inline std::string Named(DisplaySize display, Language language, double scale) {
 /// The screen in one language on some host, with everything visible that has a caption of the design.
 class CaptionScreen {
  public:
-  CaptionScreen(WindowHost& host, Language language)
-      : library_(host), state_{Environment{host, recordsets_, library_}} {
-    const auto store =
-        SqliteConnection::Open(":memory:", Dialect::kSqlServer, Region::Spanish(), OpenMode::kCreate);
-    CreateSchema(*store);
-    store->Execute("INSERT INTO Sucursales (Sucursal, Nombre) VALUES ('01', 'Centro')");
-    ClassOrvendal component(state_);
-    component.Orvendal(std::make_shared<Session>(store, MakeDictionaries(language)), "01", "1", "1");
+  CaptionScreen(WindowHost& host, Language language) : driver_(host) {
+    driver_.session->meddle = [words = MakeDictionaries(language)](const SessionArguments& session) {
+      session.DiccGeneral = words.general;
+      session.DiccAcciones = words.acciones;
+      session.DiccPantallas = words.pantallas;
+    };
+    driver_.Open();
     Form().BtnAnuloSuper.Visible(true);
     Form().LblSupervisor.Visible(true);
   }
@@ -46,33 +40,13 @@ class CaptionScreen {
   CaptionScreen(const CaptionScreen&) = delete;
   CaptionScreen& operator=(const CaptionScreen&) = delete;
 
-  FrmOrvendalciales& Form() { return *state_.form; }
+  FrmOrvendalciales& Form() { return driver_.form(); }
   void Close() {
-    if (state_.form) state_.form->Unload();
+    if (driver_.HasForm()) Form().Unload();
   }
 
  private:
-  class Session final : public DatosClase {
-   public:
-    Session(ConnectionRef connection, Dictionaries words)
-        : connection_(std::move(connection)), words_(std::move(words)) {}
-    void RellenarSesion(const SessionArguments& session) override {
-      session.Conexion = connection_;
-      session.AnchoBase = 15360;
-      session.AltoBase = 11520;
-      session.DiccGeneral = words_.general;
-      session.DiccAcciones = words_.acciones;
-      session.DiccPantallas = words_.pantallas;
-    }
-
-   private:
-    ConnectionRef connection_;
-    Dictionaries words_;
-  };
-
-  PlainLibrary library_;
-  SqliteRecordsetFactory recordsets_;
-  ComponentState state_;
+  ScreenDriver driver_;
 };
 
 }  // namespace orvendal

@@ -39,9 +39,11 @@ void TestSession::RellenarSesion(const SessionArguments& session) {
   if (meddle) meddle(session);
 }
 
-FormDriver::FormDriver(Dialect dialect, const Region& region)
-    : host(region, clock),
-      connection(SqliteConnection::Open(":memory:", dialect, region, OpenMode::kCreate)) {
+ScreenDriver::ScreenDriver(WindowHost& window_host, Dialect dialect)
+    : connection(SqliteConnection::Open(":memory:", dialect, window_host.UserRegion(), OpenMode::kCreate)),
+      plain_library(window_host),
+      library(plain_library, window_host),
+      state{Environment{window_host, recordsets, library}} {
   CreateSchema(*connection);
   connection->Execute(kChain);
   for (int number = 10; number <= 40; ++number) {
@@ -64,42 +66,42 @@ FormDriver::FormDriver(Dialect dialect, const Region& region)
   session->screens = Dictionary({{"Orvendalciales", "Existencias iniciales"}});
 }
 
-FormDriver::~FormDriver() = default;
+ScreenDriver::~ScreenDriver() = default;
 
-bool FormDriver::Open(const std::string& branch, const std::string& station, const std::string& shift) {
+bool ScreenDriver::Open(const std::string& branch, const std::string& station, const std::string& shift) {
   ClassOrvendal component(state);
   return component.Orvendal(session, branch, station, shift);
 }
 
-void FormDriver::OpenWithStylist(const std::string& branch) {
+void ScreenDriver::OpenWithStylist(const std::string& branch) {
   Open(branch);
   library.QueueEmployee({true, "E1", "Ana"});
   ClickCell(1, 0);
 }
 
-void FormDriver::ChooseStylist(const std::string& code, const std::string& name) {
+void ScreenDriver::ChooseStylist(const std::string& code, const std::string& name) {
   library.QueueEmployee({true, code, name});
   Click("CmdEmpl");
 }
 
-void FormDriver::Click(std::string_view control) {
+void ScreenDriver::Click(std::string_view control) {
   Robot hands = robot();
   hands.Click(hands.Find(control));
 }
 
-void FormDriver::DoubleClick(std::string_view control) {
+void ScreenDriver::DoubleClick(std::string_view control) {
   Robot hands = robot();
   hands.DoubleClick(hands.Find(control));
 }
 
-void FormDriver::ClickCell(int row, int column) {
+void ScreenDriver::ClickCell(int row, int column) {
   robot().ClickCell(form().MSFProductos, row, column);
 }
-void FormDriver::DoubleClickCell(int row, int column) {
+void ScreenDriver::DoubleClickCell(int row, int column) {
   robot().DoubleClickCell(form().MSFProductos, row, column);
 }
 
-void FormDriver::EnterLine(const std::string& code, const std::string& quantity) {
+void ScreenDriver::EnterLine(const std::string& code, const std::string& quantity) {
   const int free_row = static_cast<int>(Codes().size()) + 1;
   if (!form().TxtMSF.Visible() || form().MSFProductos.Row() != free_row || form().MSFProductos.Col() != 0) {
     DoubleClickCell(free_row, 0);
@@ -110,41 +112,41 @@ void FormDriver::EnterLine(const std::string& code, const std::string& quantity)
   Enter();
 }
 
-std::vector<std::string> FormDriver::Line(int row) {
+std::vector<std::string> ScreenDriver::Line(int row) {
   std::vector<std::string> cells;
   for (int column = 0; column < form().MSFProductos.Cols(); ++column) cells.push_back(Cell(row, column));
   return cells;
 }
 
-std::vector<std::string> FormDriver::Codes() {
+std::vector<std::string> ScreenDriver::Codes() {
   std::vector<std::string> codes;
   for (int row = 1; row < form().MSFProductos.Rows() && !Cell(row, 0).empty(); ++row)
     codes.push_back(Cell(row, 0));
   return codes;
 }
 
-std::string FormDriver::Focused() {
+std::string ScreenDriver::Focused() {
   const Control* focused = form().ActiveControl();
   return focused == nullptr ? std::string() : focused->FullName();
 }
 
-bool FormDriver::IsAvailable(const std::string& action) {
+bool ScreenDriver::IsAvailable(const std::string& action) {
   const Control* caption = form().FindControl("Lbl" + action + "(0)");
   const Control* click_area = form().FindControl("Lbl" + action + "(1)");
   return caption->Enabled() && click_area->Enabled();
 }
 
-std::string FormDriver::Sql(const std::string& sql) {
+std::string ScreenDriver::Sql(const std::string& sql) {
   SqliteStatement statement(*connection, sql);
   return statement.Step() ? statement.TextAt(0) : std::string();
 }
 
-void FormDriver::Execute(const std::string& sql) {
+void ScreenDriver::Execute(const std::string& sql) {
   connection->Execute(sql);
 }
 
-void FormDriver::AddCount(const std::string& product, double before, double now, const std::string& employee,
-                          const std::string& day, const std::string& branch) {
+void ScreenDriver::AddCount(const std::string& product, double before, double now,
+                            const std::string& employee, const std::string& day, const std::string& branch) {
   SqliteStatement insert(
       *connection,
       "INSERT INTO HistOrvendalcial (IdSucursal, Fecha, IdProducto, StockAnterior, StockActual, "
@@ -154,7 +156,7 @@ void FormDriver::AddCount(const std::string& product, double before, double now,
   insert.Run();
 }
 
-void FormDriver::AddCounts(int lines) {
+void ScreenDriver::AddCounts(int lines) {
   for (int i = 0; i < lines; ++i) AddCount("P" + std::to_string(10 + i), i, i + 1);
 }
 

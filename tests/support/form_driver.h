@@ -37,9 +37,8 @@ class TestSession final : public DatosClase {
   std::function<void(const SessionArguments&)> meddle;
 };
 
-/// A component with everything around it: a fresh in-memory store with a small chain, a host without a
-/// display, a library with scripted dialogs, and hands on the screen. The clock stands at 2026-11-16
-/// 10:30:00.
+/// A component on any host, with everything else around it: a fresh in-memory store with a small chain, a
+/// library with scripted dialogs, and hands on the screen.
 ///
 /// The chain: branches 01 "Centro" and 02 "Norte"; employees E1 "Ana", E2 "Berta", E3 "Carmen"; products
 ///   P1 "Champú suave"      stock 7 in 01      reference 8400000000017
@@ -48,12 +47,13 @@ class TestSession final : public DatosClase {
 ///   P4 "Laca fuerte"       no stock row
 ///   P5 "Tinte negro"       stock 4 in 02 only
 /// and P10 to P40 "Producto 10" to "Producto 40" with stock equal to the number. No counts.
-class FormDriver {
+class ScreenDriver {
  public:
-  explicit FormDriver(Dialect dialect = Dialect::kSqlServer, const Region& region = Region::Spanish());
-  ~FormDriver();
-  FormDriver(const FormDriver&) = delete;
-  FormDriver& operator=(const FormDriver&) = delete;
+  /// `window_host` outlives the object.
+  explicit ScreenDriver(WindowHost& window_host, Dialect dialect = Dialect::kSqlServer);
+  ~ScreenDriver();
+  ScreenDriver(const ScreenDriver&) = delete;
+  ScreenDriver& operator=(const ScreenDriver&) = delete;
 
   /// The host calls.
   bool Open(const std::string& branch = "01", const std::string& station = "P1",
@@ -92,14 +92,27 @@ class FormDriver {
   /// `lines` counts of branch 01 for today: P10, P11, ...
   void AddCounts(int lines);
 
-  FixedClock clock{Date(2026, 11, 16, 10, 30, 0)};
-  HeadlessHost host;
   std::shared_ptr<SqliteConnection> connection;
   ObservedRecordsetFactory recordsets{std::make_shared<SqliteRecordsetFactory>()};
-  PlainLibrary plain_library{host};
-  ScriptedLibrary library{plain_library, host};
+  PlainLibrary plain_library;
+  ScriptedLibrary library;
   std::shared_ptr<TestSession> session = std::make_shared<TestSession>();
-  ComponentState state{Environment{host, recordsets, library}};
+  ComponentState state;
+};
+
+/// A host without a display. The clock stands at 2026-11-16 10:30:00.
+struct HeadlessSurroundings {
+  explicit HeadlessSurroundings(const Region& region) : host(region, clock) {}
+
+  FixedClock clock{Date(2026, 11, 16, 10, 30, 0)};
+  HeadlessHost host;
+};
+
+/// The component on a host without a display.
+class FormDriver : public HeadlessSurroundings, public ScreenDriver {
+ public:
+  explicit FormDriver(Dialect dialect = Dialect::kSqlServer, const Region& region = Region::Spanish())
+      : HeadlessSurroundings(region), ScreenDriver(host, dialect) {}
 };
 
 }  // namespace orvendal

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "form/columns.h"
 #include "host/printed_text.h"
 #include "tests/support/event_log.h"
 #include "tests/support/form_driver.h"
@@ -14,16 +15,7 @@ namespace orvendal::testing_support {
 
 using Texts = std::vector<std::string>;
 
-/// Columns of the line grid, by what they hold.
-inline constexpr int kCode = 0;
-inline constexpr int kDescription = 1;
-inline constexpr int kBefore = 2;
-inline constexpr int kQuantity = 3;
-inline constexpr int kEmployee = 4;
-inline constexpr int kStylist = 5;
-inline constexpr int kDay = 6;
-inline constexpr int kStoredCode = 7;
-inline constexpr int kStoredQuantity = 8;
+using namespace column;  // what the columns of the line grid hold
 
 inline const std::string kAsksForStylist = "[64] \"\" \"Debe seleccionar un Estilista\" -> 1";
 inline const std::string kRefusesBlankStylist =
@@ -38,7 +30,7 @@ inline std::string GuardQuestion(std::int32_t answer) {
 }
 
 /// Messages since last asked, as [style] "title" "text" -> answer.
-inline Texts TakeMessages(FormDriver& screen) {
+inline Texts TakeMessages(ScreenDriver& screen) {
   Texts texts;
   for (const ScriptedLibrary::ShownMessage& shown : screen.library.TakeMessages()) {
     texts.push_back("[" + std::to_string(shown.style) + "] " + QuotedText(shown.title) + " " +
@@ -48,14 +40,14 @@ inline Texts TakeMessages(FormDriver& screen) {
 }
 
 /// Statements since last asked.
-inline Texts TakeStatements(FormDriver& screen) {
+inline Texts TakeStatements(ScreenDriver& screen) {
   Texts texts;
   for (const OpenedStatement& statement : screen.recordsets.TakeStatements()) texts.push_back(statement.text);
   return texts;
 }
 
 /// Library calls since last asked that begin with `name`; all of them without one.
-inline Texts TakeCalls(FormDriver& screen, const std::string& name = {}) {
+inline Texts TakeCalls(ScreenDriver& screen, const std::string& name = {}) {
   Texts texts;
   for (std::string& call : screen.library.TakeCalls()) {
     if (call.starts_with(name)) texts.push_back(std::move(call));
@@ -81,7 +73,7 @@ inline void Forget(FormDriver& screen) {
 }
 
 /// The buttons of the action bar that are available, in their order.
-inline std::string AvailableButtons(FormDriver& screen) {
+inline std::string AvailableButtons(ScreenDriver& screen) {
   std::string names;
   for (const char* action : {"Nuevo", "Buscar", "Borrar", "Guardar", "Cancelar"}) {
     if (!screen.IsAvailable(action)) continue;
@@ -95,23 +87,23 @@ inline const std::string kBotonesEnReposo = "Nuevo Cancelar";
 inline const std::string kBotonesSoloCancelar = "Cancelar";
 
 /// Where the cursor of the line grid stands, as "row,column".
-inline std::string Cursor(FormDriver& screen) {
+inline std::string Cursor(ScreenDriver& screen) {
   return std::to_string(screen.form().MSFProductos.Row()) + "," +
          std::to_string(screen.form().MSFProductos.Col());
 }
-inline bool EditorIsOpen(FormDriver& screen) {
+inline bool EditorIsOpen(ScreenDriver& screen) {
   return screen.form().TxtMSF.Visible();
 }
-inline std::string EditorText(FormDriver& screen) {
+inline std::string EditorText(ScreenDriver& screen) {
   return screen.form().TxtMSF.Text();
 }
-inline bool EditorTextIsSelected(FormDriver& screen) {
+inline bool EditorTextIsSelected(ScreenDriver& screen) {
   const TextBox& editor = screen.form().TxtMSF;
   return editor.SelStart() == 0 && editor.SelText() == editor.Text();
 }
 
 /// Lines of the snapshot, title row not counted, by columns.
-inline Texts SnapshotLine(FormDriver& screen, int row) {
+inline Texts SnapshotLine(ScreenDriver& screen, int row) {
   Texts cells;
   for (int column = 0; column < screen.form().MSFProductos1.Cols(); ++column)
     cells.push_back(screen.form().MSFProductos1.TextMatrix(row, column));
@@ -119,12 +111,12 @@ inline Texts SnapshotLine(FormDriver& screen, int row) {
 }
 
 /// Supervisor mode by its button, with employee E2 "Berta".
-inline void EnterSupervisorMode(FormDriver& screen) {
+inline void EnterSupervisorMode(ScreenDriver& screen) {
   screen.library.QueueEmployee({true, "E2", "Berta"});
   screen.Click("LblNuevo");
 }
 /// Supervisor mode must be on and a stylist chosen.
-inline void PickDay(FormDriver& screen, Date day) {
+inline void PickDay(ScreenDriver& screen, Date day) {
   if (!screen.form().PicCalendario.Visible()) screen.Click("MkFecha");
   screen.robot().ClickDay(screen.form().Calendario, day);
 }
