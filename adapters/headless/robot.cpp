@@ -78,21 +78,21 @@ Point Robot::MiddleOf(const Control& control) const {
 }
 
 void Robot::Press(Point position, int button, int shift) {
-  form_.MousePress(position, button, shift, false);
+  input_.MousePress(form_, position, button, shift, false);
 }
 void Robot::Release(Point position, int button, int shift) {
-  form_.MouseRelease(position, button, shift);
+  input_.MouseRelease(form_, position, button, shift);
 }
 
 void Robot::ClickAt(Point position) {
-  form_.MousePress(position, mouse_button::kLeft, 0, false);
-  form_.MouseRelease(position, mouse_button::kLeft, 0);
+  input_.MousePress(form_, position, mouse_button::kLeft, 0, false);
+  input_.MouseRelease(form_, position, mouse_button::kLeft, 0);
 }
 
 void Robot::DoubleClickAt(Point position) {
   ClickAt(position);
-  form_.MousePress(position, mouse_button::kLeft, 0, true);
-  form_.MouseRelease(position, mouse_button::kLeft, 0);
+  input_.MousePress(form_, position, mouse_button::kLeft, 0, true);
+  input_.MouseRelease(form_, position, mouse_button::kLeft, 0);
 }
 
 void Robot::Click(const Control& control) {
@@ -173,14 +173,14 @@ void Robot::Key(int key_code, int shift) {
 }
 
 void Robot::PressKey(int key_code, int shift) const {
-  form_.KeyPress(key_code, shift);
   const bool control = (shift & shift_mask::kControl) != 0;
+  char32_t character = 0;
   if (key_code == key::kReturn || key_code == key::kEscape || key_code == key::kBack) {
-    form_.Character(static_cast<char32_t>(key_code));
+    character = static_cast<char32_t>(key_code);
   } else if (control && key_code >= 'A' && key_code <= 'Z') {
-    form_.Character(static_cast<char32_t>(key_code - 'A' + 1));
+    character = static_cast<char32_t>(key_code - 'A' + 1);
   }
-  form_.KeyRelease(key_code, shift);
+  input_.Key(form_, key_code, shift, character);
 }
 
 void Robot::Type(std::string_view text) {
@@ -196,10 +196,7 @@ void Robot::Type(std::string_view text) {
       PressKey(key::kTab, 0);
       continue;
     }
-    const int code = KeyCodeOf(character);
-    form_.KeyPress(code, 0);
-    form_.Character(character);
-    form_.KeyRelease(code, 0);
+    input_.Key(form_, KeyCodeOf(character), 0, character);
   }
 }
 

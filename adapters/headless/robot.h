@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/forms/form.h"
+#include "adapters/headless/form_input.h"
 
 namespace orvendal {
 
@@ -22,7 +22,9 @@ class Robot {
     const Control* by = nullptr;  // what covers it; nullptr for the form itself
   };
 
-  explicit Robot(Form& form) : form_(form), alive_(form.shared_from_this()) {}
+  /// `input` outlives the object.
+  explicit Robot(Form& form, FormInput& input = DirectInput())
+      : form_(form), input_(input), alive_(form.shared_from_this()) {}
 
   /// The control by its full name, or by the plain name of a group of two, whose click area (1) is meant.
   Control& Find(std::string_view name) const;
@@ -57,6 +59,7 @@ class Robot {
   void PressKey(int key_code, int shift) const;
 
   Form& form_;
+  FormInput& input_;
   ObjectRef alive_;
 };
 

@@ -96,9 +96,12 @@ const std::vector<ScriptCommands::Command>& ScriptCommands::Commands() {
 }
 
 ScriptCommands::ScriptCommands(const Options& options, std::ostream& output, SavePicture save_picture,
-                               std::filesystem::path folder)
-    : output_(output), save_picture_(std::move(save_picture)), folder_(std::move(folder)), world_(options) {
-  world_.host.OnReport = [this](const RuntimeError& error) { PrintError(error); };
+                               std::filesystem::path folder, const MakeScriptWindows& make_windows)
+    : output_(output),
+      save_picture_(std::move(save_picture)),
+      folder_(std::move(folder)),
+      world_(options, make_windows) {
+  world_.windows->OnReport([this](const RuntimeError& error) { PrintError(error); });
 }
 
 void ScriptCommands::Execute(const std::vector<std::string>& words) {
@@ -131,7 +134,7 @@ void ScriptCommands::SetDisplay(const Words& words) {
   if (std::max(width, height) > kMostPixels) {
     throw ScriptStop("una pantalla tiene como mucho " + std::to_string(kMostPixels) + " píxeles por lado");
   }
-  world_.host.SetScreen(width, height);
+  world_.windows->SetScreen(width, height);
 }
 
 void ScriptCommands::SetBase(const Words& words) {
@@ -312,7 +315,7 @@ void ScriptCommands::TakePicture(const Words& words) {
 // The screen may unload itself in the middle of a gesture; it lives to its end.
 void ScriptCommands::UseHands(const std::function<void(ScriptHands& hands)>& act) {
   const std::shared_ptr<FrmOrvendalciales> screen = Screen();
-  ScriptHands hands(*screen);
+  ScriptHands hands(*screen, world_.windows->Input());
   act(hands);
 }
 

@@ -20,7 +20,7 @@ class ScriptCommands {
   /// `options` and `output` outlive the object. An empty `save_picture` refuses pictures; `folder` is the
   /// script's own, empty for none.
   ScriptCommands(const Options& options, std::ostream& output, SavePicture save_picture,
-                 std::filesystem::path folder);
+                 std::filesystem::path folder, const MakeScriptWindows& make_windows = MakeHeadlessWindows);
 
   /// Runs one line's words; none do nothing. Raises ScriptStop, and what comes out of a dialog that nobody
   /// answers.

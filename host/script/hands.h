@@ -12,8 +12,9 @@ namespace orvendal {
 /// reported by the screen.
 class ScriptHands {
  public:
-  /// `form` is loaded and outlives the object.
-  explicit ScriptHands(FrmOrvendalciales& form) : form_(form), robot_(form) {}
+  /// `form` is loaded; both outlive the object.
+  explicit ScriptHands(FrmOrvendalciales& form, FormInput& input = DirectInput())
+      : form_(form), robot_(form, input) {}
 
   enum class Clicks { kOne, kTwo };
   /// At the middle of the control.

@@ -31,9 +31,10 @@ class Run {
     levels_.push_back({"", std::filesystem::canonical(file, ignored)});
   }
 
-  int ToTheEnd(std::istream& script, const Options& options, const SavePicture& save_picture) {
+  int ToTheEnd(std::istream& script, const Options& options, const SavePicture& save_picture,
+               const MakeScriptWindows& make_windows) {
     try {
-      ScriptCommands commands(options, output_, save_picture, folder_);
+      ScriptCommands commands(options, output_, save_picture, folder_, make_windows);
       RunLines(script, folder_, commands);
       return 0;
     } catch (const ScriptStop& reason) {
@@ -114,11 +115,11 @@ class Run {
 
 int RunScript(std::istream& script, const Options& options, const SavePicture& save_picture,
               std::ostream& output, std::ostream& errors, const std::filesystem::path& folder) {
-  return Run(output, errors, folder, {}).ToTheEnd(script, options, save_picture);
+  return Run(output, errors, folder, {}).ToTheEnd(script, options, save_picture, MakeHeadlessWindows);
 }
 
 int RunScriptFile(const std::string& path, const Options& options, const SavePicture& save_picture,
-                  std::ostream& output, std::ostream& errors) {
+                  std::ostream& output, std::ostream& errors, const MakeScriptWindows& make_windows) {
   const std::filesystem::path file(path);
   std::error_code error;
   std::ifstream script;
@@ -129,7 +130,7 @@ int RunScriptFile(const std::string& path, const Options& options, const SavePic
   }
   const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
   script.clear();  // an empty script has come to its end already
-  return Run(output, errors, folder, file).ToTheEnd(script, options, save_picture);
+  return Run(output, errors, folder, file).ToTheEnd(script, options, save_picture, make_windows);
 }
 
 }  // namespace orvendal

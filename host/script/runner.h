@@ -18,8 +18,9 @@ namespace orvendal {
 int RunScript(std::istream& script, const Options& options, const SavePicture& save_picture,
               std::ostream& output, std::ostream& errors, const std::filesystem::path& folder = {});
 
-/// The same for a file.
+/// The same for a file, in windows of one's own.
 int RunScriptFile(const std::string& path, const Options& options, const SavePicture& save_picture,
-                  std::ostream& output, std::ostream& errors);
+                  std::ostream& output, std::ostream& errors,
+                  const MakeScriptWindows& make_windows = MakeHeadlessWindows);
 
 }  // namespace orvendal

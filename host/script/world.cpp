@@ -10,14 +10,14 @@ namespace orvendal {
 namespace {
 
 // Hands in the workstation's panel. Its name is that of the form; Esc closes it.
-void UsePanel(Form& panel, bool reconnect) {
-  Robot hands(panel);
+void UsePanel(Form& panel, FormInput& input, bool reconnect) {
+  Robot hands(panel, input);
   if (reconnect) hands.Click(hands.Find("CmdReconectar"));
   hands.Key(key::kEscape);
 }
 
-void ChooseSession(Form& dialog, const ScriptWorld::SessionChoice& choice) {
-  Robot hands(dialog);
+void ChooseSession(Form& dialog, FormInput& input, const ScriptWorld::SessionChoice& choice) {
+  Robot hands(dialog, input);
   auto& branches = dynamic_cast<MSFlexGrid&>(hands.Find("MSFSucursales"));
   int row = 1;
   while (row < branches.Rows() && !EqualsIgnoringCase(branches.TextMatrix(row, 0), choice.sucursal)) ++row;
@@ -47,11 +47,11 @@ class ScriptWorld::Messages final : public MessagePresenter {
   ScriptWorld& world_;
 };
 
-ScriptWorld::ScriptWorld(const Options& options)
-    : host(*options.region, clock),
+ScriptWorld::ScriptWorld(const Options& options, const MakeScriptWindows& make_windows)
+    : windows(make_windows(*options.region, clock)),
       options_(options),
       messages_(std::make_unique<Messages>(*this)),
-      context_{host,
+      context_{windows->Host(),
                *messages_,
                WordsOf(options.language),
                library_recordsets_,
@@ -65,7 +65,7 @@ ScriptWorld::ScriptWorld(const Options& options)
                options.base_height,
                0.0,
                MakeDictionaries(options.language)} {
-  if (options.display) host.SetScreen(options.display->width, options.display->height);
+  if (options.display) windows->SetScreen(options.display->width, options.display->height);
   library_.OpenOwnDialogs([this](const std::string& operation) { AnswerDialog(operation); });
 }
 
@@ -100,29 +100,25 @@ std::shared_ptr<FrmOrvendalciales> ScriptWorld::Screen() const {
 // A panel or dialog that nothing was prepared for is closed as it came up, with nothing changed. One that
 // does not come up, because the store fails, takes its answer with it.
 void ScriptWorld::AnswerDialog(const std::string& operation) {
-  std::function<void(Form&)> answer;
+  FormInput& input = windows->Input();
   if (operation == "AccionPuesto") {
     const bool reconnect = !panel_answers_.empty() && panel_answers_.front();
     if (!panel_answers_.empty()) panel_answers_.pop_front();
-    answer = [reconnect](Form& panel) { UsePanel(panel, reconnect); };
-  } else {
-    std::optional<SessionChoice> choice;
-    if (!session_answers_.empty()) {
-      choice = session_answers_.front();
-      session_answers_.pop_front();
+    windows->AnswerNextDialog([&input, reconnect](Form& panel) { UsePanel(panel, input, reconnect); });
+    return;
+  }
+  std::optional<SessionChoice> choice;
+  if (!session_answers_.empty()) {
+    choice = session_answers_.front();
+    session_answers_.pop_front();
+  }
+  windows->AnswerNextDialog([&input, choice](Form& dialog) {
+    if (choice) {
+      ChooseSession(dialog, input, *choice);
+    } else {
+      Robot(dialog, input).Key(key::kEscape);
     }
-    answer = [choice](Form& dialog) {
-      if (choice) {
-        ChooseSession(dialog, *choice);
-      } else {
-        Robot(dialog).Key(key::kEscape);
-      }
-    };
-  }
-  dialog_answer_ = std::move(answer);
-  if (host.QueuedDialogs() == 0) {
-    host.QueueDialog([this](Form& dialog) { dialog_answer_(dialog); });
-  }
+  });
 }
 
 }  // namespace orvendal

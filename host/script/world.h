@@ -14,19 +14,20 @@
 #include "host/library/stand_in_library.h"
 #include "host/script/observed_recordsets.h"
 #include "host/script/scripted_library.h"
+#include "host/script/windows.h"
 #include "host/store/host_store.h"
 
 namespace orvendal {
 
-/// Everything around the component that a script drives: a host without a display, a clock that stands, the
-/// store, and the stand-in library with its dialogs answered beforehand.
+/// Everything around the component that a script drives: windows, a clock that stands, the store, and the
+/// stand-in library with its dialogs answered beforehand.
 ///
 /// The clock stands at 2026-11-16 10:30:00 at first. The store is opened when it is first needed: the one of
 /// `options`, else a sample chain in memory whose counts end at the clock's day.
 class ScriptWorld {
  public:
   /// `options` outlives the object.
-  explicit ScriptWorld(const Options& options);
+  ScriptWorld(const Options& options, const MakeScriptWindows& make_windows);
   ~ScriptWorld();
   ScriptWorld(const ScriptWorld&) = delete;
   ScriptWorld& operator=(const ScriptWorld&) = delete;
@@ -55,7 +56,7 @@ class ScriptWorld {
   ScriptedLibrary& Dialogs() { return library_; }
 
   FixedClock clock{Date(2026, 11, 16, 10, 30, 0)};
-  HeadlessHost host;
+  const std::unique_ptr<ScriptWindows> windows;
   ObservedRecordsetFactory recordsets{std::make_shared<SqliteRecordsetFactory>()};
 
  private:
@@ -70,11 +71,10 @@ class ScriptWorld {
   SqliteRecordsetFactory library_recordsets_;
   HostContext context_;
   StandInLibrary stand_in_{context_};
-  ScriptedLibrary library_{stand_in_, host};
-  ComponentState state_{Environment{host, recordsets, library_}};
+  ScriptedLibrary library_{stand_in_, windows->Host()};
+  ComponentState state_{Environment{windows->Host(), recordsets, library_}};
   std::deque<bool> panel_answers_;
   std::deque<std::optional<SessionChoice>> session_answers_;
-  std::function<void(Form&)> dialog_answer_;  // of the dialog that is about to come up
 };
 
 }  // namespace orvendal

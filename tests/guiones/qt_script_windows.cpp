@@ -1,0 +1,158 @@
+#include "tests/guiones/qt_script_windows.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QWidget>
+#include <exception>
+#include <stdexcept>
+#include <utility>
+
+#include "adapters/headless/headless_host.h"
+#include "adapters/qt/qt_window_host.h"
+#include "platform/forms/keys.h"
+
+namespace orvendal {
+namespace {
+
+constexpr std::pair<int, int> kNamedKeys[] = {
+    {key::kReturn, Qt::Key_Return},  {key::kEscape, Qt::Key_Escape},     {key::kTab, Qt::Key_Tab},
+    {key::kBack, Qt::Key_Backspace}, {key::kDelete, Qt::Key_Delete},     {key::kInsert, Qt::Key_Insert},
+    {key::kLeft, Qt::Key_Left},      {key::kRight, Qt::Key_Right},       {key::kUp, Qt::Key_Up},
+    {key::kDown, Qt::Key_Down},      {key::kHome, Qt::Key_Home},         {key::kEnd, Qt::Key_End},
+    {key::kPageUp, Qt::Key_PageUp},  {key::kPageDown, Qt::Key_PageDown}, {key::kSpace, Qt::Key_Space},
+};
+
+// The key of a code; that of the character where the code has none.
+int QtKeyOf(int key_code, char32_t character) {
+  for (const auto& [code, qt_key] : kNamedKeys) {
+    if (code == key_code) return qt_key;
+  }
+  if (key_code >= key::kF1 && key_code <= key::kF12) return Qt::Key_F1 + key_code - key::kF1;
+  const bool is_letter = key_code >= 'A' && key_code <= 'Z';
+  const bool is_digit = key_code >= '0' && key_code <= '9';
+  if (is_letter || is_digit || character == 0) return key_code;
+  return QString::fromUcs4(&character, 1).toUpper().front().unicode();
+}
+
+Qt::KeyboardModifiers ModifiersOf(int shift) {
+  Qt::KeyboardModifiers modifiers;
+  if ((shift & shift_mask::kShift) != 0) modifiers |= Qt::ShiftModifier;
+  if ((shift & shift_mask::kControl) != 0) modifiers |= Qt::ControlModifier;
+  if ((shift & shift_mask::kAlt) != 0) modifiers |= Qt::AltModifier;
+  return modifiers;
+}
+
+// A desktop of Qt that measures as the host without a display does.
+class MeasuredQtHost final : public QtWindowHost {
+ public:
+  MeasuredQtHost(const Region& region, Clock& clock, QtHostOptions options)
+      : QtWindowHost(region, clock, std::move(options)), measures_(region, clock) {}
+
+  void SetScreen(int width, int height) { measures_.SetScreen(width, height); }
+  void AnswerNextDialog(std::function<void(Form&)> answer) { answer_ = std::move(answer); }
+
+  double ScreenWidth() override { return measures_.ScreenWidth(); }
+  double ScreenHeight() override { return measures_.ScreenHeight(); }
+  Rect RoomInFrame() override { return measures_.RoomInFrame(); }
+  double TextWidth(const FontSpec& font, std::string_view text) override {
+    return measures_.TextWidth(font, text);
+  }
+  double LineHeight(const FontSpec& font) override { return measures_.LineHeight(font); }
+  Rect TextInk(const FontSpec& font, std::string_view text) override { return measures_.TextInk(font, text); }
+
+  // The answer is given inside the dialog's own event loop, which no exception may leave.
+  void RunModal(Form& form) override {
+    if (!answer_) throw UnansweredDialog("no answer is queued for the dialog " + form.Name());
+    std::exception_ptr failure;
+    QMetaObject::invokeMethod(
+        qApp,
+        [&form, &failure, answer = std::exchange(answer_, nullptr)] {
+          try {
+            answer(form);
+            if (form.Visible()) throw UnansweredDialog("the answer left the dialog " + form.Name() + " open");
+          } catch (...) {
+            failure = std::current_exception();
+            form.Unload();
+          }
+        },
+        Qt::QueuedConnection);
+    QtWindowHost::RunModal(form);
+    if (failure) std::rethrow_exception(failure);
+  }
+
+ private:
+  HeadlessHost measures_;
+  std::function<void(Form&)> answer_;
+};
+
+// Each event goes to the window, and what it leaves to be done is done before the next.
+class WindowInput final : public FormInput {
+ public:
+  explicit WindowInput(MeasuredQtHost& host) : host_(host) {}
+
+  void MousePress(Form& form, Point position, int button, int shift, bool is_double) override {
+    Mouse(form, is_double ? QEvent::MouseButtonDblClick : QEvent::MouseButtonPress, position, button, shift);
+  }
+  void MouseRelease(Form& form, Point position, int button, int shift) override {
+    Mouse(form, QEvent::MouseButtonRelease, position, button, shift);
+  }
+  void Key(Form& form, int key_code, int shift, char32_t character) override {
+    const QString text = character == 0 ? QString() : QString::fromUcs4(&character, 1);
+    const QPointer<QWidget> window = host_.WidgetOf(form);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+      if (window.isNull()) return;
+      QKeyEvent event(type, QtKeyOf(key_code, character), ModifiersOf(shift), text);
+      event.setTimestamp(host_.InputTime());
+      QApplication::sendEvent(window, &event);
+      QApplication::processEvents();
+    }
+  }
+
+ private:
+  void Mouse(Form& form, QEvent::Type type, Point position, int button, int shift) {
+    QWidget* const window = host_.WidgetOf(form);
+    if (window == nullptr) return;
+    const QPointF place(position.x / kTwipsPerPixel, position.y / kTwipsPerPixel);
+    const Qt::MouseButton qt_button = button == mouse_button::kLeft ? Qt::LeftButton : Qt::RightButton;
+    const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : qt_button;
+    QMouseEvent event(type, place, window->mapToGlobal(place), qt_button, held, ModifiersOf(shift));
+    QApplication::sendEvent(window, &event);
+    QApplication::processEvents();
+  }
+
+  MeasuredQtHost& host_;
+};
+
+class QtScriptWindows final : public ScriptWindows {
+ public:
+  QtScriptWindows(const Region& region, Clock& clock) : host_(region, clock, Options()) {}
+
+  WindowHost& Host() override { return host_; }
+  FormInput& Input() override { return input_; }
+  void SetScreen(int width, int height) override { host_.SetScreen(width, height); }
+  void OnReport(std::function<void(const RuntimeError&)> told) override { told_ = std::move(told); }
+  void AnswerNextDialog(std::function<void(Form&)> answer) override {
+    host_.AnswerNextDialog(std::move(answer));
+  }
+
+ private:
+  QtHostOptions Options() {
+    QtHostOptions options;
+    options.on_error = [this](const RuntimeError& error) { told_(error); };
+    return options;
+  }
+
+  std::function<void(const RuntimeError&)> told_;
+  MeasuredQtHost host_;
+  WindowInput input_{host_};
+};
+
+}  // namespace
+
+std::unique_ptr<ScriptWindows> MakeQtScriptWindows(const Region& region, Clock& clock) {
+  return std::make_unique<QtScriptWindows>(region, clock);
+}
+
+}  // namespace orvendal
