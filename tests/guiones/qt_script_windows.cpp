@@ -11,6 +11,7 @@
 
 #include "adapters/headless/headless_host.h"
 #include "adapters/qt/qt_window_host.h"
+#include "platform/forms/common_window.h"
 #include "platform/forms/keys.h"
 
 namespace orvendal {
@@ -62,29 +63,33 @@ class MeasuredQtHost final : public QtWindowHost {
   double LineHeight(const FontSpec& font) override { return measures_.LineHeight(font); }
   Rect TextInk(const FontSpec& font, std::string_view text) override { return measures_.TextInk(font, text); }
 
+ protected:
   // The answer is given inside the dialog's own event loop, which no exception may leave.
-  void RunModal(Form& form) override {
+  std::unique_ptr<ModalLoop> MakeModalLoop(const CommonWindow& window) override {
+    Form& form = window.TheForm();
     if (!answer_) throw UnansweredDialog("no answer is queued for the dialog " + form.Name());
-    std::exception_ptr failure;
-    QMetaObject::invokeMethod(
-        qApp,
-        [&form, &failure, answer = std::exchange(answer_, nullptr)] {
-          try {
-            answer(form);
-            if (form.Visible()) throw UnansweredDialog("the answer left the dialog " + form.Name() + " open");
-          } catch (...) {
-            failure = std::current_exception();
-            form.Unload();
-          }
-        },
-        Qt::QueuedConnection);
-    QtWindowHost::RunModal(form);
-    if (failure) std::rethrow_exception(failure);
+    const auto give = [this, &form, answer = std::exchange(answer_, nullptr)] {
+      try {
+        answer(form);
+        if (form.Visible()) throw UnansweredDialog("the answer left the dialog " + form.Name() + " open");
+      } catch (...) {
+        failure_ = std::current_exception();
+        form.Unload();
+      }
+    };
+    QMetaObject::invokeMethod(qApp, give, Qt::QueuedConnection);
+    return QtWindowHost::MakeModalLoop(window);
+  }
+
+  void DialogOver() override {
+    QtWindowHost::DialogOver();
+    if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
   }
 
  private:
   HeadlessHost measures_;
   std::function<void(Form&)> answer_;
+  std::exception_ptr failure_;
 };
 
 // Each event goes to the window, and what it leaves to be done is done before the next.
