@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "component/component_state.h"
+#include "session/component_state.h"
 
 namespace orvendal {
 

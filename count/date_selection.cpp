@@ -59,6 +59,7 @@ void FrmOrvendalciales::Calendario_SelChange(Date /*StartDate*/, Date /*EndDate*
     Cancel = true;
     return;
   }
+  const Date day_of_lines = variables.day_of_lines;
   if (answer == message::kYes) {
     const FlagScope changing_date(variables.FlagFechaCambio);
     LblGuardar_Click(0);
@@ -70,6 +71,8 @@ void FrmOrvendalciales::Calendario_SelChange(Date /*StartDate*/, Date /*EndDate*
     CargarExistencias();
   } catch (const RuntimeError&) {
     MkFecha.Text(old_day);  // there is no new day; the calendar goes back too
+    // The load at the end of the save has brought lines of the new day, which are none of the old one.
+    if (variables.day_of_lines != day_of_lines) variables.lines_not_whole = true;
     throw;
   }
 }

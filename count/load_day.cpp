@@ -22,15 +22,20 @@ constexpr std::array<const char*, column::kCount> kFields = {"IdProducto",  "Des
 
 void FrmOrvendalciales::CargarExistencias() {
   const std::string condition = DateConditionOfLoad(Session().Conexion, Calendario.Value(), UserRegion());
+  const bool cuts_lines =
+      MSFProductos.Rows() > kFloorRows && !MSFProductos.TextMatrix(kFloorRows, column::kCode).empty();
   bool has_written = false;
   try {
     const FlagScope loading(variables.CargandoLineas);
     LoadLines(condition, has_written);
   } catch (const RuntimeError&) {
+    if (has_written || cuts_lines) variables.lines_not_whole = true;
     // What was typed stays only where its line does: not under a line written over, nor under one cut away.
     if (has_written || !EditorIsInPlace()) PlaceEditorAnew();
     throw;
   }
+  variables.lines_not_whole = false;
+  variables.day_of_lines = Calendario.Value();
   PlaceEditorAnew();  // an editor that stayed open shows what its cell holds now
 }
 

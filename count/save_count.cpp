@@ -16,6 +16,10 @@ constexpr const char* kGridTooLong =
     "the "
     "lines that are new, press Cancel to load the day again, and enter fewer of them.";
 
+constexpr const char* kLinesNotWhole =
+    "The lines of the day could not be loaded whole. Nothing was deleted or saved. Press Cancel to load the "
+    "day again.";
+
 }  // namespace
 
 void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
@@ -29,6 +33,7 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
   // The walk counts its rows in 16 bits; a grid beyond that is refused while nothing is lost yet.
   if (MSFProductos.Rows() > std::numeric_limits<std::int16_t>::max())
     throw RuntimeError(error_number::kOverflow, kGridTooLong);
+  CheckLinesAreWhole();
 
   // The day of a save is the text that the screen shows: during a change of date the calendar is ahead of the
   // lines.
@@ -45,7 +50,7 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
   Session().Conexion = connection;
 
   statements::OpenForWriting(*rows, statements::WholeHistory(), Session().Conexion);
-  if (!StoreLines(*rows)) return;
+  if (!StoreLines()) return;
   RecalculateProducts();
 
   TxtMSF.Visible(false);
@@ -58,6 +63,12 @@ void FrmOrvendalciales::LblGuardar_Click(int /*Index*/) {
     TxtCodigo.Text("");
   }
   CargarExistencias();
+}
+
+// What a load took away before it failed is still in the store, and the delete would take it out of there
+// too.
+void FrmOrvendalciales::CheckLinesAreWhole() {
+  if (variables.lines_not_whole) throw RuntimeError(error_number::kInvalidProcedureCall, kLinesNotWhole);
 }
 
 // A quantity that the store's number cannot take ends the save with the error of its assignment, which would
@@ -80,47 +91,48 @@ void FrmOrvendalciales::CheckQuantities() {
   }
 }
 
-// One new row for each line; false after a refusal, see StoreRow.
-bool FrmOrvendalciales::StoreLines(Recordset& rows) {
+// One new row for each line; false after a refusal, see StoreRow. A form that was closed and loaded again
+// meanwhile has a recordset of its new life, which is not open.
+bool FrmOrvendalciales::StoreLines() {
   for (int row = 1; row <= MSFProductos.Rows() - 1; ++row) {
     const std::string code = MSFProductos.TextMatrix(row, column::kCode);
     if (code.empty()) break;
     if (!ExisteProducto(code)) continue;  // its old row is gone already: the product drops out of the day
-    rows.AddNew();
-    FillRow(row);
-    if (!StoreRow(row)) return false;
+    const RecordsetRef rows = RsCodigosEnUso();
+    rows->AddNew();
+    FillRow(*rows, row);
+    if (!StoreRow(*rows, row)) return false;
   }
   return true;
 }
 
 // The eight fields of the pending row. Empty cells are filled in the grid itself first.
-void FrmOrvendalciales::FillRow(int row) {
-  const RecordsetRef rows = RsCodigosEnUso();
+void FrmOrvendalciales::FillRow(Recordset& rows, int row) {
   const auto cell = [this, row](int column, const std::string& if_empty) {
     if (MSFProductos.TextMatrix(row, column).empty()) MSFProductos.TextMatrix(row, column, if_empty);
     return MSFProductos.TextMatrix(row, column);
   };
-  rows->Collect("IdSucursal", Session().ClaveSucursal());
-  rows->Collect("IdProducto", MSFProductos.TextMatrix(row, column::kCode));
-  rows->Collect("stockAnterior", cell(column::kPreviousQuantity, "0"));
-  rows->Collect("StockActual", cell(column::kQuantity, "0"));
-  rows->Collect("IdEmpleado", cell(column::kEmployeeCode, TxtCodigo.Text()));
-  rows->Collect("Fecha", FormatoFecha(cell(column::kDate, TxtFechaHora.Text())));
+  rows.Collect("IdSucursal", Session().ClaveSucursal());
+  rows.Collect("IdProducto", MSFProductos.TextMatrix(row, column::kCode));
+  rows.Collect("stockAnterior", cell(column::kPreviousQuantity, "0"));
+  rows.Collect("StockActual", cell(column::kQuantity, "0"));
+  rows.Collect("IdEmpleado", cell(column::kEmployeeCode, TxtCodigo.Text()));
+  rows.Collect("Fecha", FormatoFecha(cell(column::kDate, TxtFechaHora.Text())));
   Date now = Host().SystemClock().Now();
-  rows->Collect("Actualizado", state_.globals.HerramientasGlobal().FechaHoraTexto(now));
-  rows->Collect("ModificadoPor", Session().ClaveSucursal());  // the branch, not an employee
+  rows.Collect("Actualizado", state_.globals.HerramientasGlobal().FechaHoraTexto(now));
+  rows.Collect("ModificadoPor", Session().ClaveSucursal());  // the branch, not an employee
 }
 
 // False after a refusal, which ends the save where it stands: what was deleted and written so far remains.
-bool FrmOrvendalciales::StoreRow(int row) {
+bool FrmOrvendalciales::StoreRow(Recordset& rows, int row) {
   try {
-    RsCodigosEnUso()->Update();
+    rows.Update();
     AnotarRecalculo(MSFProductos.TextMatrix(row, column::kCode));
     return true;
   } catch (const RuntimeError& error) {
     if (error.Number() == ado_error::kMultipleStep) {
       Mostrar("Error al grabar \r\n" + error.Description(), message::kStop, "Error");
-      RsCodigosEnUso()->CancelUpdate();
+      rows.CancelUpdate();
     } else {
       Mostrar("Nº Error:" + std::to_string(error.Number()) + "\r\n" + error.Description(), message::kStop,
               "");

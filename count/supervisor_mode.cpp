@@ -2,14 +2,34 @@
 
 namespace orvendal {
 
+void FrmOrvendalciales::LblNuevo_Click(int /*Index*/) {
+  TxtEmpleado.Enabled(true);
+  const std::unique_ptr<SelectorEmpleado> picker = AbrirSelector(true);
+  if (!picker->Aceptado()) return;
+  TxtEmpleado.Text(picker->Nombre());
+  TxtCodigo.Text(picker->Codigo());
+  if (!TxtEmpleado.Text().empty()) TxtEmpleado.Enabled(false);
+  CmdEmpl.Enabled(false);
+  TxtFechaHora.Visible(false);
+  MkFecha.Visible(true);
+  TxtMSF.Text("");
+  BtnAnuloSuper.Visible(true);
+  TxtMSF.Visible(false);
+  TxtEmpleado.Text(picker->Nombre());  // a second time, as it stands
+  MSFProductos.SetFocus();
+  PonerBotones(BotonesEnReposo);
+  LblSupervisor.Visible(true);
+  PonerBotones(BotonesConLineas);  // this one decides
+}
+
 void FrmOrvendalciales::BtnAnuloSuper_Click() {
   variables.FlagSupervisor = true;
   const Date kept_day = Calendario.Value();
   const auto stay = [this, kept_day] {
+    variables.FlagSupervisor = false;
     Calendario.Value(kept_day);
     MkFecha.Text(FormatoFecha(TextOf(kept_day)));
     TxtFechaHora.Text(MkFecha.Text());
-    variables.FlagSupervisor = false;
   };
   Calendario.Value(Host().SystemClock().Today());
   bool cancel = false;

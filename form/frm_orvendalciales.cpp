@@ -34,7 +34,7 @@ ActionBar FrmOrvendalciales::Buttons() {
 }
 
 void FrmOrvendalciales::PonerBotones(const ButtonSet& off) {
-  ArrangeActionBar(Buttons(), Width(), off);
+  ArrangeActionBar(Buttons(), GlobalForm()->Width(), off);
 }
 
 RecordsetRef FrmOrvendalciales::InUse(RecordsetRef& variable) {

@@ -4,7 +4,6 @@
 #include <memory>
 #include <string>
 
-#include "component/component_state.h"
 #include "platform/forms/barra.h"
 #include "platform/forms/boton.h"
 #include "platform/forms/combo_box.h"
@@ -19,12 +18,12 @@
 #include "platform/forms/text_box.h"
 #include "platform/forms/timer.h"
 #include "screen/action_bar.h"
+#include "session/component_state.h"
 
 namespace orvendal {
 
 /// The screen: the entry of opening stock counts. One object with its 46 controls, its variables, its
-/// handlers named Control_Event and its procedures; their definitions lie in form/ (frame and start), lines/
-/// (entry of lines) and count/ (what is done with them).
+/// handlers named Control_Event and its procedures; each group of them names the file of its definitions.
 ///
 /// Invariants between two events: lines have no gaps; `MSFProductos1` is what the store held at the last
 /// load; `PintandoFila`, `MoviendoColumna`, `CargandoLineas` and `FlagFechaCambio` are False; supervisor mode
@@ -96,12 +95,15 @@ class FrmOrvendalciales final : public Form {
     bool FlagFechaCambio = false;
     std::uint8_t UltimaColumna = 0;
     bool CargandoLineas = false;  // a load runs: the open editor is not to write into the lines
-    int editor_row = 0;           // the cell over which the editor was placed last
+    bool lines_not_whole =
+        false;           // a load failed and took lines away: a save would take them out of the store
+    Date day_of_lines;   // of the last load that came to its end
+    int editor_row = 0;  // the cell over which the editor was placed last
     int editor_column = 0;
   };
   Variables variables;
 
-  // Frame: start, activation, keys, closing.
+  // form/form_load.cpp, form/form_frame.cpp: start, activation, keys, closing.
   void Form_Load();
   void Form_Activate();
   void Form_KeyDown(int& KeyCode, int Shift);
@@ -109,15 +111,19 @@ class FrmOrvendalciales final : public Form {
   void Barra1_Minimizar();
   void Barra1_Cerrar();
   void TimerCBarra_Timer();
+
+  // form/frm_orvendalciales.cpp: what all of them use.
   /// Switches the action bar to one of the sets below: the names of the buttons to switch off.
   void PonerBotones(const ButtonSet& off);
 
-  // Cell editor and grid.
+  // lines/cell_editor.cpp
   void ColocarEditor();
   void EntrarCelda(int& KeyAscii);
   void TxtMSF_GotFocus();
   void TxtMSF_KeyDown(int& KeyCode, int Shift);
   void TxtMSF_KeyPress(int& KeyAscii);
+
+  // lines/grid_events.cpp
   void MSFProductos_GotFocus();
   void MSFProductos_Click();
   void MSFProductos_DblClick();
@@ -127,30 +133,46 @@ class FrmOrvendalciales final : public Form {
   void MSFProductos_LeaveCell();
   void MSFProductos_Scroll();
   void ScrollProductos_Change();
+
+  // lines/grid_navigation.cpp
   /// `Direccion`: "Izq", "Der", "Arr" or "Aba".
   void MoverCelda(const std::string& Direccion);
 
-  // Products and stylist.
+  // lines/product_resolution.cpp
   void ValidarProducto(bool& Resultado);
   std::string BuscarReferencia(const std::string& Referencia);
   bool ProductoRepetido(const std::string& Codigo);
   bool CargarLinea(const std::string& Codigo);
+
+  // lines/search_button.cpp
   void LblBuscar_Click(int Index);
+
+  // lines/stylist_selection.cpp
   void CmdEmpl_Click();
   void TxtEmpleado_GotFocus();
   void TxtEmpleado_KeyPress(int& KeyAscii);
   void TxtEmpleado_LostFocus();
 
-  // Count.
+  // count/load_day.cpp
   void CargarExistencias();
-  void LblNuevo_Click(int Index);
-  void LblCancelar_Click(int Index);
-  void LimpiarCabecera();
+
+  // count/save_count.cpp
   void LblGuardar_Click(int Index);
   bool ExisteProducto(const std::string& Codigo);
   void AnotarRecalculo(const std::string& Codigo);
+
+  // count/cancel_count.cpp
+  void LblCancelar_Click(int Index);
+  void LimpiarCabecera();
+
+  // count/delete_line.cpp
   void LblBorrar_Click(int Index);
+
+  // count/supervisor_mode.cpp
+  void LblNuevo_Click(int Index);
   void BtnAnuloSuper_Click();
+
+  // count/date_selection.cpp
   void MkFecha_GotFocus();
   void MkFecha_KeyPress(int& KeyAscii);
   void MkFecha_LostFocus();
@@ -160,30 +182,34 @@ class FrmOrvendalciales final : public Form {
   void Calendario_LostFocus();
   void Calendario_KeyPress(int& KeyAscii);
   void Calendario_SelChange(Date StartDate, Date EndDate, bool& Cancel);
+
+  // count/change_guard.cpp
   bool HayCambios();
 
  protected:
   void ApplyDesign() override;
 
  private:
-  // Wiring, one line per control and event.
+  // form/event_wiring.cpp, one line per control and event
   void WireFrame();
   void WireLines();
   void WireCount();
   void WireActionBar();
   void WirePressLook(Label& member, Label& caption);
 
-  // Steps of Form_Load.
+  // form/form_load.cpp
   void SetCaptions();
-  void DefineLineGrid();
-  void FitDescriptionColumn();
-  void FitEditor(double beyond_column);
-  void DefineSnapshotGrid();
   void NameBranch();
   void SetDates();
   void FitToScreen();
 
-  // Shared small steps.
+  // form/grid_definition.cpp
+  void DefineLineGrid();
+  void FitDescriptionColumn();
+  void FitEditor(double beyond_column);
+  void DefineSnapshotGrid();
+
+  // form/frm_orvendalciales.cpp
   ActionBar Buttons();
   DatosComunes& Session() { return state_.session; }
   const Region& UserRegion() { return Host().UserRegion(); }
@@ -201,29 +227,49 @@ class FrmOrvendalciales final : public Form {
   std::shared_ptr<FrmOrvendalciales> GlobalForm();
   void TakeGlobalForm(const ObjectRef& form);
 
-  void PaintLine(ColorWord back_color, ColorWord fore_color, int last_column);
+  // lines/cell_editor.cpp
   void SelectEditorText();
   void PlaceEditorAnew();
   bool IsEditingQuantity();
   bool EditorIsInPlace();
   void CommitQuantity();
-  void RefuseBlankStylist();
   void ConfirmCell();
   void ConfirmQuantity();
-  void FocusEditorOrGrid();
-  void WriteLine(Recordset& product, const std::string& code);
-  std::string AbrirBuscador(const std::string& field, const std::string& text);
+
+  // lines/grid_events.cpp
+  void PaintLine(ColorWord back_color, ColorWord fore_color, int last_column);
+
+  // lines/product_resolution.cpp
   std::string ChosenProduct();
+  void WriteLine(Recordset& product, const std::string& code);
+
+  // lines/search_button.cpp
+  std::string AbrirBuscador(const std::string& field, const std::string& text);
+
+  // lines/stylist_selection.cpp
   std::unique_ptr<SelectorEmpleado> AbrirSelector(bool para_nuevo);
-  std::int32_t AskToSave();
-  void CheckQuantities();
-  bool StoreLines(Recordset& rows);
-  void FillRow(int row);
-  bool StoreRow(int row);
-  void RecalculateProducts();
+  void RefuseBlankStylist();
+
+  // count/load_day.cpp
   void LoadLines(const std::string& condition, bool& has_written);
   void WriteLoadedRow(int row, const Recordset& lines);
+
+  // count/save_count.cpp
+  void CheckLinesAreWhole();
+  void CheckQuantities();
+  bool StoreLines();
+  void FillRow(Recordset& rows, int row);
+  bool StoreRow(Recordset& rows, int row);
+  void RecalculateProducts();
+
+  // count/supervisor_mode.cpp
   void ShowNormalMode();
+
+  // count/date_selection.cpp
+  void FocusEditorOrGrid();
+
+  // count/change_guard.cpp
+  std::int32_t AskToSave();
 
   ComponentState& state_;
 };

@@ -85,6 +85,10 @@ constexpr std::array kKnown = {
         "Overflow: the grid has more than the %2 rows that a save takes. Nothing was deleted or saved. "
         "Note the lines that are new, press Cancel to load the day again, and enter fewer of them.",
         &Words::grid_too_long},
+    KnownDescription{
+        "The lines of the day could not be loaded whole. Nothing was deleted or saved. Press Cancel to "
+        "load the day again.",
+        &Words::lines_not_whole},
     KnownDescription{"Type mismatch", &Words::value_of_wrong_kind},
     KnownDescription{"Invalid use of Null", &Words::value_empty},
     KnownDescription{"Object variable or With block variable not set", &Words::object_missing},

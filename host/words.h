@@ -100,6 +100,7 @@ struct Words {
   std::string_view wrong_argument;
   std::string_view number_too_large;
   std::string_view grid_too_long;  // %2 is how many rows can be saved
+  std::string_view lines_not_whole;
   std::string_view value_empty;
   std::string_view object_missing;
   std::string_view program_error;

@@ -122,6 +122,10 @@ const Words& CatalanWords() {
       .grid_too_long =
           "El recompte té més de les %2 files que es poden desar. No s’ha esborrat ni desat res. Apunteu les "
           "línies noves, premeu Cancel·lar per carregar el dia una altra vegada i introduïu-ne menys.",
+      .lines_not_whole =
+          "No s’han pogut carregar totes les línies del dia. No s’ha esborrat ni desat res. Premeu "
+          "Cancel·lar per "
+          "carregar el dia una altra vegada.",
       .value_empty = "Falta un valor necessari. Completeu-lo a la base de dades i repetiu el que fèieu.",
       .object_missing =
           "Falta una part del programa que havia d’estar preparada. Tanqueu la pantalla i torneu-la a obrir.",

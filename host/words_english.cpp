@@ -119,6 +119,10 @@ const Words& EnglishWords() {
       .grid_too_long =
           "The count has more than the %2 rows that can be saved. Nothing was deleted or saved. Note the "
           "lines that are new, press Cancel to load the day again, and enter fewer of them.",
+      .lines_not_whole =
+          "The lines of the day could not all be loaded. Nothing was deleted or saved. Press Cancel to load "
+          "the day "
+          "again.",
       .value_empty = "A value is missing that there has to be. Complete it in the database and do it again.",
       .object_missing =
           "A part of the program that should be ready is missing. Close the screen and open it again.",

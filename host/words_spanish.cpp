@@ -126,6 +126,10 @@ const Words& SpanishWords() {
       .grid_too_long =
           "El recuento tiene más de las %2 filas que se pueden guardar. No se ha borrado ni guardado nada. "
           "Apunte las líneas nuevas, pulse Cancelar para cargar el día otra vez e introduzca menos.",
+      .lines_not_whole =
+          "No se han podido cargar todas las líneas del día. No se ha borrado ni guardado nada. Pulse "
+          "Cancelar "
+          "para cargar el día otra vez.",
       .value_empty = "Falta un valor que hace falta. Complételo en la base de datos y repita lo que hacía.",
       .object_missing =
           "Falta una parte del programa que debía estar preparada. Cierre la pantalla y ábrala otra vez.",

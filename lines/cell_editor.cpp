@@ -52,6 +52,16 @@ void FrmOrvendalciales::CommitQuantity() {
   MSFProductos.TextMatrix(MSFProductos.Row(), column::kQuantity, TxtMSF.Text());
 }
 
+void FrmOrvendalciales::TxtMSF_KeyDown(int& KeyCode, int /*Shift*/) {
+  if (KeyCode == key::kUp) {
+    MoverCelda("Arr");
+    KeyCode = 0;
+  } else if (KeyCode == key::kDown) {
+    MoverCelda("Aba");
+    KeyCode = 0;
+  }
+}
+
 void FrmOrvendalciales::TxtMSF_KeyPress(int& KeyAscii) {
   if (MSFProductos.Col() == column::kQuantity) {
     KeyAscii = state_.globals.HerramientasGlobal().FiltrarTecla(TxtMSF, KeyAscii, true);

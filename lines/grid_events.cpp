@@ -5,6 +5,13 @@
 
 namespace orvendal {
 
+void FrmOrvendalciales::MSFProductos_GotFocus() {
+  if (!TxtEmpleado.Text().empty()) return;
+  Mostrar("Debe seleccionar un Estilista", message::kInformation, "");
+  TxtEmpleado.Enabled(true);
+  TxtEmpleado.SetFocus();
+}
+
 void FrmOrvendalciales::MSFProductos_Click() {
   if (MSFProductos.Col() == column::kPreviousQuantity || MSFProductos.Col() > column::kQuantity) {
     MSFProductos.Col(column::kQuantity);

@@ -4,16 +4,6 @@
 
 namespace orvendal {
 
-void FrmOrvendalciales::TxtMSF_KeyDown(int& KeyCode, int /*Shift*/) {
-  if (KeyCode == key::kUp) {
-    MoverCelda("Arr");
-    KeyCode = 0;
-  } else if (KeyCode == key::kDown) {
-    MoverCelda("Aba");
-    KeyCode = 0;
-  }
-}
-
 // "Izq" and "Der" work, though no key sends them.
 void FrmOrvendalciales::MoverCelda(const std::string& Direccion) {
   MSFlexGrid& grid = MSFProductos;

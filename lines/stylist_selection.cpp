@@ -53,11 +53,4 @@ void FrmOrvendalciales::RefuseBlankStylist() {
 void FrmOrvendalciales::TxtEmpleado_KeyPress(int& /*KeyAscii*/) {}
 void FrmOrvendalciales::TxtEmpleado_LostFocus() {}
 
-void FrmOrvendalciales::MSFProductos_GotFocus() {
-  if (!TxtEmpleado.Text().empty()) return;
-  Mostrar("Debe seleccionar un Estilista", message::kInformation, "");
-  TxtEmpleado.Enabled(true);
-  TxtEmpleado.SetFocus();
-}
-
 }  // namespace orvendal

@@ -24,7 +24,19 @@ void Enable(const ActionButton& button, bool available) {
   button.face.BackColor(available ? palette::kButtonFace : palette::kSand);
 }
 
+// "Nuevo" of LblNuevo and DivNuevo; empty for what is no part of a button.
+std::string ActionOf(const Control& control) {
+  const bool is_part =
+      control.Index() >= 0 && (control.Name().starts_with("Lbl") || control.Name().starts_with("Div"));
+  return is_part ? control.Name().substr(3) : std::string();
+}
+
 }  // namespace
+
+bool BelongToOneButton(const Control& one, const Control& other) {
+  const std::string action = ActionOf(one);
+  return !action.empty() && ActionOf(other) == action;
+}
 
 void ArrangeActionBar(const ActionBar& bar, double form_width, const ButtonSet& off) {
   double free = form_width;

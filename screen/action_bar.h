@@ -23,6 +23,9 @@ using ActionBar = std::array<ActionButton, 5>;
 /// The names of the buttons to switch off; an empty text names none.
 using ButtonSet = std::array<std::string, 5>;
 
+/// Whether both are parts of one button of the bar, by their names.
+bool BelongToOneButton(const Control& one, const Control& other);
+
 /// Spaces the buttons evenly over `form_width` twips, switches all of them on and then those off that `off`
 /// names exactly. A name that is none of theirs does nothing.
 void ArrangeActionBar(const ActionBar& bar, double form_width, const ButtonSet& off);

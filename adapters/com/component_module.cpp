@@ -12,8 +12,8 @@
 #include "adapters/com/module_parts.h"
 #include "adapters/com/object_bridge.h"
 #include "component/class_orvendal.h"
-#include "component/component_state.h"
 #include "form/frm_orvendalciales.h"
+#include "session/component_state.h"
 
 namespace orvendal {
 namespace {

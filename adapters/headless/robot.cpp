@@ -14,13 +14,6 @@ namespace {
 constexpr int kPause = 500;
 constexpr int kBetweenKeys = 10;
 
-// "Nuevo" of "LblNuevo" and "DivNuevo": the labels and shapes of one action button share it.
-std::string ActionOf(const Control& control) {
-  const bool is_member =
-      control.Index() >= 0 && (control.Name().starts_with("Lbl") || control.Name().starts_with("Div"));
-  return is_member ? control.Name().substr(3) : std::string();
-}
-
 // Punctuation has key codes of its own: the characters' numbers are those of arrows and other keys.
 int KeyCodeOf(char32_t character) {
   constexpr int kComma = 188;
@@ -48,9 +41,8 @@ Robot::Reach Robot::ReachOf(const Control& control, Point position) const {
   if (!control.IsShown()) return {Obstacle::kHidden, nullptr};
   if (!control.IsOperable()) return {Obstacle::kDisabled, nullptr};
   const Control* hit = form_.ControlAt(position);
-  const bool same_button =
-      hit != nullptr && !ActionOf(control).empty() && ActionOf(*hit) == ActionOf(control);
-  if (hit == &control || same_button) return {};
+  const bool same_array = hit != nullptr && control.Index() >= 0 && hit->Name() == control.Name();
+  if (hit == &control || same_array) return {};
   const bool inside = Rect{0, 0, form_.Width(), form_.Height()}.Contains(position);
   return {inside ? Obstacle::kCovered : Obstacle::kOutside, hit};
 }

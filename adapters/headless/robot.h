@@ -26,10 +26,10 @@ class Robot {
   explicit Robot(Form& form, FormInput& input = DirectInput())
       : form_(form), input_(input), alive_(form.shared_from_this()) {}
 
-  /// The control by its full name, or by the plain name of a group of two, whose click area (1) is meant.
+  /// The control by its full name, or member 1 of the control array of that name.
   Control& Find(std::string_view name) const;
-  /// Why a click on the control would not reach it; empty if it would. What belongs to the same action button
-  /// never covers.
+  /// Why a click on the control would not reach it; empty if it would. What belongs to the same control
+  /// array, and so raises the same events, never covers.
   std::string WhyUnreachable(const Control& control, Point position) const;
   /// The same for those who put it into words of their own.
   Reach ReachOf(const Control& control, Point position) const;

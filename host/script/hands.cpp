@@ -5,6 +5,7 @@
 #include "host/script/parser.h"
 #include "host/script/show.h"
 #include "platform/base/text.h"
+#include "screen/action_bar.h"
 
 namespace orvendal {
 namespace {
@@ -167,6 +168,7 @@ void ScriptHands::CheckReach(const Control& control, Point position) const {
     case Robot::Obstacle::kOutside:
       throw ScriptStop(control.FullName() + " queda fuera de la pantalla");
     case Robot::Obstacle::kCovered:
+      if (reach.by != nullptr && BelongToOneButton(control, *reach.by)) return;
       throw ScriptStop(control.FullName() + " está tapado" +
                        (reach.by == nullptr ? std::string() : " por " + reach.by->FullName()));
   }

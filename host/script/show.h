@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "component/datos_comunes.h"
 #include "form/frm_orvendalciales.h"
+#include "session/datos_comunes.h"
 
 namespace orvendal {
 

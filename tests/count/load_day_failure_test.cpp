@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/screen_report.h"
+#include "tests/support/stored_counts.h"
 
 namespace orvendal {
 namespace {
@@ -8,6 +9,9 @@ namespace {
 using namespace testing_support;
 
 constexpr std::int32_t kStoreGone = -2147467259;
+constexpr const char* kNotWhole =
+    "5: The lines of the day could not be loaded whole. Nothing was deleted or saved. Press Cancel to load "
+    "the day again.";
 
 /// A load that fails under the open screen: reported by the host, the screen goes on, a later load mends it.
 class LoadDayFailureTest : public testing::TestWithParam<Dialect> {
@@ -115,6 +119,43 @@ TEST_P(LoadDayFailureTest, AnEditorWhoseLineWasCutAwayWritesItsQuantityIntoNoOth
   EXPECT_TRUE(EditorTextIsSelected(screen));
   screen.ClickCell(1, kCode);
   EXPECT_EQ(screen.Cell(12, kQuantity), last);
+}
+
+TEST_P(LoadDayFailureTest, ASaveAfterADayThatCameHalfLeavesTheStoreAsItIs) {
+  screen.Execute("UPDATE HistOrvendalcial SET StockActual = NULL WHERE IdProducto = 'P11'");
+  screen.Click("LblCancelar");
+  Forget(screen);
+  const std::string stored = StoredCodesOn(screen, "2026-11-16");
+  screen.Click("LblGuardar");
+  EXPECT_EQ(TakeErrors(screen), Texts{kNotWhole});
+  EXPECT_EQ(StoredCodesOn(screen, "2026-11-16"), stored);
+  screen.Execute("UPDATE HistOrvendalcial SET StockActual = 7 WHERE IdProducto = 'P11'");
+  ExpectLoadsAgain();
+  screen.Click("LblGuardar");
+  EXPECT_TRUE(TakeErrors(screen).empty());
+  EXPECT_EQ(StoredCodesOn(screen, "2026-11-16"), "P10 P11 P12");
+}
+
+TEST_P(LoadDayFailureTest, ASaveAfterALongDayWasCutToTwelveLinesLeavesTheStoreAsItIs) {
+  screen.AddCounts(30);
+  screen.Click("LblCancelar");
+  screen.recordsets.FailOpen(1, kStoreGone, "no responde");
+  screen.Click("LblCancelar");
+  Forget(screen);
+  const std::string stored = StoredCodesOn(screen, "2026-11-16");
+  screen.Click("LblGuardar");
+  EXPECT_EQ(TakeErrors(screen), Texts{kNotWhole});
+  EXPECT_EQ(StoredCodesOn(screen, "2026-11-16"), stored);
+  ExpectLoadsAgain();
+}
+
+TEST_P(LoadDayFailureTest, AShortDayThatDoesNotOpenIsSavedAsItStands) {
+  screen.recordsets.FailOpen(1, kStoreGone, "no responde");
+  screen.Click("LblCancelar");
+  Forget(screen);
+  screen.Click("LblGuardar");
+  EXPECT_TRUE(TakeErrors(screen).empty());
+  EXPECT_EQ(StoredCodesOn(screen, "2026-11-16"), "P10 P11 P12");
 }
 
 INSTANTIATE_TEST_SUITE_P(BothDialects, LoadDayFailureTest,

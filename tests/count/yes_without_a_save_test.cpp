@@ -155,6 +155,22 @@ TEST_P(YesWithoutASaveTest, ChangingTheDayWithASecondLoadThatFailsKeepsBothDates
   EXPECT_EQ(screen.Codes(), (Texts{"P10", "P1"}));
 }
 
+TEST_P(YesWithoutASaveTest, ASaveAfterASecondLoadThatFailedPutsNoLinesOfTheNewDayIntoTheOldOne) {
+  screen.recordsets.FailOpen(6, kStoreGone, "no responde");
+  PickDay(screen, kOther);
+  Forget(screen);
+  screen.Click("LblGuardar");
+  EXPECT_EQ(TakeErrors(screen), Texts{"5: The lines of the day could not be loaded whole. Nothing was "
+                                      "deleted or saved. Press Cancel to load "
+                                      "the day again."});
+  EXPECT_EQ(StoredOn("2026-11-16"), "P10 P1");
+  EXPECT_EQ(StoredOn("2026-11-20"), "P20");
+  screen.Click("LblCancelar");
+  screen.Click("LblGuardar");
+  EXPECT_TRUE(TakeErrors(screen).empty());
+  EXPECT_EQ(StoredOn("2026-11-16"), "P10 P1");
+}
+
 TEST_P(YesWithoutASaveTest, LeavingSupervisorModeWithARefusedSaveLeavesAllTheSame) {
   LoseStylist();
   screen.library.QueueEmployee({false, "", ""});

@@ -59,6 +59,13 @@ TEST(ErrorWords, AnOverflowSaysWhatToDo) {
               "them."),
       "El recuento tiene más de las 32767 filas que se pueden guardar. No se ha borrado ni guardado nada. "
       "Apunte las líneas nuevas, pulse Cancelar para cargar el día otra vez e introduzca menos.");
+  // As it refuses lines that a load left half.
+  EXPECT_EQ(
+      Spanish("The lines of the day could not be loaded whole. Nothing was deleted or saved. Press Cancel to "
+              "load the day again."),
+      "No se han podido cargar todas las líneas del día. No se ha borrado ni guardado nada. Pulse Cancelar "
+      "para "
+      "cargar el día otra vez.");
 }
 
 // Every way in which the store and the runtime describe an error has its sentence in every language.

@@ -120,6 +120,15 @@ TEST_F(StandInTools, SetsTheStockToTheNewestCountOfTheBranch) {
   EXPECT_EQ(Stock("02", "CHA01"), "8");
 }
 
+TEST_F(StandInTools, AQuantityThatIsShorterWithAnExponentBecomesTheStock) {
+  for (const double quantity : {100000.0, 200000.0, 1000000.0, 9000000.0, 0.0001, -300000.0, 1e20}) {
+    store->Execute("DELETE FROM HistOrvendalcial");
+    Count("01", "2026-11-16 00:00:00", "LAC001", quantity);
+    Recalculate("01", "LAC001");
+    EXPECT_EQ(std::stod(Stock("01", "LAC001")), quantity);
+  }
+}
+
 TEST_F(StandInTools, OfTwoCountsOfADayTakesTheOneSavedLast) {
   Count("01", "2026-11-16 00:00:00", "CHA01", 5, "2026-11-16 12:00:00");
   Count("01", "2026-11-16 00:00:00", "CHA01", 4, "2026-11-16 09:00:00");

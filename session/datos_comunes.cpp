@@ -1,4 +1,4 @@
-#include "component/datos_comunes.h"
+#include "session/datos_comunes.h"
 
 #include "platform/base/text.h"
 #include "platform/forms/form.h"

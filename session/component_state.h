@@ -3,14 +3,15 @@
 #include <memory>
 #include <vector>
 
-#include "component/datos_comunes.h"
 #include "platform/data/recordset.h"
 #include "platform/forms/window_host.h"
 #include "platform/library/library.h"
+#include "session/datos_comunes.h"
 
 namespace orvendal {
 
-class FrmOrvendalciales;
+class FrmOrvendalciales;  // the one name from above: the component keeps its form, and nobody down here asks
+                          // it
 
 /// What the component is given by whoever loads it. All of it outlives the component.
 struct Environment {

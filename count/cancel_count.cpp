@@ -1,0 +1,18 @@
+#include "form/frm_orvendalciales.h"
+
+namespace orvendal {
+
+void FrmOrvendalciales::LblCancelar_Click(int /*Index*/) {
+  TxtMSF.Visible(false);
+  if (!TxtEmpleado.Text().empty()) PonerBotones(BotonesConLineas);
+  CargarExistencias();
+}
+
+// Nobody calls it; it stands ready.
+void FrmOrvendalciales::LimpiarCabecera() {
+  TxtCodigo.Text("");
+  MkFecha.Text("");
+  TxtEmpleado.Text("");
+}
+
+}  // namespace orvendal
