@@ -231,6 +231,20 @@ TEST_P(SupervisorModeTest, AStoreThatFailsOnTheWayOutLeavesTheModeOn) {
   ExpectLeft();
 }
 
+// Seen with a library that fails while the dates go back: from then on a closed calendar changed the day.
+TEST_P(SupervisorModeTest, AnErrorThatKeepsTheDatesFromGoingBackLeavesNoFlagUp) {
+  screen.EnterLine("P1", "5");
+  screen.library.QueueAnswer(message::kYes);
+  screen.recordsets.FailOpen(1, -2147467259, "no responde");
+  screen.recordsets.OnOpen([this](const OpenedStatement&) {
+    screen.library.FailNext("FormatoFecha", RuntimeError(5));
+    screen.recordsets.OnOpen({});
+  });
+  Leave();
+  EXPECT_EQ(TakeErrors(screen).size(), 1U);
+  EXPECT_FALSE(form().variables.FlagSupervisor);
+}
+
 TEST_P(SupervisorModeTest, StartsOffAtEachLoad) {
   const std::shared_ptr<FrmOrvendalciales> old = screen.state.form;
   old->Unload();

@@ -159,6 +159,7 @@ TEST_P(YesWithoutASaveTest, ASaveAfterASecondLoadThatFailedPutsNoLinesOfTheNewDa
   screen.recordsets.FailOpen(6, kStoreGone, "no responde");
   PickDay(screen, kOther);
   Forget(screen);
+  screen.DoubleClickCell(1, kQuantity);
   screen.Click("LblGuardar");
   EXPECT_EQ(TakeErrors(screen), Texts{"5: The lines of the day could not be loaded whole. Nothing was "
                                       "deleted or saved. Press Cancel to load "
