@@ -106,6 +106,12 @@ TEST_F(Program, WrongUseIsOneLineAndExitCodeTwo) {
   EXPECT_EQ(output, "");
 }
 
+TEST_F(Program, WrongUseKeepsItsExitCodeWhereTheDisplayOfTheIconIsGone) {
+  display = "DISPLAY=:9871";
+  EXPECT_EQ(Run("--nada </dev/null"), 2);
+  EXPECT_EQ(errors, "orvendal: No existe la opción --nada. La ayuda está en orvendal --help.\n");
+}
+
 TEST_F(Program, HelpGoesToStandardOutput) {
   EXPECT_EQ(Run("--help"), 0);
   EXPECT_NE(output.find("--sucursal"), std::string::npos);
