@@ -13,8 +13,8 @@
 #include "host/host_context.h"
 #include "host/library/stand_in_library.h"
 #include "host/script/observed_recordsets.h"
+#include "host/script/script_windows.h"
 #include "host/script/scripted_library.h"
-#include "host/script/windows.h"
 #include "host/store/host_store.h"
 
 namespace orvendal {

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "host/script/windows.h"
+#include "host/script/script_windows.h"
 
 namespace orvendal {
 

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "host/script/windows.h"
+#include "host/script/script_windows.h"
 
 namespace orvendal {
 

@@ -7,7 +7,7 @@
 #include "host/store/host_store.h"
 #include "platform/data/ado_error.h"
 #include "tests/host/host_fixture.h"
-#include "tests/host/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvendal {
 namespace {

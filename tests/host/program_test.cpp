@@ -14,7 +14,7 @@
 #include <map>
 #include <sstream>
 
-#include "tests/host/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvendal {
 namespace {
@@ -90,6 +90,7 @@ TEST_F(Program, ABranchThatThereIsNotIsToldAndTheScreenStillOpens) {
   EXPECT_TRUE(errors.ends_with("\nError al cargar la sucursal\n")) << errors;
 }
 
+// Seen: the program crashed.
 TEST_F(Program, ADisplayThatIsNotThereIsOneLineAndExitCodeOne) {
   for (const char* wrong : {"", "DISPLAY=:9871", "DISPLAY=no.such.display:0",
                             "WAYLAND_DISPLAY=no-such-socket", "QT_QPA_PLATFORM=no-such-platform"}) {

@@ -56,6 +56,7 @@ TEST_F(ControlLooksTest, TheBackgroundBitmap) {
   EXPECT_EQ(colors.size(), 85U);
 }
 
+// Seen: on a wide display the background ended with a hard edge.
 TEST_F(ControlLooksTest, OnAWideDisplayTheBackgroundFadesIntoTheSurfaceBehindIt) {
   const Bitmap& picture = *form.PicServicios.Picture();
   const Rgb surface = form.Host().Resolve(form.PicServicios.BackColor());

@@ -10,7 +10,7 @@
 
 #include "host/sample/made_store.h"
 #include "host/script/runner.h"
-#include "tests/host/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvendal {
 namespace {

@@ -153,7 +153,7 @@ void RandomUser::ChangeDay() {
                                          "2026-11-01", "2026-08-19", "2027-02-28"};
   if (!now_.calendar && !Act(random_.Chance(50) ? "clic MkFecha" : "foco MkFecha")) return;
   std::string day = "2026-11-" + Number(10, 28);
-  if (random_.Chance(20)) day = OneOf(kFar);
+  if (random_.Chance(8)) day = OneOf(kFar);
   if (!Act("dia " + day)) return;
   if (random_.Chance(50)) Key("Esc");
 }

@@ -64,6 +64,7 @@ std::u32string WithControl(int key, quint32 place, const QString& text) {
   return std::u32string(characters.begin(), characters.end());
 }
 
+// Seen: Ctrl+C and its like did nothing on a Russian or a Greek keyboard.
 TEST(Keys, WhereTheLayoutIsNotLatinTheKeysPlaceDecidesWithControl) {
   // The keys A, C, V, X and Z of a Russian and a Greek keyboard.
   EXPECT_EQ(WithControl(0x0424, 38, QString::fromUtf8("ф")), U"\x01");

@@ -92,6 +92,7 @@ TEST_F(FormWindows, TheWindowManagerMayMinimise) {
   EXPECT_EQ(Window()->size(), ScreenSize());
 }
 
+// Seen: being minimised put it back into full screen, and so showed it again.
 TEST_F(FormWindows, AWindowThatTheManagerTookOutOfFullScreenCanBeMinimised) {
   ShowForm();
   form->WindowState(FormState::kMaximized);

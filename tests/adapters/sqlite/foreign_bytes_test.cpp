@@ -28,6 +28,7 @@ const std::string kSmall =
     "PE\xF1"
     "A";
 
+// Seen: bytes that are no UTF-8 did not load, or were taken for others.
 TEST_P(ForeignBytes, ACodeInAnotherEncodingFindsItsProductAndNoOther) {
   AddProduct(kCapital);
   AddProduct(kSmall);

@@ -125,6 +125,7 @@ TEST_F(HarmlessStore, APragmaTellsAndChangesNothing) {
   EXPECT_EQ(Told("PRAGMA integrity_check"), "ok");
 }
 
+// Seen: what a statement sorts stood in a temporary file.
 TEST_F(HarmlessStore, WhatAStatementKeepsForItselfGoesIntoNoFile) {
   OpenSample();
   EXPECT_EQ(Told("PRAGMA temp_store"), "2");  // in memory

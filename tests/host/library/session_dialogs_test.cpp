@@ -4,7 +4,7 @@
 #include "platform/forms/label.h"
 #include "platform/library/library.h"
 #include "tests/host/host_fixture.h"
-#include "tests/host/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvendal {
 namespace {

@@ -144,6 +144,7 @@ TEST_F(StandInTools, OfTwoCountsOfTheSameMomentTakesTheOneAddedLast) {
   EXPECT_EQ(Stock("01", "CHA01"), "4");
 }
 
+// Seen: a code spelled otherwise got a row of stock of its own.
 TEST_F(StandInTools, AProductHasOneStockHoweverItsCodeIsSpelled) {
   store->Execute("INSERT INTO ProdSucStock VALUES ('01', 'PEÑA', 9), ('01', 'LAC01 ', 8)");
   Count("01", "2026-11-16 00:00:00", "peña", 5);

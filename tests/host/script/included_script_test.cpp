@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "host/script/runner.h"
-#include "tests/host/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvendal {
 namespace {

@@ -6,7 +6,7 @@
 
 #include <fstream>
 
-#include "tests/host/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvendal {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "host/script/parser.h"
 #include "host/script/runner.h"
-#include "tests/host/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvendal {
 namespace {

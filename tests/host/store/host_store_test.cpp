@@ -7,7 +7,7 @@
 #include "host/sample/made_store.h"
 #include "host/store/private_file.h"
 #include "platform/data/ado_error.h"
-#include "tests/host/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvendal {
 namespace {
@@ -114,6 +114,7 @@ TEST_F(HostStore, TheReasonIsInTheLanguageChosen) {
   }
 }
 
+// Seen: others on the machine could read it.
 TEST_F(HostStore, TheDefaultStoreIsForItsOwnerAlone) {
   namespace fs = std::filesystem;
   const std::string home = folder / "orvendal";

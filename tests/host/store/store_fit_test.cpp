@@ -11,7 +11,7 @@
 
 #include "host/store/host_store.h"
 #include "host/store/schema.h"
-#include "tests/host/temporary_folder.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvendal {
 namespace {

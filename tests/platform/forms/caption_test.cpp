@@ -114,6 +114,7 @@ TEST_F(CaptionTest, ACaptionThatIsTooWideIsWrittenInTheLargestFontThatFits) {
   EXPECT_EQ(Painted().font.weight, kFont.weight);
 }
 
+// Seen: captions were cut where the letters of a desktop are wider.
 TEST_F(CaptionTest, ALabelThatDoesNotSizeItselfWritesSmallerToo) {
   label.Design("Cancelar", false, false);
   label.Width(WidthOf(kFont) - 1);

@@ -9,82 +9,11 @@
 #include <vector>
 
 #include "adapters/win32/win32_window_host.h"
-#include "platform/forms/form.h"
-#include "platform/forms/text_box.h"
+#include "tests/support/probe_form.h"
 
 namespace orvendal {
 
 using Log = std::vector<std::string>;
-
-class StillClock final : public Clock {
- public:
-  Date Now() override { return Date(2026, 11, 16, 10, 30, 0); }
-};
-
-/// A control that tells what reaches it and paints itself in one colour.
-class ProbeControl final : public Control {
- public:
-  ProbeControl(Form& form, std::string_view name, Rgb color) : Control(form, nullptr, name), color_(color) {
-    InitializeDefaults();
-  }
-  ControlKind Kind() const override { return ControlKind::kPictureBox; }
-  void Color(Rgb color) {
-    color_ = color;
-    Refresh();
-  }
-  void Paint(Canvas& canvas) override {
-    ++times_painted;
-    canvas.FillRectangle(LocalBounds(), color_);
-    if (OnPaint) OnPaint();
-  }
-  bool MouseWheel(double lines) override {
-    wheel_lines += lines;
-    return true;
-  }
-  CursorShape Cursor(Point) const override { return CursorShape::kText; }
-
-  std::function<void()> OnPaint;
-  int times_painted = 0;
-  double wheel_lines = 0;
-
- private:
-  Rgb color_;
-};
-
-/// A form of 400 by 300 pixels: two probes side by side on top, a text box below.
-class ProbeForm final : public Form {
- public:
-  explicit ProbeForm(WindowHost& host)
-      : Form(host, "Probe"),
-        left(*this, "Left", {255, 0, 0}),
-        right(*this, "Right", {0, 0, 255}),
-        box(*this, nullptr, "Box") {}
-
-  ProbeControl left;
-  ProbeControl right;
-  TextBox box;
-  int border_style = 0;
-  int start_up_position = 3;
-
-  void Note(const std::string& line) { log.push_back(line); }
-  Log log;
-
- protected:
-  void ApplyDesign() override {
-    Caption("Orvendal");
-    BorderStyle(border_style);
-    StartUpPosition(start_up_position);
-    KeyPreview(true);
-    Width(400 * kTwipsPerPixel);
-    Height(300 * kTwipsPerPixel);
-    left.Move(0, 0, 200 * kTwipsPerPixel, 100 * kTwipsPerPixel);
-    right.Move(200 * kTwipsPerPixel, 0, 200 * kTwipsPerPixel, 100 * kTwipsPerPixel);
-    box.Move(15 * kTwipsPerPixel, 150 * kTwipsPerPixel, 300 * kTwipsPerPixel, 30 * kTwipsPerPixel);
-    box.TabIndex(0);
-    left.TabIndex(1);
-    right.TabIndex(2);
-  }
-};
 
 /// Turns the message loop of the test, as a host program would, until nothing is left to do.
 inline void Pump() {

@@ -1,4 +1,4 @@
-#include "host/script/windows.h"
+#include "host/script/script_windows.h"
 
 #include "adapters/headless/headless_host.h"
 
