@@ -53,6 +53,16 @@ TEST_P(ForeignBytes, ADayWithSuchACodeLoads) {
   EXPECT_EQ(Column(DayStatement("01", LoadCondition(GetParam(), "2026-11-16")), "IdProducto").size(), 4U);
 }
 
+TEST_P(ForeignBytes, ASavedRowKeepsSuchACodeByteForByte) {
+  const RecordsetRef history = Write(TableStatement());
+  history->AddNew();
+  history->Collect("IdSucursal", "01");
+  history->Collect("Fecha", "16/11/2026");
+  history->Collect("IdProducto", kCapital);
+  history->Update();
+  EXPECT_EQ(Native("SELECT hex(IdProducto) FROM HistOrvendalcial"), "5045D141");
+}
+
 TEST_P(ForeignBytes, BoundsLieAboveEveryByte) {
   AddProduct("P\xFF\xFE");
   AddProduct("P\xF4\x90\x80\x80");
