@@ -62,12 +62,15 @@ HRESULT NumbersByDescription(REFIID iid, LPOLESTR* names, UINT count, DISPID* id
 HRESULT CallByDescription(REFIID iid, void* object, const DispatchCall& call) noexcept {
   ComPtr<ITypeInfo> description;
   const HRESULT described = OwnTypeInfo(iid, description);
-  if (FAILED(described)) return described;
+  return FAILED(described) ? described : CallByDescription(*description.Get(), object, call);
+}
+
+HRESULT CallByDescription(ITypeInfo& description, void* object, const DispatchCall& call) noexcept {
   const UINT given = call.arguments.cArgs;
-  const std::optional<ArgumentCounts> counts = ArgumentsOf(*description.Get(), call);
+  const std::optional<ArgumentCounts> counts = ArgumentsOf(description, call);
   if (counts && (given < counts->fewest || given > counts->most)) return DISP_E_BADPARAMCOUNT;
-  return description->Invoke(object, call.member, call.flags, &call.arguments, call.result, call.exception,
-                             call.wrong);
+  return description.Invoke(object, call.member, call.flags, &call.arguments, call.result, call.exception,
+                            call.wrong);
 }
 
 HRESULT GiveDescription(REFIID iid, UINT index, ITypeInfo** info) noexcept {

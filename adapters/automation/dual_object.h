@@ -13,10 +13,12 @@ namespace orvendal {
 
 // What does not depend on the interface.
 
-/// The numbers of names by an interface's description.
+/// The numbers of names by the description of an interface in the module's type library.
 [[nodiscard]] HRESULT NumbersByDescription(REFIID iid, LPOLESTR* names, UINT count, DISPID* ids) noexcept;
-/// Calls a member at its place, with arguments converted as the description says.
+/// Calls a member at its place, with arguments counted and converted as the description says.
 [[nodiscard]] HRESULT CallByDescription(REFIID iid, void* object, const DispatchCall& call) noexcept;
+[[nodiscard]] HRESULT CallByDescription(ITypeInfo& description, void* object,
+                                        const DispatchCall& call) noexcept;
 /// Fills `info` with the description, for whoever asks for it by `index`.
 [[nodiscard]] HRESULT GiveDescription(REFIID iid, UINT index, ITypeInfo** info) noexcept;
 

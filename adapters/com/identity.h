@@ -12,8 +12,6 @@ inline constexpr wchar_t kProject[] = L"DllOrvendal";
 inline constexpr wchar_t kClassName[] = L"ClassOrvendal";
 inline constexpr wchar_t kInterfaceName[] = L"_ClassOrvendal";
 inline constexpr wchar_t kVersion[] = L"1.0";
-inline constexpr WORD kMajor = 1;
-inline constexpr WORD kMinor = 0;
 
 /// {C4DCEC56-6CB1-4812-926A-918528C2913F}
 inline constexpr GUID kTypeLibrary = {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <new>
 
+#include "adapters/automation/com_ptr.h"
+#include "adapters/automation/dual_object.h"
 #include "adapters/win32/form_accessible.h"
 #include "adapters/win32/thread_dpi.h"
 
@@ -12,6 +14,13 @@ namespace {
 // The system's type library of accessibility, version 1.1.
 constexpr GUID kAccessibilityLibrary = {
     0x1ea4dbf0, 0x3c3b, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
+
+HRESULT DescribeAccessible(ComPtr<ITypeInfo>& description) noexcept {
+  ComPtr<ITypeLib> library;
+  HRESULT result = LoadRegTypeLib(kAccessibilityLibrary, 1, 1, 0, library.Receive());
+  if (FAILED(result)) result = LoadTypeLib(SystemFile(L"oleacc.dll").Path(), library.Receive());
+  return FAILED(result) ? result : library->GetTypeInfoOfGuid(__uuidof(IAccessible), description.Receive());
+}
 
 HRESULT GiveText(const std::wstring& text, BSTR* result) {
   if (text.empty()) return S_FALSE;
@@ -86,6 +95,7 @@ HRESULT AccessibleObject::Give(std::optional<LONG> child, VARIANT* result) {
 HRESULT AccessibleObject::QueryInterface(REFIID id, void** result) noexcept {
   if (result == nullptr) return E_POINTER;
   *result = nullptr;
+  if (IsMissing(id)) return E_INVALIDARG;
   if (IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch) ||
       IsEqualIID(id, __uuidof(IAccessible))) {
     *result = static_cast<IAccessible*>(this);
@@ -108,17 +118,6 @@ ULONG AccessibleObject::Release() noexcept {
 
 // IDispatch, by the system's own description of the interface.
 
-HRESULT AccessibleObject::LoadTypeInfo(ITypeInfo** info) noexcept {
-  *info = nullptr;
-  ITypeLib* library = nullptr;
-  HRESULT result = LoadRegTypeLib(kAccessibilityLibrary, 1, 1, 0, &library);
-  if (FAILED(result)) result = LoadTypeLib(SystemFile(L"oleacc.dll").Path(), &library);
-  if (FAILED(result)) return result;
-  result = library->GetTypeInfoOfGuid(__uuidof(IAccessible), info);
-  library->Release();
-  return result;
-}
-
 HRESULT AccessibleObject::GetTypeInfoCount(UINT* count) noexcept {
   if (count == nullptr) return E_POINTER;
   *count = 1;
@@ -128,29 +127,31 @@ HRESULT AccessibleObject::GetTypeInfoCount(UINT* count) noexcept {
 HRESULT AccessibleObject::GetTypeInfo(UINT index, LCID /*locale*/, ITypeInfo** info) noexcept {
   if (info == nullptr) return E_POINTER;
   *info = nullptr;
-  return index == 0 ? LoadTypeInfo(info) : DISP_E_BADINDEX;
+  if (index != 0) return DISP_E_BADINDEX;
+  ComPtr<ITypeInfo> description;
+  const HRESULT result = DescribeAccessible(description);
+  *info = description.Detach();
+  return result;
 }
 
-HRESULT AccessibleObject::GetIDsOfNames(REFIID /*id*/, LPOLESTR* names, UINT count, LCID /*locale*/,
+HRESULT AccessibleObject::GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID /*locale*/,
                                         DISPID* members) noexcept {
-  ITypeInfo* info = nullptr;
-  HRESULT result = LoadTypeInfo(&info);
-  if (FAILED(result)) return result;
-  result = DispGetIDsOfNames(info, names, count, members);
-  info->Release();
-  return result;
+  const HRESULT whole = CheckNames(id, names, count, members);
+  if (whole != S_OK) return whole == S_FALSE ? S_OK : whole;
+  ComPtr<ITypeInfo> description;
+  const HRESULT result = DescribeAccessible(description);
+  return FAILED(result) ? result : description->GetIDsOfNames(names, count, members);
 }
 
-HRESULT AccessibleObject::Invoke(DISPID member, REFIID /*id*/, LCID /*locale*/, WORD flags,
-                                 DISPPARAMS* parameters, VARIANT* value, EXCEPINFO* exception,
-                                 UINT* argument) noexcept {
-  ITypeInfo* info = nullptr;
-  HRESULT result = LoadTypeInfo(&info);
+HRESULT AccessibleObject::Invoke(DISPID member, REFIID id, LCID locale, WORD flags, DISPPARAMS* parameters,
+                                 VARIANT* value, EXCEPINFO* exception, UINT* argument) noexcept {
+  if (const HRESULT whole = CheckCall(id, parameters, value, argument); FAILED(whole)) return whole;
+  ComPtr<ITypeInfo> description;
+  const HRESULT result = DescribeAccessible(description);
   if (FAILED(result)) return result;
-  result = DispInvoke(static_cast<IAccessible*>(this), info, member, flags, parameters, value, exception,
-                      argument);
-  info->Release();
-  return result;
+  const ComPtr<IAccessible> self(this);
+  return CallByDescription(*description.Get(), self.Get(),
+                           {member, locale, flags, *parameters, value, exception, argument});
 }
 
 // IAccessible.
@@ -365,8 +366,8 @@ HRESULT AccessibleObject::ContextSensitiveHelp(BOOL /*enter*/) noexcept {
 // IEnumVARIANT.
 
 HRESULT AccessibleObject::Next(ULONG count, VARIANT* children, ULONG* fetched) noexcept {
-  if (children == nullptr) return E_POINTER;
   if (fetched != nullptr) *fetched = 0;
+  if (children == nullptr || (fetched == nullptr && count != 1)) return E_POINTER;
   return Ask([&] {
     const std::vector<LONG> listed = node_->Children();
     ULONG given = 0;

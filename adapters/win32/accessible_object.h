@@ -92,7 +92,6 @@ class AccessibleObject final : public IAccessible, public IOleWindow, public IEn
   /// A child as clients get it: its object if it is one, else its number. S_FALSE and empty for nothing.
   HRESULT Give(std::optional<LONG> child, VARIANT* result);
   std::optional<LONG> Sibling(LONG child, LONG direction);
-  HRESULT LoadTypeInfo(ITypeInfo** info) noexcept;
 
   const ModuleUse use_;
   std::atomic<ULONG> references_ = 1;

@@ -71,7 +71,7 @@ HRESULT CallWithout(IUnknown* object, const DescribedFunction& function, std::si
     addresses.push_back(&values[index]);
     const DescribedFunction::Parameter& parameter = function.parameters[index];
     types.push_back(parameter.by_reference ? VARTYPE{VT_BYREF | VT_I4} : parameter.type);
-    V_VT(&values[index]) = types.back();
+    V_VT(&values[index]) = types.back() == VT_VARIANT ? VARTYPE{VT_EMPTY} : types.back();
     if (parameter.by_reference && index != place) V_BYREF(&values[index]) = behind.emplace_back().data();
   }
   VARIANT result;

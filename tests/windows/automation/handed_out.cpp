@@ -183,6 +183,7 @@ constexpr NamedClass kAll[] = {
     {Handed::kControls, "Controls", Manner::kCalledByNames},
     {Handed::kControl, "Control", Manner::kCalledByNames},
     {Handed::kControlsInTurn, "ControlsInTurn", Manner::kEnumeration},
+    {Handed::kAccessible, "Accessible", Manner::kCalledByNames},
     {Handed::kDatosClase, "DatosClase", Manner::kCalledByNames},
     {Handed::kHerramientas, "Herramientas", Manner::kCalledByNames},
     {Handed::kMensajes, "Mensajes", Manner::kCalledByNames},
@@ -209,7 +210,8 @@ std::string NameOf(Handed what) {
 std::vector<Handed> AllOf(Manner manner) {
   std::vector<Handed> all;
   for (const NamedClass& known : kAll) {
-    if (manner == Manner::kAny || known.manner == manner) all.push_back(known.what);
+    const bool both = known.what == Handed::kAccessible && manner == Manner::kEnumeration;
+    if (manner == Manner::kAny || known.manner == manner || both) all.push_back(known.what);
   }
   return all;
 }
