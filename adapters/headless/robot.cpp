@@ -112,7 +112,7 @@ Point Robot::CellPosition(MSFlexGrid& grid, int row, int column) const {
   // A row out of view is scrolled to, as a hand does with the wheel; one that shows in part is not.
   for (int turn = 0; turn <= grid.Rows() && grid.CellRectangle(row, column).IsEmpty(); ++turn) {
     const int top = grid.TopRow();
-    grid.MouseWheel(row < top ? -1 : 1);
+    grid.MouseWheel({row < top ? -1 : 1, 0});
     if (grid.TopRow() == top) break;
   }
   const Rect cell = grid.CellRectangle(row, column);

@@ -206,8 +206,11 @@ void QtFormWidget::wheelEvent(QWheelEvent* event) {
   event->accept();
   const int turned = event->angleDelta().y();
   if (form_ == nullptr || turned == 0) return;
-  const double lines = -turned / kWheelStep * QApplication::wheelScrollLines();
-  host_.Guard([&] { form_->MouseWheel(PlaceOnForm(event->position()), lines); });
+  const int lines_of_a_notch = QApplication::wheelScrollLines();
+  host_.Guard([&] {
+    form_->MouseWheel(PlaceOnForm(event->position()), -turned / kWheelStep * lines_of_a_notch,
+                      lines_of_a_notch);
+  });
 }
 
 void QtFormWidget::ShowCursor(CursorShape shape) {

@@ -58,15 +58,11 @@ void Win32FormWindow::LoseMouse() {
 }
 
 void Win32FormWindow::Turn(WPARAM wparam, LPARAM place) {
-  const int turned = GET_WHEEL_DELTA_WPARAM(wparam) * LinesPerNotch();
-  if ((turned > 0) != (wheel_rest_ > 0)) wheel_rest_ = 0;
-  wheel_rest_ += turned;
-  const int lines = wheel_rest_ / WHEEL_DELTA;
-  wheel_rest_ -= lines * WHEEL_DELTA;
-  if (lines == 0) return;
+  const int lines_of_a_notch = LinesPerNotch();
+  const double notches = -GET_WHEEL_DELTA_WPARAM(wparam) / static_cast<double>(WHEEL_DELTA);
   POINT pixels{GET_X_LPARAM(place), GET_Y_LPARAM(place)};
   ScreenToClient(window_, &pixels);
-  host_.Guard([&] { form_.MouseWheel(PlaceOnForm(pixels), -lines); });
+  host_.Guard([&] { form_.MouseWheel(PlaceOnForm(pixels), notches * lines_of_a_notch, lines_of_a_notch); });
 }
 
 // The keyboard.

@@ -115,7 +115,6 @@ class Win32FormWindow final : public CommonWindow {
   std::optional<Rect> caret_;
   SIZE caret_size_{};  // of the system's caret; empty without one
   int held_buttons_ = 0;
-  int wheel_rest_ = 0;  // parts of a line that small turns of the wheel have not made up yet
   WPARAM last_key_ = 0;
   bool key_is_down_ = false;
   CharacterAssembler characters_;

@@ -95,9 +95,9 @@ bool ComboBox::KeyDownDefault(int key_code, int) {
   }
 }
 
-bool ComboBox::MouseWheel(double lines) {
+bool ComboBox::MouseWheel(WheelTurn turn) {
   if (entries_.empty() || !HasFocus()) return false;
-  Choose(std::clamp(list_index_ + (lines > 0 ? 1 : -1), 0, ListCount() - 1));
+  if (turn.notches != 0) Choose(std::clamp(list_index_ + turn.notches, 0, ListCount() - 1));
   return true;
 }
 

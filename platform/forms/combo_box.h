@@ -32,7 +32,7 @@ class ComboBox final : public Control {
   void RestoreDefaults() override;
   void Paint(Canvas& canvas) override;
   bool KeyDownDefault(int key_code, int shift) override;
-  bool MouseWheel(double lines) override;
+  bool MouseWheel(WheelTurn turn) override;
   /// Click is the choice of another entry.
   bool RaisesClick(Point /*local*/) const override { return false; }
   void FocusChanged(bool has_focus) override;

@@ -34,6 +34,13 @@ enum class ControlKind {
   kBoton,
 };
 
+/// How far the wheel has turned since the last time: in lines, of which a notch of the wheel is as many as
+/// the user wants, and in notches. Down is positive.
+struct WheelTurn {
+  int lines = 0;
+  int notches = 0;
+};
+
 enum class Appearance { kFlat = 0, k3D = 1 };
 enum class AlignMode { kNone = 0, kTop = 1 };
 
@@ -171,8 +178,9 @@ class Control {
   /// The press that is under way ends without a release: a dialog or an error came between.
   virtual void GestureCancelled() {}
   virtual void MouseDoubleClicked(int /*button*/, int /*shift*/, Point /*local*/) {}
-  /// Positive `lines` scroll down. True if the control made use of it.
-  virtual bool MouseWheel(double /*lines*/) { return false; }
+  /// What scrolls goes by the lines, what steps from one thing to the next by the notches, of which a small
+  /// turn has none. True if the turn is this control's.
+  virtual bool MouseWheel(WheelTurn /*turn*/) { return false; }
   /// A press that the control handled in parts of its own (scroll bars) raises no Click and no DblClick.
   virtual bool RaisesClick(Point /*local*/) const { return true; }
   /// A press on the scroll bars of a grid leaves the focus where it is.

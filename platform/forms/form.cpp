@@ -157,6 +157,7 @@ void Form::Unload() {
   active_control_ = nullptr;
   key_target_ = nullptr;
   gesture_ = {};
+  wheel_rest_ = {};
   dirty_.clear();
   ++focus_serial_;
   if (host_.active_form_ == this) host_.active_form_ = nullptr;

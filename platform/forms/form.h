@@ -94,7 +94,9 @@ class Form : public Object {
   void MousePress(Point position, int button, int shift, bool second_of_double);
   void MouseMove(Point position, int buttons, int shift);
   void MouseRelease(Point position, int button, int shift);
-  void MouseWheel(Point position, double lines);
+  /// The wheel turns by that many lines, down if positive. Parts of a line and of a notch are kept until they
+  /// are whole; a turn back, or over another control, begins anew.
+  void MouseWheel(Point position, double lines, double lines_of_a_notch = 3);
   void KeyPress(int key_code, int shift);
   /// The character that the key pressed last stands for, control characters included.
   void Character(char32_t character);
@@ -129,6 +131,13 @@ class Form : public Object {
     bool pressed = false;
     bool swallowed = false;
     bool click_wanted = false;
+  };
+
+  /// What small turns of the wheel have not made up yet.
+  struct WheelRest {
+    const Control* over = nullptr;
+    double lines = 0;
+    double notches = 0;
   };
 
   void Register(Control* control) { controls_.push_back(control); }
@@ -181,6 +190,7 @@ class Form : public Object {
   Control* key_target_ = nullptr;
   bool character_swallowed_ = false;
   Gesture gesture_;
+  WheelRest wheel_rest_;
   int gesture_events_ = 0;  // events of the gesture that are under way, one inside the other
   std::vector<Rect> dirty_;
 };

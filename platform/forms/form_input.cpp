@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "platform/forms/form.h"
 #include "platform/forms/timer.h"
 
@@ -7,6 +9,14 @@ namespace {
 Point LocalTo(const Control& control, Point position) {
   const Rect bounds = control.Bounds();
   return {position.x - bounds.left, position.y - bounds.top};
+}
+
+// Takes the whole part out of a sum. Fifths and thirds add up to a little less than one.
+int TakeWhole(double& rest) {
+  constexpr double kSlack = 1e-6;
+  const int whole = static_cast<int>(rest + std::copysign(kSlack, rest));
+  rest -= whole;
+  return whole;
 }
 
 }  // namespace
@@ -162,13 +172,20 @@ void Form::Release(Control* target, Point position, int button, int shift) {
   GestureOver(life, serial);
 }
 
-void Form::MouseWheel(Point position, double lines) {
-  if (!host_.TakesInput(*this)) return;
+void Form::MouseWheel(Point position, double lines, double lines_of_a_notch) {
+  if (!host_.TakesInput(*this) || lines_of_a_notch <= 0) return;
   Dispatch([&] {
     std::vector<Control*> hits;
     CollectAt(nullptr, position, hits);
+    const Control* over = hits.empty() ? nullptr : hits.front();
+    const bool turns_back = std::signbit(lines) != std::signbit(wheel_rest_.notches);
+    if (turns_back || over != wheel_rest_.over) wheel_rest_ = {over};
+    wheel_rest_.lines += lines;
+    wheel_rest_.notches += lines / lines_of_a_notch;
+    const WheelTurn turn{TakeWhole(wheel_rest_.lines), TakeWhole(wheel_rest_.notches)};
+    if (turn.lines == 0) return;
     for (Control* control : hits) {
-      if (control->IsOperable() && control->MouseWheel(lines)) return;
+      if (control->IsOperable() && control->MouseWheel(turn)) return;
     }
   });
 }

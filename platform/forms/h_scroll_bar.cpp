@@ -4,14 +4,8 @@
 #include <cmath>
 
 #include "platform/base/runtime_error.h"
-#include "platform/forms/control_looks.h"
 
 namespace orvendal {
-namespace {
-
-constexpr double kShortestThumb = 8 * kTwipsPerPixel;
-
-}  // namespace
 
 HScrollBar::HScrollBar(Form& form, Control* container, std::string_view name, int index)
     : Control(form, container, name, index) {
@@ -59,44 +53,42 @@ void HScrollBar::Step(double change) {
   if (!IsInert()) Value(Clamped(value_ + (max_ < min_ ? -change : change)));
 }
 
-HScrollBar::Layout HScrollBar::Measure() const {
-  Layout layout;
-  const double arrow = std::min(Height(), Width() / 2);
-  layout.left_arrow = {0, 0, arrow, Height()};
-  layout.right_arrow = {Width() - arrow, 0, arrow, Height()};
-  layout.track = {arrow, 0, Width() - 2 * arrow, Height()};
+ScrollTrack HScrollBar::Track() const {
   const double range = std::fabs(static_cast<double>(max_) - min_);
-  if (range == 0 || layout.track.width < kShortestThumb) return layout;
-  const double share = large_change_ / (range + large_change_);
-  const double length = std::max(kShortestThumb, layout.track.width * share);
-  const double travel = layout.track.width - length;
-  const double progress = std::fabs(static_cast<double>(value_) - min_) / range;
-  layout.thumb = {layout.track.left + travel * progress, 0, length, Height()};
-  return layout;
+  const double position = std::fabs(static_cast<double>(value_) - min_);
+  ScrollTrack track(LocalBounds(), ScrollTrack::Direction::kHorizontal, Height(),
+                    {position, range, large_change_ / (range + large_change_)});
+  if (IsInert() || track.TrackLength() < ScrollTrack::kShortestThumb) track.RemoveThumb();
+  return track;
 }
 
 void HScrollBar::MousePressed(int button, int, Point local) {
   if (button != mouse_button::kLeft) return;
-  const Layout layout = Measure();
-  if (layout.left_arrow.Contains(local)) {
-    Step(-small_change_);
-  } else if (layout.right_arrow.Contains(local)) {
-    Step(small_change_);
-  } else if (layout.thumb.Contains(local)) {
-    dragging_ = true;
-    drag_offset_ = local.x - layout.thumb.left;
-  } else {
-    Step(local.x < layout.thumb.left ? -large_change_ : large_change_);
+  const ScrollTrack track = Track();
+  switch (track.PartAt(local)) {
+    case ScrollTrack::Part::kBackArrow:
+      Step(-small_change_);
+      break;
+    case ScrollTrack::Part::kForwardArrow:
+      Step(small_change_);
+      break;
+    case ScrollTrack::Part::kThumb:
+      dragging_ = true;
+      grip_ = track.GripAt(local);
+      break;
+    case ScrollTrack::Part::kBeforeThumb:
+      Step(-large_change_);
+      break;
+    case ScrollTrack::Part::kBehindThumb:
+      Step(large_change_);
+      break;
   }
 }
 
 void HScrollBar::MouseMoved(int, int, Point local) {
   if (!dragging_) return;
-  const Layout layout = Measure();
-  const double travel = layout.track.width - layout.thumb.width;
-  if (travel <= 0) return;
-  const double progress = (local.x - drag_offset_ - layout.track.left) / travel;
-  Value(Clamped(min_ + progress * (static_cast<double>(max_) - min_)));
+  const std::optional<double> progress = Track().DraggedTo(local, grip_);
+  if (progress) Value(Clamped(min_ + *progress * (static_cast<double>(max_) - min_)));
 }
 
 void HScrollBar::MouseReleased(int, int, Point) {
@@ -130,9 +122,9 @@ bool HScrollBar::KeyDownDefault(int key_code, int) {
   }
 }
 
-bool HScrollBar::MouseWheel(double lines) {
+bool HScrollBar::MouseWheel(WheelTurn turn) {
   if (IsInert()) return false;
-  Step(lines * small_change_);
+  Step(static_cast<double>(turn.lines) * small_change_);
   return true;
 }
 
@@ -141,16 +133,13 @@ void HScrollBar::FocusChanged(bool) {
 }
 
 void HScrollBar::Paint(Canvas& canvas) {
-  const Layout layout = Measure();
-  const Rgb mark = Resolve(IsInert() || !IsOperable() ? system_color::kGrayText : system_color::kButtonText);
-  canvas.FillRectangle(LocalBounds(), Resolve(system_color::kScrollBars));
-  PaintButtonFace(canvas, Host(), layout.left_arrow, system_color::kButtonFace, Relief::kRaised);
-  PaintButtonFace(canvas, Host(), layout.right_arrow, system_color::kButtonFace, Relief::kRaised);
-  PaintArrow(canvas, layout.left_arrow, ArrowDirection::kLeft, mark);
-  PaintArrow(canvas, layout.right_arrow, ArrowDirection::kRight, mark);
-  if (layout.thumb.IsEmpty()) return;
-  PaintButtonFace(canvas, Host(), layout.thumb, system_color::kButtonFace, Relief::kRaised);
-  if (HasFocus()) canvas.FocusRectangle(layout.thumb.Deflated(3 * kTwipsPerPixel));
+  const ScrollTrack track = Track();
+  const bool is_dead = IsInert() || !IsOperable();
+  track.Paint(canvas, Host(), Resolve(system_color::kScrollBars),
+              Resolve(is_dead ? system_color::kGrayText : system_color::kButtonText));
+  if (HasFocus() && !track.Thumb().IsEmpty()) {
+    canvas.FocusRectangle(track.Thumb().Deflated(3 * kTwipsPerPixel));
+  }
 }
 
 }  // namespace orvendal

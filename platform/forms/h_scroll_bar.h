@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "platform/forms/control.h"
+#include "platform/forms/scroll_track.h"
 
 namespace orvendal {
 
@@ -33,19 +34,13 @@ class HScrollBar final : public Control {
   void MouseMoved(int buttons, int shift, Point local) override;
   void MouseReleased(int button, int shift, Point local) override;
   bool KeyDownDefault(int key_code, int shift) override;
-  bool MouseWheel(double lines) override;
+  bool MouseWheel(WheelTurn turn) override;
   bool RaisesClick(Point /*local*/) const override { return false; }
   void FocusChanged(bool has_focus) override;
   void GestureCancelled() override { dragging_ = false; }
 
  private:
-  struct Layout {
-    Rect left_arrow;
-    Rect right_arrow;
-    Rect track;
-    Rect thumb;
-  };
-  Layout Measure() const;
+  ScrollTrack Track() const;
   bool IsInert() const { return min_ == max_; }
   int Clamped(double value) const;
   void Step(double change);  // from Min towards Max
@@ -57,7 +52,7 @@ class HScrollBar final : public Control {
   int small_change_ = 1;
   int large_change_ = 1;
   bool dragging_ = false;
-  double drag_offset_ = 0;
+  double grip_ = 0;  // where the thumb is held
 };
 
 }  // namespace orvendal

@@ -180,8 +180,8 @@ bool MonthView::KeyDownDefault(int key_code, int shift) {
   return false;
 }
 
-bool MonthView::MouseWheel(double lines) {
-  TurnView(lines > 0 ? 1 : -1);
+bool MonthView::MouseWheel(WheelTurn turn) {
+  TurnView(turn.notches);
   return true;
 }
 

@@ -48,7 +48,7 @@ class MonthView final : public Control {
   void Paint(Canvas& canvas) override;
   void MousePressed(int button, int shift, Point local) override;
   bool KeyDownDefault(int key_code, int shift) override;
-  bool MouseWheel(double lines) override;
+  bool MouseWheel(WheelTurn turn) override;
   void FocusChanged(bool has_focus) override;
   /// The month buttons are parts of their own.
   bool RaisesClick(Point local) const override;

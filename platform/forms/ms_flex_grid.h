@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/forms/control.h"
+#include "platform/forms/scroll_track.h"
 
 namespace orvendal {
 
@@ -150,7 +151,7 @@ class MSFlexGrid final : public Control {
   void MousePressing(int button, int shift, Point local) override;
   void MouseMoved(int buttons, int shift, Point local) override;
   void MouseReleased(int button, int shift, Point local) override;
-  bool MouseWheel(double lines) override;
+  bool MouseWheel(WheelTurn turn) override;
   bool RaisesClick(Point local) const override;
   bool TakesFocusOnPress(Point local) const override { return RaisesClick(local); }
   bool KeyDownDefault(int key_code, int shift) override;
@@ -188,15 +189,15 @@ class MSFlexGrid final : public Control {
   };
   /// One scroll bar; the thumb stands for `position` between `first` and `last`.
   struct Bar {
-    bool is_vertical = false;
-    Rect whole;
-    Rect back_arrow;
-    Rect forward_arrow;
-    Rect track;
-    Rect thumb;
-    int first = 0;
-    int last = 0;
-    int position = 0;
+    int first;
+    int last;
+    int position;
+    ScrollTrack track;
+
+    /// `shown` is the part of the whole that shows.
+    static Bar Of(const Rect& whole, ScrollTrack::Direction direction, int first, int last, int position,
+                  double shown);
+    bool IsVertical() const { return track.Runs() == ScrollTrack::Direction::kVertical; }
   };
   enum class Drag { kNothing, kCells, kVerticalThumb, kHorizontalThumb };
   /// Where cursor and view stood before a row was removed from under them.
@@ -259,7 +260,6 @@ class MSFlexGrid final : public Control {
   void PaintBlock(Canvas& canvas, const View& view, const Rect& clip, int first_row, int end_row,
                   int first_column, int end_column) const;
   void PaintCell(Canvas& canvas, const Rect& place, int row, int column) const;
-  void PaintBar(Canvas& canvas, const Bar& bar) const;
 
   std::vector<CellRow> rows_;
   std::vector<Column> columns_;
@@ -284,11 +284,10 @@ class MSFlexGrid final : public Control {
   bool allow_big_selection_ = true;
   std::uint64_t life_ = 0;  // counts the designs, so that the end of a handler can tell another one
   int scroll_depth_ = 0;    // handlers of OnScroll that are running
-  double wheel_rest_ = 0;   // rows that small turns of the wheel have not made up yet
 
   Drag drag_ = Drag::kNothing;
   Point drag_start_;
-  double thumb_offset_ = 0;
+  double grip_ = 0;  // where a thumb is held
   bool drag_has_left_cell_ = false;
   int pressed_row_ = 0;
   int pressed_column_ = 0;

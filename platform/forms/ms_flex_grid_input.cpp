@@ -20,7 +20,7 @@ void MSFlexGrid::MousePressing(int button, int /*shift*/, Point local) {
   drag_ = Drag::kNothing;
   const View view = Measure();
   for (const std::optional<Bar>& bar : {VerticalBar(view), HorizontalBar(view)}) {
-    if (bar && bar->whole.Contains(local)) {
+    if (bar && bar->track.Whole().Contains(local)) {
       PressBar(*bar, local);
       return;
     }
@@ -95,18 +95,15 @@ bool MSFlexGrid::RaisesClick(Point local) const {
   return without_bars.Contains(local);
 }
 
-bool MSFlexGrid::MouseWheel(double lines) {
-  wheel_rest_ += lines;
-  const int rows = static_cast<int>(wheel_rest_);
-  wheel_rest_ -= rows;
-  MoveView(top_row_ + rows, left_column_);
+bool MSFlexGrid::MouseWheel(WheelTurn turn) {
+  MoveView(top_row_ + turn.lines, left_column_);
   return true;
 }
 
 // Scroll bars.
 
 void MSFlexGrid::MoveTo(const Bar& bar, int position) {
-  if (bar.is_vertical) {
+  if (bar.IsVertical()) {
     MoveView(position, left_column_);
   } else {
     MoveView(top_row_, position);
@@ -114,33 +111,32 @@ void MSFlexGrid::MoveTo(const Bar& bar, int position) {
 }
 
 void MSFlexGrid::PressBar(const Bar& bar, Point local) {
-  if (bar.thumb.Contains(local)) {
-    drag_ = bar.is_vertical ? Drag::kVerticalThumb : Drag::kHorizontalThumb;
-    thumb_offset_ = bar.is_vertical ? local.y - bar.thumb.top : local.x - bar.thumb.left;
-    return;
-  }
-  const int page = bar.is_vertical ? PageRows(Measure()) : 1;
-  const bool is_before = bar.is_vertical ? local.y < bar.thumb.top : local.x < bar.thumb.left;
-  if (bar.back_arrow.Contains(local)) {
-    MoveTo(bar, bar.position - 1);
-  } else if (bar.forward_arrow.Contains(local)) {
-    MoveTo(bar, bar.position + 1);
-  } else {
-    MoveTo(bar, bar.position + (is_before ? -page : page));
+  const int page = bar.IsVertical() ? PageRows(Measure()) : 1;
+  switch (bar.track.PartAt(local)) {
+    case ScrollTrack::Part::kBackArrow:
+      MoveTo(bar, bar.position - 1);
+      break;
+    case ScrollTrack::Part::kForwardArrow:
+      MoveTo(bar, bar.position + 1);
+      break;
+    case ScrollTrack::Part::kThumb:
+      drag_ = bar.IsVertical() ? Drag::kVerticalThumb : Drag::kHorizontalThumb;
+      grip_ = bar.track.GripAt(local);
+      break;
+    case ScrollTrack::Part::kBeforeThumb:
+      MoveTo(bar, bar.position - page);
+      break;
+    case ScrollTrack::Part::kBehindThumb:
+      MoveTo(bar, bar.position + page);
+      break;
   }
 }
 
 void MSFlexGrid::DragThumb(Point local) {
   const View view = Measure();
   const std::optional<Bar> bar = drag_ == Drag::kVerticalThumb ? VerticalBar(view) : HorizontalBar(view);
-  if (!bar) return;
-  const double offset =
-      (bar->is_vertical ? local.y - bar->track.top : local.x - bar->track.left) - thumb_offset_;
-  const double way =
-      bar->is_vertical ? bar->track.height - bar->thumb.height : bar->track.width - bar->thumb.width;
-  if (way <= 0) return;
-  const double share = std::clamp(offset / way, 0.0, 1.0);
-  MoveTo(*bar, bar->first + static_cast<int>(std::lround(share * (bar->last - bar->first))));
+  const std::optional<double> share = bar ? bar->track.DraggedTo(local, grip_) : std::nullopt;
+  if (share) MoveTo(*bar, bar->first + static_cast<int>(std::lround(*share * (bar->last - bar->first))));
 }
 
 // Keys.

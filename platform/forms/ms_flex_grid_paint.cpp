@@ -36,12 +36,15 @@ void MSFlexGrid::Paint(Canvas& canvas) {
   PaintCells(canvas, view);
   const std::optional<Bar> vertical = VerticalBar(view);
   const std::optional<Bar> horizontal = HorizontalBar(view);
-  if (vertical) PaintBar(canvas, *vertical);
-  if (horizontal) PaintBar(canvas, *horizontal);
+  const Rgb groove = Between(Resolve(system_color::kButtonFace), Resolve(system_color::kButtonHighlight));
+  for (const std::optional<Bar>& bar : {vertical, horizontal}) {
+    if (bar) bar->track.Paint(canvas, Host(), groove, Resolve(system_color::kButtonText));
+  }
   if (vertical && horizontal) {
-    canvas.FillRectangle(
-        {vertical->whole.left, horizontal->whole.top, vertical->whole.width, horizontal->whole.height},
-        Resolve(system_color::kButtonFace));
+    const Rect& beside = vertical->track.Whole();
+    const Rect& below = horizontal->track.Whole();
+    canvas.FillRectangle({beside.left, below.top, beside.width, below.height},
+                         Resolve(system_color::kButtonFace));
   }
 }
 
@@ -108,18 +111,6 @@ void MSFlexGrid::PaintCell(Canvas& canvas, const Rect& place, int row, int colum
   if (is_current && HasFocus()) {
     canvas.FocusRectangle({place.left, place.top, place.width - kPixel, place.height - kPixel});
   }
-}
-
-void MSFlexGrid::PaintBar(Canvas& canvas, const Bar& bar) const {
-  const Rgb mark = Resolve(system_color::kButtonText);
-  canvas.FillRectangle(bar.whole,
-                       Between(Resolve(system_color::kButtonFace), Resolve(system_color::kButtonHighlight)));
-  for (const Rect& part : {bar.back_arrow, bar.forward_arrow, bar.thumb}) {
-    PaintButtonFace(canvas, Host(), part, system_color::kButtonFace, Relief::kRaised);
-  }
-  PaintArrow(canvas, bar.back_arrow, bar.is_vertical ? ArrowDirection::kUp : ArrowDirection::kLeft, mark);
-  PaintArrow(canvas, bar.forward_arrow, bar.is_vertical ? ArrowDirection::kDown : ArrowDirection::kRight,
-             mark);
 }
 
 }  // namespace orvendal

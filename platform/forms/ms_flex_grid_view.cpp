@@ -11,7 +11,6 @@ namespace orvendal {
 namespace {
 
 constexpr double kBarThickness = 240;
-constexpr double kThumbMinimum = 120;
 constexpr double kRowHeightMinimum = 240;
 constexpr double kRowPadding = 45;
 // Scaled sizes are no whole twips; less than a pixel is no reason for a scroll bar.
@@ -222,50 +221,26 @@ double MSFlexGrid::CellHeight() const {
 
 // Scroll bars.
 
-namespace {
-
-// Lays arrows, track and thumb along the bar; `share` is the part of the whole that shows.
-template <typename AnyBar>
-void LayOutBar(AnyBar& bar, double share) {
-  const double length = bar.is_vertical ? bar.whole.height : bar.whole.width;
-  const double arrow = std::min(kBarThickness, length / 2);
-  const auto part = [&bar](double from, double size) {
-    return bar.is_vertical ? Rect{bar.whole.left, bar.whole.top + from, bar.whole.width, size}
-                           : Rect{bar.whole.left + from, bar.whole.top, size, bar.whole.height};
-  };
-  bar.back_arrow = part(0, arrow);
-  bar.forward_arrow = part(length - arrow, arrow);
-  const double track = length - 2 * arrow;
-  bar.track = part(arrow, track);
-  const double thumb = std::min(track, std::max(kThumbMinimum, track * share));
-  const int steps = bar.last - bar.first;
-  const double way = steps > 0 ? (track - thumb) * (bar.position - bar.first) / steps : 0;
-  bar.thumb = part(arrow + way, thumb);
+MSFlexGrid::Bar MSFlexGrid::Bar::Of(const Rect& whole, ScrollTrack::Direction direction, int first, int last,
+                                    int position, double shown) {
+  const ScrollTrack::Scale scale{static_cast<double>(position - first), static_cast<double>(last - first),
+                                 shown};
+  return {first, last, position, ScrollTrack(whole, direction, kBarThickness, scale)};
 }
-
-}  // namespace
 
 std::optional<MSFlexGrid::Bar> MSFlexGrid::VerticalBar(const View& view) const {
   if (!view.has_vertical_bar) return std::nullopt;
-  Bar bar;
-  bar.is_vertical = true;
-  bar.whole = {view.inside.Right(), view.inside.top, kBarThickness, view.inside.height};
-  bar.first = fixed_rows_;
-  bar.last = LastTopRow(view);
-  bar.position = top_row_;
-  LayOutBar(bar, static_cast<double>(PageRows(view)) / std::max(1, Rows() - fixed_rows_));
-  return bar;
+  const Rect whole{view.inside.Right(), view.inside.top, kBarThickness, view.inside.height};
+  const double shown = static_cast<double>(PageRows(view)) / std::max(1, Rows() - fixed_rows_);
+  return Bar::Of(whole, ScrollTrack::Direction::kVertical, fixed_rows_, LastTopRow(view), top_row_, shown);
 }
 
 std::optional<MSFlexGrid::Bar> MSFlexGrid::HorizontalBar(const View& view) const {
   if (!view.has_horizontal_bar) return std::nullopt;
-  Bar bar;
-  bar.whole = {view.inside.left, view.inside.Bottom(), view.inside.width, kBarThickness};
-  bar.first = fixed_columns_;
-  bar.last = LastLeftColumn(view);
-  bar.position = left_column_;
-  LayOutBar(bar, view.Body().width / std::max(1.0, ColumnsWidth(fixed_columns_, Cols())));
-  return bar;
+  const Rect whole{view.inside.left, view.inside.Bottom(), view.inside.width, kBarThickness};
+  const double shown = view.Body().width / std::max(1.0, ColumnsWidth(fixed_columns_, Cols()));
+  return Bar::Of(whole, ScrollTrack::Direction::kHorizontal, fixed_columns_, LastLeftColumn(view),
+                 left_column_, shown);
 }
 
 // What changed.

@@ -32,8 +32,8 @@ class ProbeControl final : public Control {
     canvas.FillRectangle(LocalBounds(), color_);
     if (OnPaint) OnPaint();
   }
-  bool MouseWheel(double lines) override {
-    wheel_lines += lines;
+  bool MouseWheel(WheelTurn turn) override {
+    wheel_lines += turn.lines;
     return true;
   }
   CursorShape Cursor(Point) const override { return CursorShape::kText; }

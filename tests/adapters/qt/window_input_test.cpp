@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "platform/forms/keys.h"
+#include "platform/forms/month_view.h"
 #include "tests/adapters/qt/qt_fixture.h"
 
 namespace orvendal {
@@ -74,6 +75,33 @@ TEST_F(WindowInput, TheWheelTurnedTowardsTheUserScrollsDown) {
                     Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
   QApplication::sendEvent(Window(), &event);
   EXPECT_DOUBLE_EQ(form->left.wheel_lines, QApplication::wheelScrollLines());
+}
+
+class CalendarForm final : public Form {
+ public:
+  explicit CalendarForm(WindowHost& host) : Form(host, "Calendars") {}
+  MonthView calendar{*this, nullptr, "Calendar"};
+
+ protected:
+  void ApplyDesign() override {
+    Width(6000);
+    Height(6000);
+    calendar.Move(0, 0, 6000, 6000);
+  }
+};
+
+// Each of the small turns was a month: a touchpad over the calendar flew a year.
+TEST_F(WindowInput, ATouchpadTurnsACalendarByAMonthANotch) {
+  const auto months = std::make_shared<CalendarForm>(host);
+  months->Show();
+  QWidget* window = host.WidgetOf(*months);
+  for (int turn = 0; turn < 12; ++turn) {
+    QWheelEvent event(QPointF(10, 200), window->mapToGlobal(QPointF(10, 200)), QPoint(), QPoint(0, -10),
+                      Qt::NoButton, Qt::NoModifier, Qt::ScrollUpdate, false);
+    QApplication::sendEvent(window, &event);
+  }
+  EXPECT_EQ(months->calendar.ViewMonth(), Date(2026, 12, 1));
+  months->Unload();
 }
 
 TEST_F(WindowInput, ThePointerTakesTheShapeOfWhatLiesUnderIt) {

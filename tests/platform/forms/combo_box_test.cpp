@@ -60,14 +60,23 @@ TEST_F(ComboBoxTest, KeysAndWheelChooseAndEachNewChoiceIsAClick) {
   stage.Key(key::kDown);
   stage.Key(key::kHome);
   EXPECT_EQ(combo.ListIndex(), 0);
-  stage.form->MouseWheel(Stage::At(combo, {100, 100}), 1);
+  stage.form->MouseWheel(Stage::At(combo, {100, 100}), 1, 1);
   EXPECT_EQ(combo.ListIndex(), 1);
-  stage.form->MouseWheel(Stage::At(combo, {100, 100}), -1);
+  stage.form->MouseWheel(Stage::At(combo, {100, 100}), -1, 1);
   stage.Key(key::kUp);
   EXPECT_EQ(combo.ListIndex(), 0);
   EXPECT_EQ(clicks, 6);
   stage.Click(combo);
   EXPECT_EQ(clicks, 6);
+}
+
+// Each of them chose the next one.
+TEST_F(ComboBoxTest, TwelveQuarterLinesOfATouchpadChooseTheNext) {
+  combo.ListIndex(0);
+  for (int turn = 0; turn < 12; ++turn) stage.form->MouseWheel(Stage::At(combo, {100, 100}), 0.25);
+  EXPECT_EQ(combo.ListIndex(), 1);
+  for (int turn = 0; turn < 12; ++turn) stage.form->MouseWheel(Stage::At(combo, {100, 100}), -0.25);
+  EXPECT_EQ(combo.ListIndex(), 0);
 }
 
 TEST_F(ComboBoxTest, AnEmptyListTakesNoKey) {

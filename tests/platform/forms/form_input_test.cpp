@@ -331,6 +331,19 @@ TEST_F(FormInputTest, TheWheelGoesToWhatIsUnderThePointerAndMakesUseOfIt) {
   EXPECT_EQ(grid.TopRow(), top);
 }
 
+TEST_F(FormInputTest, ASmallTurnOfTheWheelCountsOnlyForWhatIsUnderThePointer) {
+  MSFlexGrid& grid = stage.Add<MSFlexGrid>("Grid", {6000, 0, 3000, 1500});
+  form().Unload();
+  stage.Show();
+  grid.Rows(50);
+  form().MouseWheel(On(grid), 0.75);
+  form().MouseWheel(On(box), 0.5);
+  form().MouseWheel(On(grid), 0.75);
+  EXPECT_EQ(grid.TopRow(), 1);
+  for (int turn = 0; turn < 5; ++turn) form().MouseWheel(On(grid), 0.05);
+  EXPECT_EQ(grid.TopRow(), 2) << "twentieths add up to a whole";
+}
+
 // Keys.
 
 TEST_F(FormInputTest, WithKeyPreviewTheFormHearsOfEachKeyFirst) {

@@ -86,6 +86,15 @@ TEST_F(HScrollBarTest, KeysAndWheelMoveIt) {
   EXPECT_EQ(log, "1 11 10 100 90 0 3 ");
 }
 
+// None of them moved it.
+TEST_F(HScrollBarTest, TwelveQuarterLinesOfATouchpadAreOneNotch) {
+  bar.Value(50);
+  for (int turn = 0; turn < 12; ++turn) stage.form->MouseWheel({100, 100}, 0.25);
+  EXPECT_EQ(bar.Value(), 53);
+  for (int turn = 0; turn < 12; ++turn) stage.form->MouseWheel({100, 100}, -0.25);
+  EXPECT_EQ(bar.Value(), 50);
+}
+
 TEST_F(HScrollBarTest, WithMinEqualToMaxNothingMovesIt) {
   bar.Min(1);
   bar.Max(1);

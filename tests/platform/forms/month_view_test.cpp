@@ -250,5 +250,13 @@ TEST_F(MonthViewTest, TheWheelTurnsTheView) {
   EXPECT_EQ(log, "");
 }
 
+// Each of them was a month: a touchpad over the calendar flew a year.
+TEST_F(MonthViewTest, TwelveQuarterLinesOfATouchpadAreOneMonth) {
+  for (int turn = 0; turn < 12; ++turn) stage.form->MouseWheel(Stage::At(calendar, {500, 2000}), 0.25);
+  EXPECT_EQ(calendar.ViewMonth(), Date(2026, 12, 1));
+  for (int turn = 0; turn < 24; ++turn) stage.form->MouseWheel(Stage::At(calendar, {500, 2000}), -0.25);
+  EXPECT_EQ(calendar.ViewMonth(), Date(2026, 10, 1));
+}
+
 }  // namespace
 }  // namespace orvendal::testing

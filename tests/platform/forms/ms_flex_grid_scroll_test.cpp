@@ -146,6 +146,14 @@ TEST_F(GridTest, TheWheelScrollsThreeRowsANotchAndLeavesTheCursor) {
   EXPECT_EQ(TakeLog(), Log{"scroll 2"}) << "small turns add up";
 }
 
+TEST_F(GridTest, TwelveQuarterLinesOfATouchpadAreOneNotch) {
+  for (int turn = 0; turn < 12; ++turn) form->MouseWheel(MiddleOf(5, 1), 0.25);
+  EXPECT_EQ(TakeLog(), (Log{"scroll 2", "scroll 3", "scroll 4"}));
+  for (int turn = 0; turn < 3; ++turn) form->MouseWheel(MiddleOf(5, 1), 0.25);
+  form->MouseWheel(MiddleOf(5, 1), -1);
+  EXPECT_EQ(TakeLog(), Log{"scroll 3"}) << "a turn back begins anew";
+}
+
 TEST_F(GridTest, TheArrowsOfTheBarScrollByOneRowAndTouchNoCell) {
   const Rect bar = BarAtRight();
   int clicks = 0;

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "platform/forms/keys.h"
+#include "platform/forms/month_view.h"
 
 namespace orvendal {
 namespace {
@@ -108,6 +109,35 @@ TEST_F(WindowInputOnWindows, SmallTurnsOfTheWheelAddUpToWholeLines) {
   Post(WM_MOUSEWHEEL, MAKEWPARAM(0, 24), MAKELPARAM(place.x, place.y));
   Pump();
   EXPECT_DOUBLE_EQ(form->left.wheel_lines, 3) << "less than a line";
+}
+
+class CalendarForm final : public Form {
+ public:
+  explicit CalendarForm(WindowHost& host) : Form(host, "Calendars") {}
+  MonthView calendar{*this, nullptr, "Calendar"};
+
+ protected:
+  void ApplyDesign() override {
+    Width(6000);
+    Height(6000);
+    calendar.Move(0, 0, 6000, 6000);
+  }
+};
+
+// Each line of a small turn was a month: a touchpad over the calendar flew a season a notch.
+TEST_F(WindowInputOnWindows, ATouchpadTurnsACalendarByAMonthANotch) {
+  const auto months = std::make_shared<CalendarForm>(host);
+  months->Show();
+  Pump();
+  const HWND window = host.HandleOf(*months);
+  POINT place{10, 200};
+  ClientToScreen(window, &place);
+  for (int turn = 0; turn < 12; ++turn) {
+    PostMessageW(window, WM_MOUSEWHEEL, MAKEWPARAM(0, -10), MAKELPARAM(place.x, place.y));
+  }
+  Pump();
+  EXPECT_EQ(months->calendar.ViewMonth(), Date(2026, 12, 1));
+  months->Unload();
 }
 
 TEST_F(WindowInputOnWindows, ThePointerTakesTheShapeOfWhatLiesUnderIt) {
