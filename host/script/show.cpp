@@ -3,9 +3,9 @@
 #include <charconv>
 
 #include "host/script/parser.h"
-#include "host/script/properties.h"
 #include "host/script/values.h"
 #include "platform/base/text.h"
+#include "platform/forms/named_property.h"
 
 namespace orvendal {
 namespace {
@@ -52,14 +52,6 @@ Reference ParseReference(const std::string& text) {
   }
   reference.property = ToLower(property);
   return reference;
-}
-
-const ScriptProperty* Find(const ScriptProperties& properties, const Reference& reference) {
-  for (const ScriptProperty& property : properties) {
-    if (property.name == reference.property && property.arguments == reference.arguments.size())
-      return &property;
-  }
-  return nullptr;
 }
 
 using FormProperties = std::vector<std::pair<std::string_view, std::string>>;
@@ -124,11 +116,11 @@ std::string PropertyText(FrmOrvendalciales& form, const DatosComunes& session, c
     NoProperty(text);
   }
   Control& control = ControlNamed(form, reference.object);
-  const ScriptProperty* property = Find(PropertiesOf(control.Kind()), reference);
-  if (property == nullptr) property = Find(CommonProperties(), reference);
+  const NamedProperty* property =
+      FindProperty(control.Kind(), reference.property, reference.arguments.size());
   if (property == nullptr) NoProperty(text);
   try {
-    return property->read(control, reference.arguments);
+    return ValueText(property->get(control, reference.arguments), property->type);
   } catch (const RuntimeError& error) {
     throw ScriptStop("no se puede leer " + text + ": error " + std::to_string(error.Number()) + ": " +
                      error.Description());

@@ -21,4 +21,22 @@ std::string ValueText(ColorWord color) {
   return text;
 }
 
+std::string ValueText(const Value& value, PropertyType type) {
+  switch (type) {
+    case PropertyType::kText:
+      return value.Text();
+    case PropertyType::kWhole:
+      return ValueText(static_cast<int>(value.Number()));
+    case PropertyType::kNumber:
+      return ValueText(value.Number());
+    case PropertyType::kFlag:
+      return ValueText(value.Number() != 0);
+    case PropertyType::kColor:
+      return ValueText(static_cast<ColorWord>(value.Number()));
+    case PropertyType::kDate:
+      return ValueText(value.AsDate());
+  }
+  return {};
+}
+
 }  // namespace orvendal

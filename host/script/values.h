@@ -3,7 +3,9 @@
 #include <string>
 
 #include "platform/base/date.h"
+#include "platform/base/value.h"
 #include "platform/forms/color.h"
+#include "platform/forms/named_property.h"
 
 namespace orvendal {
 
@@ -23,5 +25,7 @@ std::string ValueText(double number);
 std::string ValueText(Date date);
 /// 0xBBGGRR, or 0x80000005 for a system colour.
 std::string ValueText(ColorWord color);
+/// What was read of a property of that type.
+std::string ValueText(const Value& value, PropertyType type);
 
 }  // namespace orvendal
