@@ -52,7 +52,6 @@ void MSFlexGrid::RestoreDefaults() {
   highlight_ = true;
   allow_big_selection_ = true;
   drag_ = Drag::kNothing;
-  wheel_rest_ = 0;
   MeasureRows();
 }
 
@@ -274,7 +273,7 @@ void MSFlexGrid::AddItem(const std::string& text, int row) {
   }
   // Nothing but the new row and the bar looks different.
   for (int column = 0; column < Cols(); ++column) InvalidateCell(row, column);
-  if (const std::optional<Bar> bar = VerticalBar(view)) Invalidate(bar->whole);
+  if (const std::optional<Bar> bar = VerticalBar(view)) Invalidate(bar->track.Whole());
 }
 
 void MSFlexGrid::RemoveItem(int row) {
