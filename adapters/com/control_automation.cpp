@@ -1,14 +1,12 @@
 #include "adapters/com/control_automation.h"
 
+#include <iterator>
+
+#include "adapters/automation/bstr.h"
 #include "adapters/com/form_automation.h"
-#include "platform/forms/barra.h"
-#include "platform/forms/boton.h"
-#include "platform/forms/combo_box.h"
-#include "platform/forms/command_button.h"
+#include "platform/base/text.h"
 #include "platform/forms/form.h"
-#include "platform/forms/label.h"
-#include "platform/forms/option_button.h"
-#include "platform/forms/text_box.h"
+#include "platform/forms/named_property.h"
 
 namespace orvendal {
 namespace {
@@ -22,61 +20,87 @@ Control& Of(Self& self) {
   return self.Living();
 }
 
-/// The control as one of its kind; error 438 for another kind.
-template <typename Kind>
-Kind& As(Self& self) {
-  auto* const control = dynamic_cast<Kind*>(&self.Living());
-  if (!control) throw RuntimeError(error_number::kNoSuchMember);
-  return *control;
+/// What the library may read of a control, and write unless it is fixed. Of boxes alone it sees what is in
+/// them.
+struct FaceProperty {
+  std::string_view name;
+  bool is_fixed = false;
+  bool is_of_boxes = false;
+};
+
+constexpr FaceProperty kProperties[] = {
+    {"Name", true},
+    {"Left"},
+    {"Top"},
+    {"Width"},
+    {"Height"},
+    {"Visible"},
+    {"Enabled"},
+    {"TabIndex"},
+    {"TabStop"},
+    {"BackColor"},
+    {"ForeColor"},
+    {"Tag"},
+    {"Caption"},
+    {"Text", false, true},
+    {"SelStart", false, true},
+    {"SelLength", false, true},
+    {"SelText", false, true},
+    {"Locked", false, true},
+    {"MaxLength", false, true},
+    {"Alignment", true, true},
+};
+constexpr DISPID kPropertyCount = static_cast<DISPID>(std::size(kProperties));
+
+bool IsBox(const Control& control) {
+  return control.Kind() == ControlKind::kTextBox || control.Kind() == ControlKind::kComboBox;
 }
 
-template <typename Kind>
-bool GiveCaption(Control& control, const Call& call) {
-  const auto* const captioned = dynamic_cast<const Kind*>(&control);
-  if (captioned) call.Give(captioned->Caption());
-  return captioned != nullptr;
+/// Of the control's kind; error 438 if that has none of the name.
+const NamedProperty& PropertyOf(const Control& control, const FaceProperty& face) {
+  const bool is_seen = !face.is_of_boxes || IsBox(control);
+  const NamedProperty* const found = is_seen ? FindProperty(control.Kind(), face.name) : nullptr;
+  if (!found) throw RuntimeError(error_number::kNoSuchMember);
+  return *found;
 }
 
-template <typename Kind>
-bool TakeCaption(Control& control, const Call& call) {
-  auto* const captioned = dynamic_cast<Kind*>(&control);
-  if (captioned) captioned->Caption(call.Text(0));
-  return captioned != nullptr;
-}
-
-void GetCaption(Self& self, const Call& call) {
-  Control& control = Of(self);
-  if (!GiveCaption<Label>(control, call) && !GiveCaption<CommandButton>(control, call) &&
-      !GiveCaption<OptionButton>(control, call) && !GiveCaption<Boton>(control, call) &&
-      !GiveCaption<Barra>(control, call)) {
-    throw RuntimeError(error_number::kNoSuchMember);
+void Give(const Call& call, const NamedProperty& property, Control& control) {
+  const Value value = property.get(control, {});
+  switch (property.type) {
+    case PropertyType::kText:
+      return call.Give(value.Text());
+    case PropertyType::kWhole:
+      return call.GiveLong(static_cast<LONG>(value.Number()));
+    case PropertyType::kFlag:
+      return call.GiveFlag(value.Number() != 0);
+    case PropertyType::kColor:
+      return call.GiveLong(static_cast<LONG>(static_cast<ColorWord>(value.Number())));
+    case PropertyType::kNumber:
+    case PropertyType::kDate:  // which none of the face's is
+      return call.Give(value.Number());
   }
 }
 
-void PutCaption(Self& self, const Call& call) {
-  Control& control = Of(self);
-  if (!TakeCaption<Label>(control, call) && !TakeCaption<CommandButton>(control, call) &&
-      !TakeCaption<OptionButton>(control, call)) {
-    throw RuntimeError(error_number::kNoSuchMember);
+Value Take(const Call& call, PropertyType type) {
+  switch (type) {
+    case PropertyType::kText:
+      return call.Text(0);
+    case PropertyType::kWhole:
+      return static_cast<double>(call.Long(0));
+    case PropertyType::kFlag:
+      return call.Flag(0) ? 1 : 0;
+    case PropertyType::kColor:
+      return static_cast<double>(static_cast<ColorWord>(call.Long(0)));
+    case PropertyType::kNumber:
+    case PropertyType::kDate:
+      break;
   }
+  return call.Number(0);
 }
 
-void GetText(Self& self, const Call& call) {
-  Control& control = Of(self);
-  if (const auto* const combo = dynamic_cast<const ComboBox*>(&control)) {
-    call.Give(combo->Text());
-  } else {
-    call.Give(As<TextBox>(self).Text());
-  }
-}
-
-void PutText(Self& self, const Call& call) {
-  Control& control = Of(self);
-  if (auto* const combo = dynamic_cast<ComboBox*>(&control)) {
-    combo->Text(call.Text(0));
-  } else {
-    As<TextBox>(self).Text(call.Text(0));
-  }
+/// The member of that DISPID, if it is one of the properties; they come before the other members.
+const FaceProperty* FacePropertyOf(DISPID member) {
+  return member >= 1 && member <= kPropertyCount ? &kProperties[member - 1] : nullptr;
 }
 
 void GetIndex(Self& self, const Call& call) {
@@ -104,47 +128,7 @@ void Move(Self& self, const Call& call) {
 }
 
 const AutomationMember<Self> kMembers[] = {
-    {L"Name", [](Self& self, const Call& call) { call.Give(Of(self).Name()); }, nullptr},
     {L"Index", GetIndex, nullptr},
-    {L"Left", [](Self& self, const Call& call) { call.Give(Of(self).Left()); },
-     [](Self& self, const Call& call) { Of(self).Left(call.Number(0)); }},
-    {L"Top", [](Self& self, const Call& call) { call.Give(Of(self).Top()); },
-     [](Self& self, const Call& call) { Of(self).Top(call.Number(0)); }},
-    {L"Width", [](Self& self, const Call& call) { call.Give(Of(self).Width()); },
-     [](Self& self, const Call& call) { Of(self).Width(call.Number(0)); }},
-    {L"Height", [](Self& self, const Call& call) { call.Give(Of(self).Height()); },
-     [](Self& self, const Call& call) { Of(self).Height(call.Number(0)); }},
-    {L"Visible", [](Self& self, const Call& call) { call.GiveFlag(Of(self).Visible()); },
-     [](Self& self, const Call& call) { Of(self).Visible(call.Flag(0)); }},
-    {L"Enabled", [](Self& self, const Call& call) { call.GiveFlag(Of(self).Enabled()); },
-     [](Self& self, const Call& call) { Of(self).Enabled(call.Flag(0)); }},
-    {L"TabIndex", [](Self& self, const Call& call) { call.GiveLong(Of(self).TabIndex()); },
-     [](Self& self, const Call& call) { Of(self).TabIndex(call.Long(0)); }},
-    {L"TabStop", [](Self& self, const Call& call) { call.GiveFlag(Of(self).TabStop()); },
-     [](Self& self, const Call& call) { Of(self).TabStop(call.Flag(0)); }},
-    {L"BackColor",
-     [](Self& self, const Call& call) { call.GiveLong(static_cast<LONG>(Of(self).BackColor())); },
-     [](Self& self, const Call& call) { Of(self).BackColor(static_cast<ColorWord>(call.Long(0))); }},
-    {L"ForeColor",
-     [](Self& self, const Call& call) { call.GiveLong(static_cast<LONG>(Of(self).ForeColor())); },
-     [](Self& self, const Call& call) { Of(self).ForeColor(static_cast<ColorWord>(call.Long(0))); }},
-    {L"Tag", [](Self& self, const Call& call) { call.Give(Of(self).Tag()); },
-     [](Self& self, const Call& call) { Of(self).Tag(call.Text(0)); }},
-    {L"Caption", GetCaption, PutCaption},
-    {L"Text", GetText, PutText},
-    {L"SelStart", [](Self& self, const Call& call) { call.GiveLong(As<TextBox>(self).SelStart()); },
-     [](Self& self, const Call& call) { As<TextBox>(self).SelStart(call.Long(0)); }},
-    {L"SelLength", [](Self& self, const Call& call) { call.GiveLong(As<TextBox>(self).SelLength()); },
-     [](Self& self, const Call& call) { As<TextBox>(self).SelLength(call.Long(0)); }},
-    {L"SelText", [](Self& self, const Call& call) { call.Give(As<TextBox>(self).SelText()); },
-     [](Self& self, const Call& call) { As<TextBox>(self).SelText(call.Text(0)); }},
-    {L"Locked", [](Self& self, const Call& call) { call.GiveFlag(As<TextBox>(self).Locked()); },
-     [](Self& self, const Call& call) { As<TextBox>(self).Locked(call.Flag(0)); }},
-    {L"MaxLength", [](Self& self, const Call& call) { call.GiveLong(As<TextBox>(self).MaxLength()); },
-     [](Self& self, const Call& call) { As<TextBox>(self).MaxLength(call.Long(0)); }},
-    {L"Alignment",
-     [](Self& self, const Call& call) { call.GiveLong(static_cast<LONG>(As<TextBox>(self).Alignment())); },
-     nullptr},
     {L"Parent",
      [](Self& self, const Call& call) {
        call.Give(FormAutomation::Of(self.SharedRegistry(), Of(self).Parent()));
@@ -156,12 +140,9 @@ const AutomationMember<Self> kMembers[] = {
     {L"Move", Move, nullptr, 1, 4},
 };
 
-constexpr DISPID kValue = DISPID_VALUE;
-
 /// What the control is without a member's name: the text of a box, the caption of the rest.
-DISPID DefaultMember(const Control& control, DISPID text, DISPID caption) {
-  const ControlKind kind = control.Kind();
-  return kind == ControlKind::kTextBox || kind == ControlKind::kComboBox ? text : caption;
+const wchar_t* DefaultMember(const Control& control) {
+  return IsBox(control) ? L"Text" : L"Caption";
 }
 
 }  // namespace
@@ -189,19 +170,34 @@ Control& ControlAutomation::Living() const {
 }
 
 DISPID ControlAutomation::IdOf(const wchar_t* name) {
-  return IdIn(kMembers, name);
+  const std::string wanted = Utf8Text(name);
+  for (DISPID id = 1; id <= kPropertyCount; ++id) {
+    if (EqualsIgnoringCase(FacePropertyOf(id)->name, wanted)) return id;
+  }
+  const DISPID other = IdIn(kMembers, name);
+  return other == DISPID_UNKNOWN ? other : other + kPropertyCount;
 }
 
 bool ControlAutomation::Get(DISPID member, const AutomationCall& call) {
   const std::shared_ptr<Form> alive = form_.lock();
-  if (member == kValue) member = DefaultMember(Living(), IdOf(L"Text"), IdOf(L"Caption"));
-  return GetIn(kMembers, member, *this, call);
+  if (member == DISPID_VALUE) member = IdOf(DefaultMember(Living()));
+  const FaceProperty* const property = FacePropertyOf(member);
+  if (!property) return GetIn(kMembers, member - kPropertyCount, *this, call);
+  call.Expect(0, 0);
+  Give(call, PropertyOf(Living(), *property), Living());
+  return true;
 }
 
 bool ControlAutomation::Put(DISPID member, const AutomationCall& call) {
   const std::shared_ptr<Form> alive = form_.lock();
-  if (member == kValue) member = DefaultMember(Living(), IdOf(L"Text"), IdOf(L"Caption"));
-  return PutIn(kMembers, member, *this, call);
+  if (member == DISPID_VALUE) member = IdOf(DefaultMember(Living()));
+  const FaceProperty* const property = FacePropertyOf(member);
+  if (!property || property->is_fixed) return false;
+  call.Expect(1, 1);
+  const NamedProperty& of_kind = PropertyOf(Living(), *property);
+  if (!of_kind.put) throw RuntimeError(error_number::kNoSuchMember);
+  of_kind.put(Living(), {}, Take(call, of_kind.type));
+  return true;
 }
 
 }  // namespace orvendal

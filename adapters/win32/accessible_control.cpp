@@ -5,18 +5,10 @@
 #include <limits>
 
 #include "platform/base/text.h"
-#include "platform/forms/barra.h"
-#include "platform/forms/boton.h"
-#include "platform/forms/combo_box.h"
-#include "platform/forms/command_button.h"
 #include "platform/forms/control_looks.h"
 #include "platform/forms/form.h"
-#include "platform/forms/h_scroll_bar.h"
-#include "platform/forms/label.h"
-#include "platform/forms/month_view.h"
 #include "platform/forms/ms_flex_grid.h"
-#include "platform/forms/option_button.h"
-#include "platform/forms/text_box.h"
+#include "platform/forms/named_property.h"
 
 namespace orvendal {
 namespace {
@@ -25,57 +17,48 @@ namespace {
 constexpr double kFarthestBeside = 3000;
 constexpr double kFarthestAbove = 1500;
 
-template <typename Type>
-const Type& As(const Control& control) {
-  return static_cast<const Type&>(control);
+// What a property of the control says, as the user's system writes it; nothing if its kind has none of that
+// name.
+std::optional<std::string> Said(Control& control, std::string_view property) {
+  const NamedProperty* found = FindProperty(control.Kind(), property);
+  if (found == nullptr) return std::nullopt;
+  return control.Parent().Host().UserRegion().ToText(found->get(control, {}));
 }
 
-std::string CaptionOf(const Control& control) {
-  switch (control.Kind()) {
-    case ControlKind::kLabel:
-      return As<Label>(control).Caption();
-    case ControlKind::kCommandButton:
-      return As<CommandButton>(control).Caption();
-    case ControlKind::kOptionButton:
-      return As<OptionButton>(control).Caption();
-    case ControlKind::kBarra:
-      return As<Barra>(control).Caption();
-    case ControlKind::kBoton:
-      return As<Boton>(control).Caption();
-    default:
-      return {};
-  }
+bool Holds(Control& control, std::string_view flag) {
+  const NamedProperty* found = FindProperty(control.Kind(), flag);
+  return found != nullptr && found->get(control, {}).Number() != 0;
 }
 
 // The caption as it is said; empty if it is made of signs alone, such as "...".
-std::string SpokenCaption(const Control& control) {
-  std::string caption = Trim(ReadCaption(CaptionOf(control)).text);
+std::string SpokenCaption(Control& control) {
+  std::string caption = Trim(ReadCaption(Said(control, "Caption").value_or("")).text);
   if (!caption.empty() && caption.back() == ':') caption = Trim(caption.substr(0, caption.size() - 1));
   return caption.find_first_not_of(".:-<>*+ ") == std::string::npos ? std::string() : caption;
 }
 
-bool NamesOthers(const Control& label, const Control& control) {
+bool NamesOthers(Control& label, const Control& control) {
   return label.Kind() == ControlKind::kLabel && label.Container() == control.Container() && !label.OnClick &&
          label.Visible() && !SpokenCaption(label).empty();
 }
 
 std::string LabelOf(const Control& control) {
-  const Control* nearest = nullptr;
+  Control* nearest = nullptr;
   double distance = std::numeric_limits<double>::max();
   const double middle = control.Top() + control.Height() / 2;
-  const auto offer = [&](const Control& label, double gap, double farthest) {
+  const auto offer = [&](Control& label, double gap, double farthest) {
     if (gap > farthest || gap >= distance) return;
     nearest = &label;
     distance = gap;
   };
-  for (const Control* label : control.Parent().Controls()) {
+  for (Control* label : control.Parent().Controls()) {
     if (label == &control || !NamesOthers(*label, control)) continue;
     const double right = label->Left() + label->Width(), bottom = label->Top() + label->Height();
     const bool is_beside = label->Top() <= middle && middle <= bottom && label->Left() < control.Left();
     if (is_beside) offer(*label, std::max(0.0, control.Left() - right), kFarthestBeside);
   }
   if (nearest == nullptr) {
-    for (const Control* label : control.Parent().Controls()) {
+    for (Control* label : control.Parent().Controls()) {
       if (label == &control || !NamesOthers(*label, control)) continue;
       const double bottom = label->Top() + label->Height();
       const bool is_above = bottom <= control.Top() && label->Left() < control.Left() + control.Width() &&
@@ -86,9 +69,9 @@ std::string LabelOf(const Control& control) {
   return nearest == nullptr ? std::string() : SpokenCaption(*nearest);
 }
 
-std::string TwinCaption(const Control& control) {
+std::string TwinCaption(Control& control) {
   if (control.Index() < 0) return {};
-  for (const Control* twin : control.Parent().Controls()) {
+  for (Control* twin : control.Parent().Controls()) {
     if (twin->Name() != control.Name() || twin->Kind() != control.Kind()) continue;
     if (std::string caption = SpokenCaption(*twin); !caption.empty()) return caption;
   }
@@ -96,14 +79,14 @@ std::string TwinCaption(const Control& control) {
 }
 
 // An editor that floats over a grid edits the cell that it covers.
-std::string CoveredColumn(const Control& control) {
+std::string CoveredColumn(Control& control) {
   if (control.Kind() != ControlKind::kTextBox || !control.Visible()) return {};
   const Point middle{control.Left() + control.Width() / 2, control.Top() + control.Height() / 2};
   for (const Control* other : control.Parent().Controls()) {
     if (other->Kind() != ControlKind::kMSFlexGrid || other->Container() != control.Container() ||
         !other->Visible())
       continue;
-    const auto& grid = As<MSFlexGrid>(*other);
+    const auto& grid = static_cast<const MSFlexGrid&>(*other);
     int row = 0, column = 0;
     if (grid.CellAt({middle.x - grid.Left(), middle.y - grid.Top()}, row, column))
       return ColumnTitle(grid, column);
@@ -119,7 +102,7 @@ std::string ColumnTitle(const MSFlexGrid& grid, int column) {
   return title.empty() ? std::to_string(column + 1) : title;
 }
 
-std::string AccessibleName(const Control& control) {
+std::string AccessibleName(Control& control) {
   for (const auto source : {SpokenCaption, TwinCaption, CoveredColumn}) {
     if (std::string name = source(control); !name.empty()) return name;
   }
@@ -131,16 +114,14 @@ std::string AccessibleName(const Control& control) {
   return control.FullName();
 }
 
-std::optional<std::string> AccessibleValue(const Control& control) {
+std::optional<std::string> AccessibleValue(Control& control) {
   switch (control.Kind()) {
     case ControlKind::kTextBox:
-      return As<TextBox>(control).Text();
     case ControlKind::kComboBox:
-      return As<ComboBox>(control).Text();
+      return Said(control, "Text");
     case ControlKind::kHScrollBar:
-      return std::to_string(As<HScrollBar>(control).Value());
     case ControlKind::kMonthView:
-      return control.Parent().Host().UserRegion().ToText(As<MonthView>(control).Value());
+      return Said(control, "Value");
     default:
       return std::nullopt;
   }
@@ -178,7 +159,7 @@ LONG AccessibleRole(const Control& control) {
   return ROLE_SYSTEM_CLIENT;
 }
 
-LONG AccessibleState(const Control& control) {
+LONG AccessibleState(Control& control) {
   LONG state = 0;
   const bool is_seen =
       control.Parent().Visible() && control.IsShown() && control.Kind() != ControlKind::kTimer;
@@ -186,11 +167,9 @@ LONG AccessibleState(const Control& control) {
   if (!control.IsOperable()) state |= STATE_SYSTEM_UNAVAILABLE;
   if (is_seen && control.IsFocusable()) state |= STATE_SYSTEM_FOCUSABLE;
   if (control.HasFocus()) state |= STATE_SYSTEM_FOCUSED;
-  if (control.Kind() == ControlKind::kTextBox && As<TextBox>(control).Locked())
-    state |= STATE_SYSTEM_READONLY;
+  if (Holds(control, "Locked")) state |= STATE_SYSTEM_READONLY;
   if (control.Kind() == ControlKind::kLabel && !control.OnClick) state |= STATE_SYSTEM_READONLY;
-  if (control.Kind() == ControlKind::kOptionButton && As<OptionButton>(control).Value())
-    state |= STATE_SYSTEM_CHECKED;
+  if (control.Kind() == ControlKind::kOptionButton && Holds(control, "Value")) state |= STATE_SYSTEM_CHECKED;
   return state;
 }
 

@@ -12,11 +12,11 @@ namespace orvendal {
 
 /// Its caption; else that of its twin in the same control array; else the title of the grid's column that it
 /// floats over; else the label beside or above it; else, for a surface, that of its form; else its own name.
-std::string AccessibleName(const Control& control);
+std::string AccessibleName(Control& control);
 /// What it holds; nothing for kinds that hold nothing.
-std::optional<std::string> AccessibleValue(const Control& control);
+std::optional<std::string> AccessibleValue(Control& control);
 LONG AccessibleRole(const Control& control);
-LONG AccessibleState(const Control& control);
+LONG AccessibleState(Control& control);
 /// Whether a click on it does something.
 bool IsPressable(const Control& control);
 

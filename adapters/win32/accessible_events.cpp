@@ -39,7 +39,7 @@ void AccessibleEvents::Announce(const Form& form, HWND window) {
       NotifyWinEvent(EVENT_OBJECT_FOCUS, window, spot.object, spot.child);
     }
   }
-  for (const Control* control : form.Controls()) {
+  for (Control* control : form.Controls()) {
     if (const std::optional<std::string> value = AccessibleValue(*control)) {
       AnnounceValue(window, SpotOf(*control), *value);
     }
