@@ -41,8 +41,6 @@ class QtFormWidget final : public QWidget {
   bool BroughtBack();
   QPoint PlaceOnScreen(Point twips) const;
 
-  const std::optional<Rect>& CaretArea() const { return caret_; }
-
  protected:
   bool event(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

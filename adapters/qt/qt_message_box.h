@@ -30,7 +30,6 @@ inline constexpr int kQuestion = 32;
 inline constexpr int kWarning = 48;
 inline constexpr int kInformation = 64;
 inline constexpr int kSecondDefault = 256;
-inline constexpr int kThirdDefault = 512;
 }  // namespace message_style
 
 namespace message_answer {

@@ -58,8 +58,6 @@ class QtWindowHost : public CommonHost {
   void SelectedText(const std::string& text) override;
   std::optional<EditCommand> RunEditMenu(Form& form, Point place, const EditMenu& menu) override;
 
-  /// What the buttons of message boxes say from now on.
-  void Captions(const QtCaptions& captions) { captions_ = captions; }
   QtFonts& Fonts() { return fonts_; }
   /// What a frame of the system's takes around a window, in logical pixels: as it was seen around one, or
   /// what most window managers take at most.

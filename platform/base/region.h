@@ -40,7 +40,6 @@ class Region {
 
   const std::string& Name() const { return name_; }
   char DecimalMark() const { return decimal_mark_; }
-  char DateSeparator() const { return date_separator_; }
   /// 0 for Monday to 6 for Sunday.
   int FirstWeekday() const { return first_weekday_; }
   /// Month from 1; weekday from 0 for Monday.

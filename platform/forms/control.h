@@ -208,7 +208,6 @@ class Control {
   /// Only `local`, relative to the control.
   void Invalidate(const Rect& local);
   Rgb Resolve(ColorWord color) const;
-  ControlProperties& Properties() { return properties_; }
   void PlaceAligned(double left, double top, double width);
 
  private:

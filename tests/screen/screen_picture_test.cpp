@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "adapters/headless/recording_canvas.h"
 #include "tests/support/form_driver.h"
+#include "tests/support/recording_canvas.h"
 
 namespace orvendal {
 namespace {

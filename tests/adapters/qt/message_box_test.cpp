@@ -30,7 +30,7 @@ class MessageBoxes : public QtFormTest {
         box->reject();
       }
     });
-    return host.ShowMessage(text, style, title);
+    return desktop->ShowMessage(text, style, title);
   }
   static std::function<void(QMessageBox&)> Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     return [=](QMessageBox& box) {
@@ -59,6 +59,8 @@ class MessageBoxes : public QtFormTest {
       }
     };
   }
+
+  QtWindowHost* desktop = &host;
 };
 
 TEST_F(MessageBoxes, EachButtonAnswersWithItsCode) {
@@ -224,11 +226,12 @@ TEST_F(MessageBoxes, ABoxWithoutTitleBearsTheApplications) {
 }
 
 TEST_F(MessageBoxes, ButtonsSpeakTheUsersLanguageInTheOrderOfTheAnswers) {
-  QtCaptions captions;
-  captions.yes = "&Yes";
-  captions.no = "&No";
-  captions.cancel = "&Cancel";
-  host.Captions(captions);
+  QtHostOptions options;
+  options.captions.yes = "&Yes";
+  options.captions.no = "&No";
+  options.captions.cancel = "&Cancel";
+  QtWindowHost translated(Region::Spanish(), clock, options);
+  desktop = &translated;
   Answer(35, [](QMessageBox& box) {
     std::map<int, QString> by_place;
     for (QAbstractButton* button : box.buttons()) by_place[button->x()] = button->text();

@@ -1,8 +1,8 @@
-#include "adapters/headless/recording_canvas.h"
 #include "host/library/dialog_design.h"
 #include "platform/data/ado_error.h"
 #include "platform/forms/option_button.h"
 #include "tests/host/host_fixture.h"
+#include "tests/support/recording_canvas.h"
 
 namespace orvendal {
 namespace {

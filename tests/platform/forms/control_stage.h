@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "adapters/headless/headless_host.h"
-#include "adapters/headless/recording_canvas.h"
 #include "platform/base/text.h"
 #include "platform/forms/form.h"
+#include "tests/support/recording_canvas.h"
 
 namespace orvendal::testing {
 

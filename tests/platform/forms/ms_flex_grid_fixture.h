@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "adapters/headless/headless_host.h"
-#include "adapters/headless/recording_canvas.h"
 #include "platform/base/region.h"
 #include "platform/forms/ms_flex_grid.h"
+#include "tests/support/recording_canvas.h"
 
 namespace orvendal {
 

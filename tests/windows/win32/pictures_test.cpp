@@ -3,8 +3,8 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "adapters/headless/recording_canvas.h"
 #include "tests/support/form_driver.h"
+#include "tests/support/recording_canvas.h"
 #include "tests/windows/win32/real_screen.h"
 
 namespace orvendal {
