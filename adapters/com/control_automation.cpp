@@ -64,7 +64,7 @@ const NamedProperty& PropertyOf(const Control& control, const FaceProperty& face
   return *found;
 }
 
-void Give(const Call& call, const NamedProperty& property, Control& control) {
+void GiveValue(const Call& call, const NamedProperty& property, Control& control) {
   const Value value = property.get(control, {});
   switch (property.type) {
     case PropertyType::kText:
@@ -81,7 +81,7 @@ void Give(const Call& call, const NamedProperty& property, Control& control) {
   }
 }
 
-Value Take(const Call& call, PropertyType type) {
+Value TakenValue(const Call& call, PropertyType type) {
   switch (type) {
     case PropertyType::kText:
       return call.Text(0);
@@ -184,7 +184,7 @@ bool ControlAutomation::Get(DISPID member, const AutomationCall& call) {
   const FaceProperty* const property = FacePropertyOf(member);
   if (!property) return GetIn(kMembers, member - kPropertyCount, *this, call);
   call.Expect(0, 0);
-  Give(call, PropertyOf(Living(), *property), Living());
+  GiveValue(call, PropertyOf(Living(), *property), Living());
   return true;
 }
 
@@ -196,7 +196,7 @@ bool ControlAutomation::Put(DISPID member, const AutomationCall& call) {
   call.Expect(1, 1);
   const NamedProperty& of_kind = PropertyOf(Living(), *property);
   if (!of_kind.put) throw RuntimeError(error_number::kNoSuchMember);
-  of_kind.put(Living(), {}, Take(call, of_kind.type));
+  of_kind.put(Living(), {}, TakenValue(call, of_kind.type));
   return true;
 }
 
