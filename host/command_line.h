@@ -17,7 +17,7 @@ struct PixelSize {
   int height = 0;
 };
 
-/// What the program was asked for on its command line.
+/// The options of the command line.
 struct Options {
   std::string sucursal = "01";
   std::string puesto = "1";

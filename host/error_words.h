@@ -8,7 +8,7 @@
 
 namespace orvendal {
 
-/// What is told to the user instead of the descriptions with which stores and the runtime raise their errors:
+/// Translation of the descriptions with which stores and the runtime raise their errors, for the user:
 /// those are in English, since programs compare them, and name no file. The same sentence is told whether the
 /// trouble is met at the start or while one works.
 

@@ -13,7 +13,7 @@
 
 namespace orvendal {
 
-/// What the sample host has in common with its session object and its stand-in library. Outlives both.
+/// State that the sample host shares with its session object and its stand-in library. Outlives both.
 struct HostContext {
   WindowHost& window_host;
   MessagePresenter& messages;

@@ -8,7 +8,8 @@
 
 namespace orvendal {
 
-/// What the sample host and its stand-in library say, in one language. %1, %2 stand for what Fill puts there.
+/// Translated texts of the sample host and its stand-in library, in one language. %1, %2 stand for what Fill
+/// puts there.
 struct Words {
   // Buttons.
   std::string_view accept;

@@ -13,7 +13,7 @@ namespace orvendal {
 class FrmOrvendalciales;  // the one name from above: the component keeps its form, and nobody down here asks
                           // it
 
-/// What the component is given by whoever loads it. All of it outlives the component.
+/// The environment of the component, given by whoever loads it; all of it outlives the component.
 struct Environment {
   WindowHost& host;
   RecordsetFactory& recordsets;

@@ -8,8 +8,8 @@
 
 namespace orvendal {
 
-// Where errors change their form. Numbers 1 to 65535 are 0x800A0000 + n on the wire; the codes of data
-// providers and of the system, negative as numbers, are the same on both sides.
+// Translation of errors between RuntimeError and HRESULT. Numbers 1 to 65535 are 0x800A0000 + n on the wire;
+// the codes of data providers and of the system, negative as numbers, are the same on both sides.
 
 /// What the errors of this module name as their source; for the rest of its life, before its first object is
 /// made.

@@ -14,8 +14,8 @@ struct RegisteredName {
   GUID identifier;
 };
 
-/// Who a module is, as registered in COM. Its classes go by the names project.class; the first one stands for
-/// the others where it is asked whether the module is registered.
+/// The identity of a module, as registered in COM. Its classes go by the names project.class; the first one
+/// stands for the others where it is asked whether the module is registered.
 struct ModuleIdentity {
   const wchar_t* project;
   const wchar_t* version;  // of the type library

@@ -5,7 +5,8 @@
 
 namespace orvendal {
 
-/// Who the component is, as registered in COM. Registration, class factory and type library read it here.
+/// The identity of the component, as registered in COM. Registration, class factory and type library read it
+/// here.
 namespace identity {
 
 inline constexpr wchar_t kProject[] = L"DllOrvendal";

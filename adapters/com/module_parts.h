@@ -9,7 +9,7 @@
 
 namespace orvendal {
 
-/// What the component stands on in this module: windows and store. The build chooses who makes them.
+/// Factories of what the component stands on in this module, windows and store; the build links one of each.
 struct ModuleParts {
   std::unique_ptr<WindowHost> windows;
   std::unique_ptr<RecordsetFactory> recordsets;

@@ -5,7 +5,7 @@
 
 namespace orvendal {
 
-/// What the desktop's fonts measure, kept as numbers, so that every machine lays the screen out alike with no
+/// Metrics of the desktop's fonts, kept as numbers, so that every machine lays the screen out alike with no
 /// font installed: in thousandths of the font's height in pixels.
 struct FontTable {
   std::uint16_t ascent;

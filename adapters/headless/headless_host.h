@@ -44,7 +44,7 @@ class HeadlessHost final : public CommonHost {
   /// Display in pixels of 15 twips.
   void SetScreen(int width_pixels, int height_pixels);
   void SetScreenTwips(double width, double height);
-  /// What panels and the frames of windows take of the display, in pixels.
+  /// Insets of the display, in pixels: what panels and the frames of windows take of it.
   void SetTakenByFrames(int width_pixels, int height_pixels);
 
   /// Runs when the next modal form is up; must leave it hidden or unloaded, else UnansweredDialog comes out.

@@ -10,9 +10,9 @@ namespace orvendal {
 class MSFlexGrid;
 class MonthView;
 
-/// Hands that use a form as a person would: positions and keys go through the form's own input, so that hit
-/// test, focus and disabled controls decide what happens. Raises std::invalid_argument for what no hand could
-/// do. Keeps the form alive: a key that closes it still comes up.
+/// Synthetic input of mouse and keyboard, as a person would give it: positions and keys go through the form's
+/// own input, so that hit test, focus and disabled controls decide what happens. Raises std::invalid_argument
+/// for what no hand could do. Keeps the form alive: a key that closes it still comes up.
 class Robot {
  public:
   /// What a click meets on its way to a control.

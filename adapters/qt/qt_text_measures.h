@@ -5,7 +5,7 @@
 
 namespace orvendal {
 
-/// What texts measure where Qt paints them.
+/// Text metrics of Qt, where it paints.
 class QtTextMeasures final : public TextMeasures {
  public:
   /// `fonts` outlives the object.

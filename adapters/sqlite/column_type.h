@@ -14,7 +14,7 @@ namespace orvendal::sqlite {
 
 enum class ColumnKind { kUntyped, kText, kNumber, kDate };
 
-/// What a column's declared type says to a data provider.
+/// The data type of a column as a provider reports it, read from the column's declaration.
 struct ColumnType {
   ColumnKind kind = ColumnKind::kUntyped;
   bool whole_numbers = false;

@@ -2,7 +2,7 @@
 
 namespace orvendal {
 
-/// Whose statements a connection to the embedded store understands, and whose manners it shows.
+/// The SQL dialect that a connection to the embedded store understands, with the behaviour of its provider.
 enum class Dialect { kSqlServer, kJet };
 
 }  // namespace orvendal

@@ -4,12 +4,12 @@ struct sqlite3;
 
 namespace orvendal::sqlite {
 
-/// What the statements of one connection may do. Codes typed on the screen are pasted into statements,
-/// scripts bring their own, and the file may come from anywhere: so the engine refuses what reaches beyond
-/// the tables of the file, with an error of the statement. Refused are other files (ATTACH, VACUUM,
-/// extensions), virtual tables, pointers given to the engine, values and patterns so long that a single call
-/// of a function would hold up the program, and every pragma but those that only tell something. The host's
-/// own statements may use any pragma. Foreign keys are not enforced.
+/// Authorizer of one connection: decides what its statements may do. Codes typed on the screen are pasted
+/// into statements, scripts bring their own, and the file may come from anywhere: so the engine refuses what
+/// reaches beyond the tables of the file, with an error of the statement. Refused are other files (ATTACH,
+/// VACUUM, extensions), virtual tables, pointers given to the engine, values and patterns so long that a
+/// single call of a function would hold up the program, and every pragma but those that only tell something.
+/// The host's own statements may use any pragma. Foreign keys are not enforced.
 ///
 /// Invariant: watches its connection from its making until LetGo or its end.
 class StatementGuard {
@@ -22,7 +22,7 @@ class StatementGuard {
 
   void LetGo() noexcept;
 
-  /// While one lives, statements are the host's own.
+  /// Scope in which statements are the host's own, which the authorizer lets through.
   class HostsOwn {
    public:
     explicit HostsOwn(StatementGuard& guard) : guard_(guard) { ++guard_.hosts_own_; }

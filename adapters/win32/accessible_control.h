@@ -8,7 +8,7 @@
 
 namespace orvendal {
 
-/// What assistive software is told of a control; roles and states are those of the system's accessibility.
+/// Accessible properties of a control; roles and states are those of the system's accessibility.
 
 /// Its caption; else that of its twin in the same control array; else the title of the grid's column that it
 /// floats over; else the label beside or above it; else, for a surface, that of its form; else its own name.

@@ -11,8 +11,8 @@ namespace orvendal {
 class Control;
 class Form;
 
-/// Tells assistive software what has changed on a form since it was told last: where the focus is, and what
-/// the controls and the current cell of the focused grid hold.
+/// Raises accessibility events for what has changed on a form since it was told last: where the focus is, and
+/// what the controls and the current cell of the focused grid hold.
 class AccessibleEvents {
  public:
   /// `window` may be nullptr. Cheap if nobody listens.

@@ -11,7 +11,7 @@ namespace orvendal {
 
 class AccessibleObject;
 
-/// What one object of the accessible tree says of itself and of its children. Children have numbers from 1
+/// One node of the accessible tree: its properties and its children. Children have numbers from 1
 /// that stay the same while the form lives; 0 is the object itself. Everything is asked while the form is
 /// loaded, for a child that HasChild, and may throw.
 class AccessibleNode {

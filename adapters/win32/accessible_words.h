@@ -4,7 +4,7 @@
 
 namespace orvendal {
 
-/// What assistive software says of things that bear no text of their own.
+/// Accessible names of parts that bear no text of their own.
 struct AccessibleWords {
   const wchar_t* press;
   const wchar_t* choose;

@@ -2,8 +2,8 @@
 
 namespace orvendal {
 
-/// While one lives, on any thread, the code of this module must stay where it is: a window of it exists, one
-/// of its procedures runs, or somebody outside has an object of it.
+/// A hold on the code of this module, from any thread, while it must not be unloaded: a window of it exists,
+/// one of its procedures runs, or somebody outside has an object of it.
 class ModuleUse {
  public:
   ModuleUse();
@@ -12,7 +12,7 @@ class ModuleUse {
   ModuleUse& operator=(const ModuleUse&) = delete;
 };
 
-/// Whether one lives. What the last of them left in the system is taken away by asking.
+/// Whether anybody holds it. What the last of them left in the system is taken away by asking.
 bool ModuleIsInUse();
 
 }  // namespace orvendal

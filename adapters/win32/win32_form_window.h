@@ -87,7 +87,7 @@ class Win32FormWindow final : public CommonWindow {
   void PaintPart(HDC dc, const RECT& part);
   void LostFromOutside();
 
-  // Hands (win32_form_input.cpp).
+  // Input (win32_form_input.cpp).
   void Press(int button, bool second_of_double, WPARAM keys, LPARAM place);
   void Release(int button, WPARAM keys, LPARAM place);
   void LoseMouse();

@@ -39,9 +39,9 @@ class ScriptWorld {
   /// The screen, if it is loaded.
   std::shared_ptr<FrmOrvendalciales> Screen() const;
 
-  /// What the user does in the next panel of F1: opens the store anew, or closes it at once.
+  /// Prepared answer to the next panel of F1: opens the store anew, or closes it at once.
   void QueueWorkstationPanel(bool reconnect) { panel_answers_.push_back(reconnect); }
-  /// What the user chooses in the next change of session of F2; nothing to cancel it.
+  /// Prepared answer to the next change of session of F2; nothing to cancel it.
   struct SessionChoice {
     std::string sucursal;
     std::string puesto;

@@ -22,9 +22,9 @@ struct Bitmap {
   std::vector<std::uint8_t> pixels;
 };
 
-/// What an adapter paints with. Positions are twips, relative to the origin that Push moved; the
-/// adapter rounds edges to its device's pixels, so that equal edges meet. Nothing is painted outside the
-/// current clip.
+/// The drawing surface, which each adapter implements. Positions are twips, relative to the origin that Push
+/// moved; the adapter rounds edges to its device's pixels, so that equal edges meet. Nothing is painted
+/// outside the current clip.
 class Canvas {
  public:
   virtual ~Canvas() = default;

@@ -2,7 +2,7 @@
 
 namespace orvendal {
 
-/// What the desktop's menu of a text box offers.
+/// The commands of a text box's context menu.
 enum class EditCommand { kCut, kCopy, kPaste, kSelectAll };
 
 /// What of it would do something just now.

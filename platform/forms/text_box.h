@@ -73,7 +73,7 @@ class TextBox final : public Control {
     bool moving = false;
   };
 
-  // What the text measures, in twips.
+  // Text metrics, in twips.
   Rect TextArea() const;
   double OffsetOf(std::size_t position) const;  // from the start of the text
   double TextOrigin() const;                    // where the text starts, relative to the control
@@ -85,7 +85,7 @@ class TextBox final : public Control {
   void ScrollToCaret();
   void Replace(std::size_t from, std::size_t to, std::string_view text, bool typing = false);
 
-  // Hands (text_box_input.cpp).
+  // Input (text_box_input.cpp).
   void MoveCaret(std::size_t position, bool extend);
   bool MoveByKey(int key_code, int shift);
   std::size_t WordLeft(std::size_t position) const;

@@ -7,7 +7,8 @@
 
 namespace orvendal {
 
-/// What lines of text measure in the fonts of one system, in twips. A text is one line of UTF-8.
+/// Text metrics: the extents of lines of text in the fonts of one system, in twips. A text is one line of
+/// UTF-8.
 class TextMeasures {
  public:
   virtual ~TextMeasures() = default;

@@ -11,7 +11,7 @@ inline constexpr GUID kTypeLibrary = {
 
 inline constexpr wchar_t kProject[] = L"DllTrevano";
 
-/// Who the library is, as registered in COM.
+/// The identity of the library, as registered in COM.
 const ModuleIdentity& Registered();
 
 }  // namespace orvendal::library_identity

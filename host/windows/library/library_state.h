@@ -11,7 +11,7 @@
 
 namespace orvendal {
 
-/// What the library's objects in this process have in common: the session as it stands, windows, messages.
+/// State that the library's objects in this process share: the session as it stands, windows, messages.
 /// Made when it is first needed and kept until nothing needs the module any more; it belongs to the thread
 /// that made it.
 class LibraryState {

@@ -5,7 +5,7 @@
 
 namespace orvendal {
 
-/// What of a connection string the embedded store heeds; each is empty if it is not there.
+/// The keywords of a connection string that the embedded store reads; each is empty if it is not there.
 struct ConnectionSettings {
   std::string provider;
   std::string data_source;

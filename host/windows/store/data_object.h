@@ -9,7 +9,7 @@
 
 namespace orvendal {
 
-/// What one kind of data object is to its clients.
+/// The identity of one kind of data object, as clients ask for it.
 struct DataObjectKind {
   const wchar_t* source;              // of the errors that are ADO's own
   std::span<const GUID> identifiers;  // that it answers to, older and newer, its bases among them
