@@ -1,6 +1,7 @@
 # The headers of the standard library that most of the product includes are read once for all of it. Each file still
 # includes what it uses: the preset of the sanitizers builds without this.
 add_library(orvendal_product_headers STATIC ${PROJECT_SOURCE_DIR}/cmake/product_headers.cpp)
+orvendal_keep_precompiled_headers_true(orvendal_product_headers)
 target_link_libraries(orvendal_product_headers PRIVATE orvendal_options)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   # ccache wants to know of precompiled headers.
@@ -24,6 +25,7 @@ if(TARGET orvendal)
     target_compile_options(orvendal_qt PRIVATE -fpch-preprocess)
     target_compile_options(orvendal PRIVATE -fpch-preprocess)
   endif()
+  orvendal_keep_precompiled_headers_true(orvendal_qt)
   target_precompile_headers(orvendal_qt PRIVATE <QApplication> <QFontDatabase> <QKeyEvent> <QPainter> <QScreen>
     <QString> <QWidget> <QWindow>)
   target_precompile_headers(orvendal REUSE_FROM orvendal_qt)

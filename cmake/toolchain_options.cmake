@@ -2,7 +2,17 @@ find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # What is compiled with precompiled headers is kept too.
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
+  set(ORVENDAL_HEADERS_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_DEPEND=1
+    ${CCACHE_PROGRAM})
 endif()
+
+# For a target that makes precompiled headers. Some that were made of other comments are no good: the compiler would
+# read such a header a second time. So ccache compares the headers themselves, not what the preprocessor makes of them.
+function(orvendal_keep_precompiled_headers_true target)
+  if(ORVENDAL_HEADERS_LAUNCHER)
+    set_target_properties(${target} PROPERTIES CXX_COMPILER_LAUNCHER "${ORVENDAL_HEADERS_LAUNCHER}")
+  endif()
+endfunction()
 
 # What every target of ours is built with; outside libraries keep their own flags.
 add_library(orvendal_options INTERFACE)
