@@ -103,14 +103,20 @@ class FrmOrvendalciales final : public Form {
   };
   Variables variables;
 
-  // form/form_load.cpp, form/form_frame.cpp: start, activation, keys, closing.
+  // form/form_load.cpp
   void Form_Load();
+
+  // form/activation.cpp
   void Form_Activate();
+  void TimerCBarra_Timer();
+
+  // form/function_keys.cpp: F1 and F2.
   void Form_KeyDown(int& KeyCode, int Shift);
-  void Form_Unload(int& Cancel);
+
+  // form/closing.cpp, and minimising.
   void Barra1_Minimizar();
   void Barra1_Cerrar();
-  void TimerCBarra_Timer();
+  void Form_Unload(int& Cancel);
 
   // form/frm_orvendalciales.cpp: what all of them use.
   /// Switches the action bar to one of the sets below: the names of the buttons to switch off.

@@ -8,30 +8,17 @@
 #include <string_view>
 #include <unordered_set>
 
+#include "adapters/sqlite/function_values.h"
+
 namespace orvendal::sqlite {
 namespace {
 
 constexpr std::uint64_t kMostComparisons = 200'000'000;  // bytes with bytes, a second at worst
 
-bool IsNull(sqlite3_value* value) {
-  return sqlite3_value_type(value) == SQLITE_NULL;
-}
-
-std::string_view Text(sqlite3_value* value) {
-  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-  return text == nullptr ? std::string_view()
-                         : std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
-}
-
 std::string_view Blob(sqlite3_value* value) {
   const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
   return bytes == nullptr ? std::string_view()
                           : std::string_view(bytes, static_cast<std::size_t>(sqlite3_value_bytes(value)));
-}
-
-void Answer(sqlite3_context* context, std::string_view text) {
-  sqlite3_result_text64(context, text.data() == nullptr ? "" : text.data(), text.size(), SQLITE_TRANSIENT,
-                        SQLITE_UTF8);
 }
 
 bool ContinuesCharacter(char c) {

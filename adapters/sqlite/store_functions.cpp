@@ -10,26 +10,13 @@
 #include <string_view>
 
 #include "adapters/sqlite/bounded_functions.h"
+#include "adapters/sqlite/function_values.h"
 #include "adapters/sqlite/stored_date.h"
 #include "adapters/sqlite/text_folding.h"
 #include "adapters/sqlite/text_pattern.h"
 
 namespace orvendal::sqlite {
 namespace {
-
-bool IsNull(sqlite3_value* value) {
-  return sqlite3_value_type(value) == SQLITE_NULL;
-}
-
-std::string_view Text(sqlite3_value* value) {
-  const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
-  return text == nullptr ? std::string_view()
-                         : std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
-}
-
-void Answer(sqlite3_context* context, const std::string& text) {
-  sqlite3_result_text(context, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
-}
 
 // Whether `text` matches the pattern in the second argument, which is parsed once for each run of a
 // statement.

@@ -12,7 +12,7 @@ namespace orvendal {
 
 class CommonWindow;
 
-/// What whoever makes a host tells it, on every desktop.
+/// Options of a host, the same on every desktop.
 struct CommonHostOptions {
   /// Title of windows and message boxes that have none.
   std::string application_title;
