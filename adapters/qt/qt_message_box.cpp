@@ -10,10 +10,12 @@
 #include <QShowEvent>
 #include <QTimerEvent>
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
 #include "adapters/qt/qt_keys.h"
+#include "platform/forms/answer_keys.h"
 
 namespace orvendal {
 namespace {
@@ -43,10 +45,10 @@ class FrontMessageBox final : public QMessageBox {
 };
 
 // The keys of a box before it has them.
-class AnswerKeys final : public QObject {
+class BoxKeys final : public QObject {
  public:
-  AnswerKeys(QMessageBox& box, KeyRun& keys, const std::function<void()>& beep)
-      : box_(box), keys_(keys), beep_(beep) {
+  BoxKeys(QMessageBox& box, KeyRun& keys, const std::function<void()>& beep)
+      : box_(box), answer_keys_(keys, beep) {
     qApp->installEventFilter(this);
   }
 
@@ -80,34 +82,24 @@ class AnswerKeys final : public QObject {
     return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr;
   }
 
-  // No character is an answer by itself.
   bool TakePress(const QKeyEvent& event) {
     if (IsModifier(event.key()) || event.modifiers() & Qt::AltModifier) return false;
-    const std::uint64_t time = InputTimeOf(event);
-    const bool goes_on = keys_.GoesOn(time);
-    const bool is_character = IsCharacter(event);
-    const bool is_reader = keys_.IsReaderAt(time);
-    if (!goes_on) warned_ = false;
-    keys_.Add(is_character ? static_cast<char32_t>(event.text().at(0).unicode()) : U'\r', time);
+    std::optional<char32_t> character;
+    if (IsCharacter(event)) character = event.text().at(0).unicode();
+    const AnswerKeys::Verdict verdict = answer_keys_.Take(character, InputTimeOf(event));
     pause_.stop();
-    if (is_character && event.key() == Qt::Key_Space && !goes_on) {
+    if (verdict.holds_blank) {
       blank_on_ = qobject_cast<QAbstractButton*>(box_.focusWidget());
       pause_.start(static_cast<int>(KeyRun::kShortestPause), Qt::PreciseTimer, this);
     }
-    if (keys_.IsReaderAt(time) && !warned_) {
-      warned_ = true;
-      beep_();
-    }
-    return is_character || is_reader;
+    return verdict.taken;
   }
 
   QMessageBox& box_;
-  KeyRun& keys_;
-  const std::function<void()>& beep_;
+  AnswerKeys answer_keys_;
   const QEvent* passed_on_ = nullptr;
   QPointer<QAbstractButton> blank_on_;
   QBasicTimer pause_;
-  bool warned_ = false;
 };
 
 std::vector<Choice> ChoicesOf(int style, const QtCaptions& captions) {
@@ -163,7 +155,7 @@ int RunMessageBox(QWidget* owner, const QString& text, int style, const QString&
   box.setDefaultButton(buttons[wanted < buttons.size() ? wanted : 0]);
   box.setEscapeButton(buttons.back());
 
-  const AnswerKeys answer_keys(box, keys, beep);
+  const BoxKeys box_keys(box, keys, beep);
   box.exec();
   const auto pressed = std::find(buttons.begin(), buttons.end(), box.clickedButton());
   if (pressed == buttons.end()) return choices.back().answer;

@@ -44,8 +44,7 @@ inline constexpr int kNo = 7;
 /// first button or the one that the style makes the default, Esc the one that says no the mildest way, Alt
 /// with its letter any. The text can be selected and copied. The caller holds a ModalScope.
 ///
-/// What a bar-code reader types answers nothing: its Enter is dropped with a `beep`, and a blank presses a
-/// button only when no other key has come close behind it. `keys` are those that came before, and take the
+/// What a bar-code reader types answers nothing (AnswerKeys). `keys` are those that came before, and take the
 /// box's own.
 int RunMessageBox(QWidget* owner, const QString& text, int style, const QString& title,
                   const QtCaptions& captions, KeyRun& keys, const std::function<void()>& beep);

@@ -1,5 +1,6 @@
 #include "adapters/win32/message_box_keys.h"
 
+#include <optional>
 #include <string_view>
 
 namespace orvendal {
@@ -37,7 +38,7 @@ bool IsModifier(WPARAM key) {
 }  // namespace
 
 MessageBoxKeys::MessageBoxKeys(KeyRun& keys, std::function<void()> beep)
-    : keys_(keys), beep_(std::move(beep)) {
+    : answer_keys_(keys, std::move(beep)) {
   AcquireSRWLockExclusive(&lock);
   outer_ = innermost;
   innermost = this;
@@ -84,18 +85,11 @@ bool MessageBoxKeys::Takes(const MSG& message) {
   // The character of a key that went through belongs to that key.
   if (!is_key && !is_character) return false;
 
-  const std::uint64_t time = message.time;
-  const bool goes_on = keys_.GoesOn(time);
-  const bool is_reader = keys_.IsReaderAt(time);
-  if (!goes_on) warned_ = false;
-  keys_.Add(is_character ? character : U'\r', time);
+  const AnswerKeys::Verdict verdict =
+      answer_keys_.Take(is_character ? std::optional<char32_t>(character) : std::nullopt, message.time);
   LetGoOfBlank();
-  if (is_character && character == L' ' && !goes_on) HoldBlank(message.hwnd);
-  if (keys_.IsReaderAt(time) && !warned_) {
-    warned_ = true;
-    beep_();
-  }
-  return is_character || is_reader;
+  if (verdict.holds_blank) HoldBlank(message.hwnd);
+  return verdict.taken;
 }
 
 void MessageBoxKeys::HoldBlank(HWND button) {

@@ -4,15 +4,12 @@
 
 #include <functional>
 
-#include "platform/forms/key_run.h"
+#include "platform/forms/answer_keys.h"
 
 namespace orvendal {
 
-/// Looks at the keys of the message boxes of this thread before they have them, as long as it lives: what a
-/// bar-code reader types answers nothing. No letter alone presses a button, the reader's Enter is dropped
-/// with a `beep`, and a blank presses a button only when no other key has come close behind it.
-///
-/// `keys` are those that came before, and take the boxes' own.
+/// Looks at the keys of the message boxes of this thread before they have them, as long as it lives, and
+/// gives them those that AnswerKeys leaves.
 class MessageBoxKeys {
  public:
   MessageBoxKeys(KeyRun& keys, std::function<void()> beep);
@@ -28,14 +25,12 @@ class MessageBoxKeys {
   void HoldBlank(HWND button);
   void LetGoOfBlank();
 
-  KeyRun& keys_;
-  std::function<void()> beep_;
+  AnswerKeys answer_keys_;
   const DWORD thread_ = GetCurrentThreadId();
   MessageBoxKeys* outer_ = nullptr;
   HHOOK hook_ = nullptr;
   HWND blank_on_ = nullptr;
   UINT_PTR pause_ = 0;
-  bool warned_ = false;
 };
 
 }  // namespace orvendal
