@@ -53,7 +53,8 @@ std::string SqlText(std::string_view text) {
 }
 
 std::string SqlNumber(double number) {
-  // The longest is the smallest number: 0, the point and 324 digits. An exponent is no matter of every dialect.
+  // The longest is the smallest number: 0, the point and 324 digits. An exponent is no matter of every
+  // dialect.
   std::array<char, 400> digits{};
   const auto end =
       std::to_chars(digits.data(), digits.data() + digits.size(), number, std::chars_format::fixed).ptr;
