@@ -92,8 +92,7 @@ class Program {
         state_({host_, recordsets_, library_}) {}
 
   /// Says on standard error which store it is. Raises StoreUnavailable.
-  void OpenStore() {
-    const ChosenStore chosen = ChooseStore(options_, DefaultStore(), words_);
+  void OpenStore(const ChosenStore& chosen) {
     // The default store and its folder belong to the program and this user; any other folder has to be there.
     if (!options_.store) MakePrivateFile(chosen.path);
     const StoreSettings settings{chosen.path, options_.dialect, *options_.region, words_};
@@ -195,6 +194,14 @@ int RunProgram(const Options& options, const char* program_name) {
     return fail(std::string(words.no_display));
   }
 
+  // Before the application is made: in a current folder that is gone its font libraries complain as well.
+  ChosenStore chosen;
+  const auto choose = [&] {
+    chosen = ChooseStore(options, DefaultStore(), words);
+    return 0;
+  };
+  if (const int exit_code = RunExplained(choose, words, kExitFailure, tell); exit_code != 0) return exit_code;
+
   int argument_count = 1;
   std::string name(program_name);
   char* arguments[] = {name.data(), nullptr};
@@ -210,7 +217,7 @@ int RunProgram(const Options& options, const char* program_name) {
 
   const auto run = [&] {
     Program program(options, words);
-    program.OpenStore();
+    program.OpenStore(chosen);
     try {
       program.CallComponent();
     } catch (const StoreUnavailable&) {

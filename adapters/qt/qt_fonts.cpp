@@ -66,8 +66,9 @@ const QtFonts::Kept& QtFonts::Entry(const FontSpec& spec) {
 
 QtFonts::Measures QtFonts::LineMeasures(const FontSpec& spec) {
   const QFontMetricsF& metrics = Entry(spec).metrics;
-  const double ascent = std::round(metrics.ascent());
-  return {ascent, ascent + std::round(metrics.descent())};
+  // A line is as high as the whole pixels that it touches; newer versions of Qt tell parts of them.
+  const double ascent = std::ceil(metrics.ascent());
+  return {ascent, ascent + std::ceil(metrics.descent())};
 }
 
 double QtFonts::TextWidth(const FontSpec& spec, const QString& text) {

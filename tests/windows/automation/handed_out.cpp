@@ -170,32 +170,32 @@ namespace {
 struct NamedClass {
   Handed what;
   const char* name;
-  Manner manner;
+  unsigned manners;
 };
 
 constexpr NamedClass kAll[] = {
-    {Handed::kComponentFactory, "ComponentFactory", Manner::kFactory},
-    {Handed::kLibraryFactory, "LibraryFactory", Manner::kFactory},
-    {Handed::kStoreFactory, "StoreFactory", Manner::kFactory},
-    {Handed::kClassOrvendal, "ClassOrvendal", Manner::kCalledByNames},
-    {Handed::kConnectionPoints, "ConnectionPoints", Manner::kAny},
-    {Handed::kForm, "Form", Manner::kCalledByNames},
-    {Handed::kControls, "Controls", Manner::kCalledByNames},
-    {Handed::kControl, "Control", Manner::kCalledByNames},
-    {Handed::kControlsInTurn, "ControlsInTurn", Manner::kEnumeration},
-    {Handed::kAccessible, "Accessible", Manner::kCalledByNames},
-    {Handed::kDatosClase, "DatosClase", Manner::kCalledByNames},
-    {Handed::kHerramientas, "Herramientas", Manner::kCalledByNames},
-    {Handed::kMensajes, "Mensajes", Manner::kCalledByNames},
-    {Handed::kCambioSesion, "CambioSesion", Manner::kCalledByNames},
-    {Handed::kBuscadorProductos, "BuscadorProductos", Manner::kCalledByNames},
-    {Handed::kSelectorEmpleado, "SelectorEmpleado", Manner::kCalledByNames},
-    {Handed::kRecalculo, "Recalculo", Manner::kCalledByNames},
-    {Handed::kConnection, "Connection", Manner::kCalledByNames},
-    {Handed::kRecordset, "Recordset", Manner::kCalledByNames},
-    {Handed::kFields, "Fields", Manner::kCalledByNames},
-    {Handed::kField, "Field", Manner::kCalledByNames},
-    {Handed::kFieldsInTurn, "FieldsInTurn", Manner::kEnumeration},
+    {Handed::kComponentFactory, "ComponentFactory", kFactory},
+    {Handed::kLibraryFactory, "LibraryFactory", kFactory},
+    {Handed::kStoreFactory, "StoreFactory", kFactory},
+    {Handed::kClassOrvendal, "ClassOrvendal", kCalledByNames | kCalledByTable},
+    {Handed::kConnectionPoints, "ConnectionPoints", kAny},
+    {Handed::kForm, "Form", kCalledByNames | kAskedAlone},
+    {Handed::kControls, "Controls", kCalledByNames | kAskedAlone},
+    {Handed::kControl, "Control", kCalledByNames | kAskedAlone},
+    {Handed::kControlsInTurn, "ControlsInTurn", kEnumeration},
+    {Handed::kAccessible, "Accessible", kCalledByNames | kAskedAlone | kCalledByTable | kEnumeration},
+    {Handed::kDatosClase, "DatosClase", kCalledByNames | kAskedAlone | kCalledByTable},
+    {Handed::kHerramientas, "Herramientas", kCalledByNames | kCalledByTable},
+    {Handed::kMensajes, "Mensajes", kCalledByNames | kCalledByTable},
+    {Handed::kCambioSesion, "CambioSesion", kCalledByNames | kCalledByTable},
+    {Handed::kBuscadorProductos, "BuscadorProductos", kCalledByNames | kCalledByTable},
+    {Handed::kSelectorEmpleado, "SelectorEmpleado", kCalledByNames | kAskedAlone | kCalledByTable},
+    {Handed::kRecalculo, "Recalculo", kCalledByNames | kCalledByTable},
+    {Handed::kConnection, "Connection", kCalledByNames | kAskedAlone | kCalledByTable},
+    {Handed::kRecordset, "Recordset", kCalledByNames | kAskedAlone | kCalledByTable},
+    {Handed::kFields, "Fields", kCalledByNames | kAskedAlone | kCalledByTable},
+    {Handed::kField, "Field", kCalledByNames | kAskedAlone | kCalledByTable},
+    {Handed::kFieldsInTurn, "FieldsInTurn", kEnumeration},
 };
 
 }  // namespace
@@ -207,11 +207,10 @@ std::string NameOf(Handed what) {
   return {};
 }
 
-std::vector<Handed> AllOf(Manner manner) {
+std::vector<Handed> AllOf(unsigned manner) {
   std::vector<Handed> all;
   for (const NamedClass& known : kAll) {
-    const bool both = known.what == Handed::kAccessible && manner == Manner::kEnumeration;
-    if (manner == Manner::kAny || known.manner == manner || both) all.push_back(known.what);
+    if ((known.manners & manner) == manner) all.push_back(known.what);
   }
   return all;
 }

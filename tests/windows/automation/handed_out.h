@@ -63,8 +63,18 @@ class HandedOutWorld {
 
 std::string NameOf(Handed what);
 
-enum class Manner { kAny, kFactory, kEnumeration, kCalledByNames };
-/// The classes of that manner.
-std::vector<Handed> AllOf(Manner manner);
+/// What can be done with them; a class may know several.
+enum Manner : unsigned {
+  kAny = 0,
+  kFactory = 1,
+  kEnumeration = 2,
+  kCalledByNames = 4,
+  /// Its `member` is asked for without arguments.
+  kAskedAlone = 8,
+  /// Its functions are called by their places in a table, too, which a type library describes.
+  kCalledByTable = 16,
+};
+/// The classes that know all of that manner.
+std::vector<Handed> AllOf(unsigned manner);
 
 }  // namespace orvendal
