@@ -27,8 +27,8 @@ std::string BlockAfter(const std::string& document, const std::string& heading) 
 TEST(ScriptDocument, TeachesWithADayThatRuns) {
   const std::string document = Content("docs/guion.md");
   ASSERT_FALSE(document.empty());
-  EXPECT_EQ(BlockAfter(document, "## A working day"), Content("tests/guiones/90_jornada.guion"));
-  EXPECT_EQ(BlockAfter(document, "### What it shows"), Content("tests/guiones/90_jornada.salida"));
+  EXPECT_EQ(BlockAfter(document, "## A working day"), Content("tests/scripts/90_jornada.guion"));
+  EXPECT_EQ(BlockAfter(document, "### What it shows"), Content("tests/scripts/90_jornada.salida"));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "tests/guiones/qt_script_windows.h"
+#include "tests/scripts/qt_script_windows.h"
 
 #include <QApplication>
 #include <QKeyEvent>

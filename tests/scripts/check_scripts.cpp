@@ -1,4 +1,4 @@
-#include "tests/guiones/check_scripts.h"
+#include "tests/scripts/check_scripts.h"
 
 #include <algorithm>
 #include <fstream>
@@ -86,19 +86,19 @@ int Check(const std::string& script_file, const std::string& expected_file, cons
 
 int CheckScripts(std::vector<std::string> words, const MakeScriptWindows& make_windows) {
   Settings settings{false, false, "", make_windows};
-  if (!words.empty() && words[0] == "--escribir") {
+  if (!words.empty() && words[0] == "--write") {
     settings.write = true;
     words.erase(words.begin());
-  } else if (!words.empty() && words[0] == "--una-vez") {
+  } else if (!words.empty() && words[0] == "--once") {
     settings.once = true;
     words.erase(words.begin());
   }
-  if (words.size() > 1 && words[0] == "--con") {
+  if (words.size() > 1 && words[0] == "--with") {
     settings.more_options = words[1];
     words.erase(words.begin(), words.begin() + 2);
   }
   if (words.empty() || words.size() % 2 != 0) {
-    std::cerr << "use: guion_check [--escribir | --una-vez] [--con OPTIONS] FILE.guion FILE.salida ...\n";
+    std::cerr << "use: script_check [--write | --once] [--with OPTIONS] FILE.guion FILE.salida ...\n";
     return 2;
   }
   int worst = 0;

@@ -2,8 +2,8 @@
 
 #include <QApplication>
 
-#include "tests/guiones/check_scripts.h"
-#include "tests/guiones/qt_script_windows.h"
+#include "tests/scripts/check_scripts.h"
+#include "tests/scripts/qt_script_windows.h"
 
 int main(int argument_count, char** arguments) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
