@@ -77,4 +77,37 @@ void AutomationCall::Give(ComPtr<IUnknown> object) const {
   V_UNKNOWN(result_) = object.Detach();
 }
 
+Value AutomationCall::As(PropertyType type) const {
+  switch (type) {
+    case PropertyType::kText:
+      return Text(0);
+    case PropertyType::kWhole:
+      return static_cast<double>(Long(0));
+    case PropertyType::kFlag:
+      return Flag(0) ? 1 : 0;
+    case PropertyType::kColor:
+      return static_cast<double>(static_cast<ColorWord>(Long(0)));
+    case PropertyType::kNumber:
+    case PropertyType::kDate:
+      break;
+  }
+  return Number(0);
+}
+
+void AutomationCall::Give(const Value& value, PropertyType type) const {
+  switch (type) {
+    case PropertyType::kText:
+      return Give(value.Text());
+    case PropertyType::kWhole:
+      return GiveLong(static_cast<LONG>(value.Number()));
+    case PropertyType::kFlag:
+      return GiveFlag(value.Number() != 0);
+    case PropertyType::kColor:
+      return GiveLong(static_cast<LONG>(static_cast<ColorWord>(value.Number())));
+    case PropertyType::kNumber:
+    case PropertyType::kDate:  // which no property of a member is
+      return Give(value.Number());
+  }
+}
+
 }  // namespace orvendal

@@ -5,6 +5,7 @@
 #include "adapters/automation/com_headers.h"
 #include "adapters/automation/com_ptr.h"
 #include "adapters/automation/dispatch_rules.h"
+#include "platform/forms/named_property.h"
 
 namespace orvendal {
 
@@ -27,11 +28,15 @@ class AutomationCall {
   LONG Long(UINT place) const;
   bool Flag(UINT place) const;
   bool IsText(UINT place) const;
+  /// The first argument, as a property of that type is put.
+  Value As(PropertyType type) const;
 
   void Give(const std::string& text) const;
   void Give(double number) const;
   void GiveLong(LONG number) const;
   void GiveFlag(bool flag) const;
+  /// What was read of a property of that type.
+  void Give(const Value& value, PropertyType type) const;
   void Give(ComPtr<IDispatch> object) const;
   void Give(ComPtr<IUnknown> object) const;
 

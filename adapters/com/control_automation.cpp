@@ -64,40 +64,6 @@ const NamedProperty& PropertyOf(const Control& control, const FaceProperty& face
   return *found;
 }
 
-void GiveValue(const Call& call, const NamedProperty& property, Control& control) {
-  const Value value = property.get(control, {});
-  switch (property.type) {
-    case PropertyType::kText:
-      return call.Give(value.Text());
-    case PropertyType::kWhole:
-      return call.GiveLong(static_cast<LONG>(value.Number()));
-    case PropertyType::kFlag:
-      return call.GiveFlag(value.Number() != 0);
-    case PropertyType::kColor:
-      return call.GiveLong(static_cast<LONG>(static_cast<ColorWord>(value.Number())));
-    case PropertyType::kNumber:
-    case PropertyType::kDate:  // which none of the face's is
-      return call.Give(value.Number());
-  }
-}
-
-Value TakenValue(const Call& call, PropertyType type) {
-  switch (type) {
-    case PropertyType::kText:
-      return call.Text(0);
-    case PropertyType::kWhole:
-      return static_cast<double>(call.Long(0));
-    case PropertyType::kFlag:
-      return call.Flag(0) ? 1 : 0;
-    case PropertyType::kColor:
-      return static_cast<double>(static_cast<ColorWord>(call.Long(0)));
-    case PropertyType::kNumber:
-    case PropertyType::kDate:
-      break;
-  }
-  return call.Number(0);
-}
-
 /// The member of that DISPID, if it is one of the properties; they come before the other members.
 const FaceProperty* FacePropertyOf(DISPID member) {
   return member >= 1 && member <= kPropertyCount ? &kProperties[member - 1] : nullptr;
@@ -184,7 +150,8 @@ bool ControlAutomation::Get(DISPID member, const AutomationCall& call) {
   const FaceProperty* const property = FacePropertyOf(member);
   if (!property) return GetIn(kMembers, member - kPropertyCount, *this, call);
   call.Expect(0, 0);
-  GiveValue(call, PropertyOf(Living(), *property), Living());
+  const NamedProperty& of_kind = PropertyOf(Living(), *property);
+  call.Give(of_kind.get(Living(), {}), of_kind.type);
   return true;
 }
 
@@ -196,7 +163,7 @@ bool ControlAutomation::Put(DISPID member, const AutomationCall& call) {
   call.Expect(1, 1);
   const NamedProperty& of_kind = PropertyOf(Living(), *property);
   if (!of_kind.put) throw RuntimeError(error_number::kNoSuchMember);
-  of_kind.put(Living(), {}, TakenValue(call, of_kind.type));
+  of_kind.put(Living(), {}, call.As(of_kind.type));
   return true;
 }
 

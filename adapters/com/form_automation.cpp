@@ -4,12 +4,26 @@
 #include "adapters/com/control_automation.h"
 #include "adapters/com/controls_automation.h"
 #include "adapters/com/identity.h"
+#include "platform/base/text.h"
+#include "platform/forms/named_property.h"
 
 namespace orvendal {
 namespace {
 
 using Self = FormAutomation;
 using Call = AutomationCall;
+
+/// The properties of forms that the library may read, and write unless the form's own table has them read
+/// only.
+constexpr std::string_view kProperties[] = {"Name",      "Caption",     "Left",      "Top",
+                                            "Width",     "Height",      "Visible",   "WindowState",
+                                            "BackColor", "BorderStyle", "KeyPreview"};
+constexpr DISPID kPropertyCount = static_cast<DISPID>(std::size(kProperties));
+
+/// The property of that DISPID, if it is one; they come before the other members.
+const FormProperty* PropertyOf(DISPID member) {
+  return member >= 1 && member <= kPropertyCount ? FindFormProperty(kProperties[member - 1]) : nullptr;
+}
 
 /// Controls by name have their position in Controls above this.
 constexpr DISPID kFirstControl = 0x10000;
@@ -30,20 +44,6 @@ void Move(Self& self, const Call& call) {
   form.Move(call.Number(0), call.Has(1) ? call.Number(1) : form.Top());
   if (call.Has(2)) form.Width(call.Number(2));
   if (call.Has(3)) form.Height(call.Number(3));
-}
-
-void PutWindowState(Self& self, const Call& call) {
-  const LONG state = call.Long(0);
-  if (state < 0 || state > 2) throw RuntimeError(error_number::kInvalidPropertyValue);
-  Of(self).WindowState(static_cast<WindowState>(state));
-}
-
-void PutVisible(Self& self, const Call& call) {
-  if (call.Flag(0)) {
-    Of(self).Show();
-  } else {
-    Of(self).Hide();
-  }
 }
 
 HWND WindowOf(Self& self) {
@@ -77,28 +77,7 @@ void GetControls(Self& self, const Call& call) {
 }
 
 const AutomationMember<Self> kMembers[] = {
-    {L"Name", [](Self& self, const Call& call) { call.Give(Of(self).Name()); }, nullptr},
-    {L"Caption", [](Self& self, const Call& call) { call.Give(Of(self).Caption()); },
-     [](Self& self, const Call& call) { Of(self).Caption(call.Text(0)); }},
-    {L"Left", [](Self& self, const Call& call) { call.Give(Of(self).Left()); },
-     [](Self& self, const Call& call) { Of(self).Move(call.Number(0), Of(self).Top()); }},
-    {L"Top", [](Self& self, const Call& call) { call.Give(Of(self).Top()); },
-     [](Self& self, const Call& call) { Of(self).Move(Of(self).Left(), call.Number(0)); }},
-    {L"Width", [](Self& self, const Call& call) { call.Give(Of(self).Width()); },
-     [](Self& self, const Call& call) { Of(self).Width(call.Number(0)); }},
-    {L"Height", [](Self& self, const Call& call) { call.Give(Of(self).Height()); },
-     [](Self& self, const Call& call) { Of(self).Height(call.Number(0)); }},
-    {L"Visible", [](Self& self, const Call& call) { call.GiveFlag(Of(self).Visible()); }, PutVisible},
     {L"Enabled", GetEnabled, PutEnabled},
-    {L"WindowState",
-     [](Self& self, const Call& call) { call.GiveLong(static_cast<LONG>(Of(self).WindowState())); },
-     PutWindowState},
-    {L"BackColor",
-     [](Self& self, const Call& call) { call.GiveLong(static_cast<LONG>(Of(self).BackColor())); },
-     [](Self& self, const Call& call) { Of(self).BackColor(static_cast<ColorWord>(call.Long(0))); }},
-    {L"BorderStyle", [](Self& self, const Call& call) { call.GiveLong(Of(self).BorderStyle()); }, nullptr},
-    {L"KeyPreview", [](Self& self, const Call& call) { call.GiveFlag(Of(self).KeyPreview()); },
-     [](Self& self, const Call& call) { Of(self).KeyPreview(call.Flag(0)); }},
     {L"hWnd",
      [](Self& self, const Call& call) {
        // Handles of windows fit into 32 bits on 64-bit systems too.
@@ -141,9 +120,14 @@ bool FormAutomation::AnswersTo(REFIID iid) const noexcept {
 }
 
 DISPID FormAutomation::IdOf(const wchar_t* name) {
-  const DISPID own = IdIn(kMembers, name);
+  const std::string wanted = Utf8Text(name);
+  for (DISPID id = 1; id <= kPropertyCount; ++id) {
+    if (EqualsIgnoringCase(kProperties[id - 1], wanted)) return id;
+  }
+  const DISPID other = IdIn(kMembers, name);
+  if (other != DISPID_UNKNOWN) return other + kPropertyCount;
   const std::shared_ptr<Form> form = form_.lock();
-  if (own != DISPID_UNKNOWN || !form) return own;
+  if (!form) return DISPID_UNKNOWN;
   const std::vector<Control*>& controls = form->Controls();
   for (std::size_t position = 0; position < controls.size(); ++position) {
     if (SameName(WideText(controls[position]->Name()).c_str(), name)) {
@@ -171,13 +155,22 @@ bool FormAutomation::Get(DISPID member, const AutomationCall& call) {
     GiveControl(static_cast<std::size_t>(member - kFirstControl), call);
     return true;
   }
-  if (member == DISPID_VALUE) member = IdIn(kMembers, L"Controls");
-  return GetIn(kMembers, member, *this, call);
+  if (member == DISPID_VALUE) member = IdOf(L"Controls");
+  const FormProperty* const property = PropertyOf(member);
+  if (!property) return GetIn(kMembers, member - kPropertyCount, *this, call);
+  call.Expect(0, 0);
+  call.Give(property->get(Living()), property->type);
+  return true;
 }
 
 bool FormAutomation::Put(DISPID member, const AutomationCall& call) {
   const std::shared_ptr<Form> alive = form_.lock();
-  return PutIn(kMembers, member, *this, call);
+  const FormProperty* const property = PropertyOf(member);
+  if (!property) return PutIn(kMembers, member - kPropertyCount, *this, call);
+  if (!property->put) return false;
+  call.Expect(1, 1);
+  property->put(Living(), call.As(property->type));
+  return true;
 }
 
 }  // namespace orvendal

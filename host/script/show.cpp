@@ -54,26 +54,15 @@ Reference ParseReference(const std::string& text) {
   return reference;
 }
 
-using FormProperties = std::vector<std::pair<std::string_view, std::string>>;
+using FormVariables = std::vector<std::pair<std::string_view, std::string>>;
 
-FormProperties PropertiesOfForm(FrmOrvendalciales& form, const DatosComunes& session) {
+// What a form has beyond the properties of all forms: its variables, and those of the session.
+FormVariables VariablesOfForm(FrmOrvendalciales& form, const DatosComunes& session) {
   const FrmOrvendalciales::Variables& variables = form.variables;
   const Control* active = form.ActiveControl();
   const bool has_rows = variables.RsCodigos != nullptr;
   const bool is_open = has_rows && variables.RsCodigos->State() == kStateOpen;
   return {
-      {"name", form.Name()},
-      {"caption", form.Caption()},
-      {"left", ValueText(form.Left())},
-      {"top", ValueText(form.Top())},
-      {"width", ValueText(form.Width())},
-      {"height", ValueText(form.Height())},
-      {"windowstate", ValueText(static_cast<int>(form.WindowState()))},
-      {"visible", ValueText(form.Visible())},
-      {"keypreview", ValueText(form.KeyPreview())},
-      {"borderstyle", ValueText(form.BorderStyle())},
-      {"startupposition", ValueText(form.StartUpPosition())},
-      {"backcolor", ValueText(form.BackColor())},
       {"activecontrol", active == nullptr ? std::string() : active->FullName()},
       {"controls.count", ValueText(static_cast<int>(form.Controls().size()))},
       {"rscodigos", has_rows ? "Recordset" : "Nothing"},
@@ -110,8 +99,12 @@ Control& ControlNamed(const Form& form, const std::string& name) {
 std::string PropertyText(FrmOrvendalciales& form, const DatosComunes& session, const std::string& text) {
   const Reference reference = ParseReference(text);
   if (reference.object == kForm) {
-    for (const auto& [name, value] : PropertiesOfForm(form, session)) {
-      if (name == reference.property && reference.arguments.empty()) return value;
+    if (!reference.arguments.empty()) NoProperty(text);
+    if (const FormProperty* property = FindFormProperty(reference.property)) {
+      return ValueText(property->get(form), property->type);
+    }
+    for (const auto& [name, value] : VariablesOfForm(form, session)) {
+      if (name == reference.property) return value;
     }
     NoProperty(text);
   }

@@ -3,6 +3,7 @@
 #include <map>
 #include <type_traits>
 
+#include "platform/base/runtime_error.h"
 #include "platform/base/text.h"
 #include "platform/forms/barra.h"
 #include "platform/forms/boton.h"
@@ -294,6 +295,46 @@ const Table& OwnProperties(ControlKind kind) {
   return found == tables.end() ? none : found->second;
 }
 
+void PutWindowState(Form& form, const Value& value) {
+  const double state = value.Number();
+  if (state < 0 || state > static_cast<double>(WindowState::kMaximized)) {
+    throw RuntimeError(error_number::kInvalidPropertyValue);
+  }
+  form.WindowState(static_cast<WindowState>(state));
+}
+
+void PutVisible(Form& form, const Value& value) {
+  if (value.Number() != 0) {
+    form.Show();
+  } else {
+    form.Hide();
+  }
+}
+
+constexpr FormProperty kFormProperties[] = {
+    {"Name", PropertyType::kText, [](Form& form) { return ToValue(form.Name()); }, nullptr},
+    {"Caption", PropertyType::kText, [](Form& form) { return ToValue(form.Caption()); },
+     [](Form& form, const Value& value) { form.Caption(value.Text()); }},
+    {"Left", PropertyType::kNumber, [](Form& form) { return ToValue(form.Left()); },
+     [](Form& form, const Value& value) { form.Move(value.Number(), form.Top()); }},
+    {"Top", PropertyType::kNumber, [](Form& form) { return ToValue(form.Top()); },
+     [](Form& form, const Value& value) { form.Move(form.Left(), value.Number()); }},
+    {"Width", PropertyType::kNumber, [](Form& form) { return ToValue(form.Width()); },
+     [](Form& form, const Value& value) { form.Width(value.Number()); }},
+    {"Height", PropertyType::kNumber, [](Form& form) { return ToValue(form.Height()); },
+     [](Form& form, const Value& value) { form.Height(value.Number()); }},
+    {"Visible", PropertyType::kFlag, [](Form& form) { return ToValue(form.Visible()); }, PutVisible},
+    {"WindowState", PropertyType::kWhole, [](Form& form) { return ToValue(form.WindowState()); },
+     PutWindowState},
+    {"BackColor", PropertyType::kColor, [](Form& form) { return ToValue(form.BackColor()); },
+     [](Form& form, const Value& value) { form.BackColor(FromValue<ColorWord>(value)); }},
+    {"BorderStyle", PropertyType::kWhole, [](Form& form) { return ToValue(form.BorderStyle()); }, nullptr},
+    {"StartUpPosition", PropertyType::kWhole, [](Form& form) { return ToValue(form.StartUpPosition()); },
+     nullptr},
+    {"KeyPreview", PropertyType::kFlag, [](Form& form) { return ToValue(form.KeyPreview()); },
+     [](Form& form, const Value& value) { form.KeyPreview(value.Number() != 0); }},
+};
+
 const Table& CommonProperties() {
   static const Table table = OfEveryControl();
   return table;
@@ -306,6 +347,13 @@ const NamedProperty* FindProperty(ControlKind kind, std::string_view name, std::
     for (const NamedProperty& property : *table) {
       if (property.arguments == arguments && EqualsIgnoringCase(property.name, name)) return &property;
     }
+  }
+  return nullptr;
+}
+
+const FormProperty* FindFormProperty(std::string_view name) {
+  for (const FormProperty& property : kFormProperties) {
+    if (EqualsIgnoringCase(property.name, name)) return &property;
   }
   return nullptr;
 }

@@ -6,6 +6,7 @@
 
 #include "platform/base/value.h"
 #include "platform/forms/control.h"
+#include "platform/forms/form.h"
 
 namespace orvendal {
 
@@ -28,5 +29,16 @@ struct NamedProperty {
 
 /// The property of that name, in whatever case, with that many arguments; nullptr if the kind has none.
 const NamedProperty* FindProperty(ControlKind kind, std::string_view name, std::size_t arguments = 0);
+
+/// The same of a form. Visible shows and hides; WindowState raises 380 for a number that is no state.
+struct FormProperty {
+  std::string_view name;
+  PropertyType type;
+  Value (*get)(Form& form);
+  void (*put)(Form& form, const Value& value);  // nullptr: read only
+};
+
+/// nullptr if forms have none of that name.
+const FormProperty* FindFormProperty(std::string_view name);
 
 }  // namespace orvendal
