@@ -12,7 +12,8 @@ target_precompile_headers(orvendal_product_headers PRIVATE <algorithm> <array> <
 
 foreach(target IN ITEMS orvendal_base orvendal_data orvendal_forms orvendal_sqlite orvendal_headless orvendal_session
     orvendal_statements orvendal_screen orvendal_form orvendal_component orvendal_words orvendal_host_store
-    orvendal_context orvendal_stand_in orvendal_sample orvendal_host orvendal_scripted_library orvendal_script)
+    orvendal_host_text orvendal_stand_in orvendal_sample orvendal_command_line orvendal_ending orvendal_default_store
+    orvendal_scripted_library orvendal_script)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(${target} PRIVATE -fpch-preprocess)
   endif()

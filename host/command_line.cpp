@@ -5,8 +5,8 @@
 #include <charconv>
 
 #include "host/help_text.h"
-#include "host/printed_text.h"
 #include "host/store/default_store.h"
+#include "host/text/printed_text.h"
 
 namespace orvendal {
 namespace {

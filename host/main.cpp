@@ -4,13 +4,13 @@
 #include <iostream>
 
 #include "host/command_line.h"
-#include "host/explained_end.h"
+#include "host/ending/explained_end.h"
+#include "host/ending/start_error.h"
 #include "host/language.h"
 #include "host/program.h"
 #include "host/script/parser.h"
 #include "host/script/qt_pictures.h"
 #include "host/script/runner.h"
-#include "host/start_error.h"
 
 namespace {
 

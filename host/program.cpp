@@ -1,7 +1,9 @@
 #include "host/program.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <cstdlib>
+#include <ctime>
 #include <iostream>
 #include <optional>
 
@@ -12,18 +14,17 @@
 #include "adapters/qt/qt_window_host.h"
 #include "component/class_orvendal.h"
 #include "form/frm_orvendalciales.h"
-#include "host/chosen_store.h"
-#include "host/day_lines.h"
+#include "host/ending/explained_end.h"
+#include "host/ending/start_error.h"
 #include "host/error_words.h"
-#include "host/explained_end.h"
 #include "host/library/stand_in_library.h"
-#include "host/printed_text.h"
+#include "host/sample/chosen_store.h"
 #include "host/sample/session.h"
-#include "host/start_error.h"
+#include "host/script/day_lines.h"
 #include "host/store/default_store.h"
 #include "host/store/host_store.h"
 #include "host/store/private_file.h"
-#include "host/system_clock.h"
+#include "host/text/printed_text.h"
 
 namespace orvendal {
 namespace {
@@ -31,7 +32,20 @@ namespace {
 constexpr int kTwipsToPixel = 15;
 constexpr int kButtonsMask = 0xF;
 
-// A real box, in front of the screen.
+// The machine's clock, in its local time.
+class MachineClock final : public Clock {
+ public:
+  Date Now() override {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    // A leap second counts as the second before it.
+    return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
+            local.tm_hour,        local.tm_min,     std::min(local.tm_sec, 59)};
+  }
+};
+
+// A message box in front of the screen.
 class BoxMessages final : public MessagePresenter {
  public:
   explicit BoxMessages(QtWindowHost& host) : host_(host) {}
@@ -74,20 +88,9 @@ class Program {
         words_(words),
         host_(*options.region, clock_, HostOptions()),
         boxes_(host_),
-        context_{host_,
-                 options.picture.empty() ? static_cast<MessagePresenter&>(boxes_) : written_,
-                 words,
-                 recordsets_,
-                 nullptr,
-                 nullptr,
-                 "",
-                 options.sucursal,
-                 options.puesto,
-                 options.turno,
-                 options.base_width,
-                 options.base_height,
-                 0.0,
-                 MakeDictionaries(options.language)},
+        context_(ContextFor(options, host_,
+                            options.picture.empty() ? static_cast<MessagePresenter&>(boxes_) : written_,
+                            recordsets_)),
         library_(context_),
         state_({host_, recordsets_, library_}) {}
 
@@ -95,24 +98,18 @@ class Program {
   void OpenStore(const ChosenStore& chosen) {
     // The default store and its folder belong to the program and this user; any other folder has to be there.
     if (!options_.store) MakePrivateFile(chosen.path);
-    const StoreSettings settings{chosen.path, options_.dialect, *options_.region, words_};
-    const OpenedStore opened = OpenChosenStore(chosen, settings, clock_.Today());
+    const OpenedStore opened = OpenStoreOf(context_, chosen, options_, clock_.Today());
+    context_.store_name = chosen.path;
     std::cerr << StoreNotice(opened, chosen.path, words_);
     // Whoever does not read that has it in the titles of the windows.
     if (opened.sample) QApplication::setApplicationDisplayName(TextOf(words_.sample_title));
-    context_.store_name = chosen.path;
-    context_.connection = opened.connection;
-    // A store in memory is gone with its connection, so that there is nothing to open anew.
-    context_.reopen_store = [this, settings]() -> ConnectionRef {
-      return settings.path == kStoreInMemory ? context_.connection : OpenExistingStore(settings);
-    };
   }
 
   /// Raises what the component's call raises.
   void CallComponent() {
     ClassOrvendal component(state_);
-    component.Orvendal(std::make_shared<SampleSession>(context_), options_.sucursal, options_.puesto,
-                       options_.turno);
+    component.Orvendal(std::make_shared<SampleSession>(context_, MakeDictionaries(options_.language)),
+                       options_.sucursal, options_.puesto, options_.turno);
   }
 
   const std::string& StoreName() const { return context_.store_name; }
@@ -161,7 +158,7 @@ class Program {
 
   const Options& options_;
   const Words& words_;
-  SystemClock clock_;
+  MachineClock clock_;
   SqliteRecordsetFactory recordsets_;
   QtWindowHost host_;
   BoxMessages boxes_;

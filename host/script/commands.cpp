@@ -4,10 +4,11 @@
 #include <charconv>
 #include <map>
 
-#include "host/printed_text.h"
+#include "host/script/day_lines.h"
 #include "host/script/parser.h"
 #include "host/script/picture_place.h"
 #include "host/script/show.h"
+#include "host/text/printed_text.h"
 
 namespace orvendal {
 namespace {
@@ -274,9 +275,9 @@ void ScriptCommands::Fail(const Words& words) {
 void ScriptCommands::Show(const Words& words) {
   const std::string& what = words[0];
   if (what == "lineas") {
-    PrintLines("MSFProductos");
+    output_ << LinesOf(*Screen(), "MSFProductos");
   } else if (what == "foto") {
-    PrintLines("MSFProductos1");
+    output_ << LinesOf(*Screen(), "MSFProductos1");
   } else if (what == "foco") {
     const Control* focused = Screen()->ActiveControl();
     Print(focused == nullptr ? "ninguno" : focused->FullName());
@@ -327,17 +328,6 @@ std::shared_ptr<FrmOrvendalciales> ScriptCommands::Screen() const {
 
 void ScriptCommands::PrintError(const RuntimeError& error) {
   Print("error " + std::to_string(error.Number()) + ": " + PrintedText(error.Description()));
-}
-
-void ScriptCommands::PrintLines(const std::string& grid) {
-  const auto& lines = dynamic_cast<const MSFlexGrid&>(ControlNamed(*Screen(), grid));
-  for (int row = 1; row < lines.Rows() && !lines.TextMatrix(row, 0).empty(); ++row) {
-    std::string line = std::to_string(row);
-    for (int column = 0; column < lines.Cols(); ++column) {
-      line += "\t" + PrintedText(lines.TextMatrix(row, column));
-    }
-    Print(line);
-  }
 }
 
 void ScriptCommands::PrintMessages() {

@@ -64,7 +64,6 @@ class ScriptCommands {
   void CheckNoScreen(const char* command) const;
   void Print(const std::string& line) { output_ << line << '\n'; }
   void PrintError(const RuntimeError& error);
-  void PrintLines(const std::string& grid);
   void PrintMessages();
   void PrintStatements();
 

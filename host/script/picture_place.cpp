@@ -4,7 +4,7 @@
 #include <system_error>
 
 #include "host/script/script_folder.h"
-#include "host/utf8_path.h"
+#include "host/text/utf8_path.h"
 
 namespace orvendal {
 namespace {

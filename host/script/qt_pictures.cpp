@@ -8,8 +8,8 @@
 #include "adapters/headless/headless_host.h"
 #include "adapters/qt/qt_picture.h"
 #include "adapters/qt/qt_text_measures.h"
-#include "host/printed_text.h"
 #include "host/script/parser.h"
+#include "host/text/printed_text.h"
 
 namespace orvendal {
 namespace {

@@ -5,9 +5,9 @@
 #include <fstream>
 #include <new>
 
-#include "host/printed_text.h"
 #include "host/script/included_script.h"
 #include "host/script/parser.h"
+#include "host/text/printed_text.h"
 
 namespace orvendal {
 namespace {

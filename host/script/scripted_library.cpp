@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "host/printed_text.h"
+#include "host/text/printed_text.h"
 #include "platform/base/region.h"
 #include "platform/forms/form.h"
 

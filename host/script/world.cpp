@@ -1,8 +1,6 @@
 #include "host/script/world.h"
 
 #include "adapters/headless/robot.h"
-#include "host/chosen_store.h"
-#include "host/sample/session.h"
 #include "host/script/parser.h"
 #include "platform/base/text.h"
 
@@ -51,20 +49,9 @@ ScriptWorld::ScriptWorld(const Options& options, const MakeScriptWindows& make_w
     : windows(make_windows(*options.region, clock)),
       options_(options),
       messages_(std::make_unique<Messages>(*this)),
-      context_{windows->Host(),
-               *messages_,
-               WordsOf(options.language),
-               library_recordsets_,
-               nullptr,
-               nullptr,
-               options.store.value_or(kStoreInMemory),
-               options.sucursal,
-               options.puesto,
-               options.turno,
-               options.base_width,
-               options.base_height,
-               0.0,
-               MakeDictionaries(options.language)} {
+      context_(ContextFor(options, windows->Host(), *messages_, library_recordsets_)),
+      dictionaries_(MakeDictionaries(options.language)) {
+  context_.store_name = options.store.value_or(kStoreInMemory);
   if (options.display) windows->SetScreen(options.display->width, options.display->height);
   library_.OpenOwnDialogs([this](const std::string& operation) { AnswerDialog(operation); });
 }
@@ -74,12 +61,7 @@ ScriptWorld::~ScriptWorld() = default;
 SqliteConnection& ScriptWorld::Store() {
   if (!context_.connection) {
     const ChosenStore chosen = ChooseStore(options_, kStoreInMemory, context_.words);
-    const StoreSettings settings{chosen.path, options_.dialect, *options_.region, context_.words};
-    context_.connection = OpenChosenStore(chosen, settings, clock.Today()).connection;
-    // A store in memory is gone with its connection.
-    context_.reopen_store = [this, settings]() -> ConnectionRef {
-      return settings.path == kStoreInMemory ? context_.connection : OpenExistingStore(settings);
-    };
+    OpenStoreOf(context_, chosen, options_, clock.Today());
   }
   return EmbeddedStore(context_.connection);
 }
@@ -90,7 +72,8 @@ bool ScriptWorld::Call(const std::string& sucursal, const std::string& puesto, c
   context_.puesto = puesto;
   context_.turno = turno;
   ClassOrvendal component(state_);
-  return component.Orvendal(std::make_shared<SampleSession>(context_), sucursal, puesto, turno);
+  return component.Orvendal(std::make_shared<SampleSession>(context_, dictionaries_), sucursal, puesto,
+                            turno);
 }
 
 std::shared_ptr<FrmOrvendalciales> ScriptWorld::Screen() const {

@@ -9,9 +9,8 @@
 #include "adapters/headless/headless_host.h"
 #include "component/class_orvendal.h"
 #include "form/frm_orvendalciales.h"
-#include "host/command_line.h"
-#include "host/host_context.h"
 #include "host/library/stand_in_library.h"
+#include "host/sample/session.h"
 #include "host/script/observed_recordsets.h"
 #include "host/script/script_windows.h"
 #include "host/script/scripted_library.h"
@@ -70,6 +69,7 @@ class ScriptWorld {
   // Faults are for the screen's statements, not for the library's own.
   SqliteRecordsetFactory library_recordsets_;
   HostContext context_;
+  const Dictionaries dictionaries_;
   StandInLibrary stand_in_{context_};
   ScriptedLibrary library_{stand_in_, windows->Host()};
   ComponentState state_{Environment{windows->Host(), recordsets, library_}};

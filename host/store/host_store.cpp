@@ -4,7 +4,7 @@
 
 #include "host/error_words.h"
 #include "host/store/store_fit.h"
-#include "host/utf8_path.h"
+#include "host/text/utf8_path.h"
 #include "platform/data/ado_error.h"
 
 namespace orvendal {

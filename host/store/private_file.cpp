@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "host/utf8_path.h"
+#include "host/text/utf8_path.h"
 
 namespace orvendal {
 namespace {

@@ -46,20 +46,7 @@ class HostTest : public testing::Test {
   explicit HostTest(const Region& region, Dialect dialect = Dialect::kSqlServer)
       : host(region, clock),
         store(SqliteConnection::Open(":memory:", dialect, region, OpenMode::kCreate)),
-        context{host,
-                messages,
-                SpanishWords(),
-                recordsets,
-                store,
-                nullptr,
-                "tienda.db",
-                "0123",
-                "7",
-                "2",
-                15360,
-                11520,
-                0.0,
-                MakeDictionaries(Language::kSpanish)} {
+        context{host, messages, SpanishWords(), recordsets, store, {}, "tienda.db", "0123", "7", "2"} {
     CreateSchema(*store);
     store->Execute(R"(
       INSERT INTO Sucursales VALUES ('01', 'Centro'), ('02', 'Mercado'), ('03', 'Estación');

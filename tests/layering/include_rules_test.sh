@@ -7,7 +7,7 @@ trap 'rm -rf "$house"' EXIT
 mkdir -p "$house/scripts"
 cp "$check_rooms" "$house/scripts/"
 for room in adapters/{ado,com,headless,qt,sqlite,win32} bench component count form host lines \
-  host/{library,sample,script,store} platform/{base,data,forms,library} screen session store tests/support; do
+  host/{ending,library,sample,script,store,text} platform/{base,data,forms,library} screen session store tests/support; do
   mkdir -p "$house/$room"
 done
 
@@ -63,6 +63,12 @@ allowed host/script/a.cpp "$(includes host/library/stand_in_library.h)"
 refused host/store/a.cpp "$(includes host/library/journal.h)"
 refused host/store/a.cpp "$(includes host/host_context.h)"
 refused host/words.h "$(includes host/script/world.h)"
+refused host/text/a.cpp "$(includes host/words.h)"
+refused host/ending/a.cpp "$(includes host/script/world.h)"
+refused host/library/a.cpp "$(includes host/options.h)"
+refused host/script/a.cpp "$(includes host/command_line.h)"
+refused host/command_line.cpp "$(includes host/sample/chosen_store.h)"
+allowed host/sample/a.cpp "$(includes host/options.h)"
 refused host/host_context.h "$(includes host/library/journal.h)"
 refused host/script/a.cpp "$(includes host/windows/store/open_store.h)"
 refused host/library/a.cpp "$(includes host/sample/chain.h)"

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <sstream>
 
+#include "host/command_line.h"
 #include "host/script/runner.h"
 
 namespace orvendal {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "host/dictionaries.h"
+#include "host/sample/dictionaries.h"
 #include "tests/support/form_driver.h"
 
 namespace orvendal {

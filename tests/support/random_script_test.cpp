@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <sstream>
 
+#include "host/command_line.h"
 #include "host/sample/made_store.h"
 #include "host/script/runner.h"
 #include "tests/support/temporary_folder.h"

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "form/columns.h"
-#include "host/printed_text.h"
+#include "host/text/printed_text.h"
 #include "tests/support/event_log.h"
 #include "tests/support/form_driver.h"
 

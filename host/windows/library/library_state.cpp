@@ -17,7 +17,7 @@
 #include "host/store/default_store.h"
 #include "host/store/host_store.h"
 #include "host/store/private_file.h"
-#include "host/utf8_path.h"
+#include "host/text/utf8_path.h"
 
 namespace orvendal {
 namespace {
@@ -65,11 +65,7 @@ LibraryState::LibraryState()
     : windows_(NamedHost()),
       messages_(std::make_unique<BoxMessages>(windows_)),
       language_(LanguageOfUser()),
-      context_{windows_,    *messages_, WordsOf(language_),
-               recordsets_, nullptr,    nullptr,
-               "",          "",         "1",
-               "1",         15360,      11520,
-               0.0,         {}} {}
+      context_{windows_, *messages_, WordsOf(language_), recordsets_} {}
 
 LibraryState::~LibraryState() = default;
 

@@ -5,6 +5,7 @@
 #include "adapters/ado/ado_wrappers.h"
 #include "adapters/automation/in_out.h"
 #include "adapters/automation/variant.h"
+#include "host/sample/session.h"
 #include "host/windows/library/library_state.h"
 #include "host/windows/library/message_loop.h"
 

@@ -9,8 +9,8 @@
 #include "adapters/automation/error_boundary.h"
 #include "adapters/automation/type_information.h"
 #include "adapters/win32/windows_api.h"
-#include "host/chosen_store.h"
-#include "host/explained_end.h"
+#include "host/ending/explained_end.h"
+#include "host/sample/chosen_store.h"
 #include "host/store/default_store.h"
 #include "platform/data/ado_error.h"
 

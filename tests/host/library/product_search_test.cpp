@@ -49,7 +49,7 @@ class ProductSearch : public HostTest {
   static void Cancel(Form& form) { Robot(form).Key(key::kEscape); }
   static void Accept(Form& form) { Robot(form).Key(key::kReturn); }
 
-  DatosClaseRef session = std::make_shared<SampleSession>(context);
+  DatosClaseRef session = std::make_shared<SampleSession>(context, MakeDictionaries(Language::kSpanish));
   MSFlexGrid* grid = nullptr;
   TextBox* box = nullptr;
   const Rgb host_color = host.Resolve(system_color::kHighlight);
@@ -389,8 +389,7 @@ TEST_F(ProductSearch, FitsAndStandsInTheMiddleOfAnyScreen) {
 }
 
 TEST_F(ProductSearch, SpeaksTheLanguageChosen) {
-  HostContext english{host, messages, EnglishWords(), recordsets, store, nullptr, "", "01", "1", "1", 0, 0,
-                      0.0,  {}};
+  HostContext english{host, messages, EnglishWords(), recordsets, store, {}, "", "01"};
   StandInLibrary speaking(english);
   std::string title;
   host.QueueDialog([&title](Form& form) {

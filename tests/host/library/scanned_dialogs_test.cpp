@@ -16,7 +16,7 @@ class ScannedDialogs : public HostTest {
   std::string Search(const std::string& field, const std::string& text, std::function<void(Form&)> hands) {
     host.QueueDialog(std::move(hands));
     ObjectRef screen;
-    DatosClaseRef session = std::make_shared<SampleSession>(context);
+    DatosClaseRef session = std::make_shared<SampleSession>(context, MakeDictionaries(Language::kSpanish));
     bool flag = false;
     return library.NewBuscadorProductos()->Buscar(session, screen, "Orvendalcial", field, text, "Modal",
                                                   flag);

@@ -302,7 +302,7 @@ TEST_F(HostTest, TheSessionObjectFillsTheSession) {
   RecordsetRef screens;
   std::string session_text;
   std::string branch = "05";
-  SampleSession session(context);
+  SampleSession session(context, MakeDictionaries(Language::kSpanish));
   session.RellenarSesion({connection, objects[0], objects[1], objects[2], objects[3], objects[4], objects[5],
                           width, height, screen_value, general, actions, screens, session_text, branch});
   EXPECT_EQ(connection, store);

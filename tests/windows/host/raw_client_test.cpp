@@ -2,7 +2,7 @@
 
 #include "adapters/ado/ado_recordset_factory.h"
 #include "adapters/ado/ado_wrappers.h"
-#include "host/dictionaries.h"
+#include "host/sample/dictionaries.h"
 #include "tests/windows/host/hands.h"
 #include "tests/windows/host/library_fixture.h"
 

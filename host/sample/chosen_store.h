@@ -3,7 +3,7 @@
 #include <memory>
 #include <string>
 
-#include "host/command_line.h"
+#include "host/options.h"
 #include "host/store/host_store.h"
 
 namespace orvendal {

@@ -1,11 +1,11 @@
-#include "host/chosen_store.h"
+#include "host/sample/chosen_store.h"
 
 #include <filesystem>
 
-#include "host/printed_text.h"
 #include "host/sample/made_store.h"
 #include "host/store/sample_mark.h"
-#include "host/utf8_path.h"
+#include "host/text/printed_text.h"
+#include "host/text/utf8_path.h"
 
 namespace orvendal {
 namespace {

@@ -1,6 +1,6 @@
 // What a value can do to the terminal or the line that it is printed in: nothing.
 
-#include "host/printed_text.h"
+#include "host/text/printed_text.h"
 
 #include <gtest/gtest.h>
 

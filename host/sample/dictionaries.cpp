@@ -1,4 +1,4 @@
-#include "host/dictionaries.h"
+#include "host/sample/dictionaries.h"
 
 #include <memory>
 #include <span>

@@ -1,4 +1,4 @@
-#include "host/printed_text.h"
+#include "host/text/printed_text.h"
 
 #include <cstdio>
 

@@ -1,4 +1,4 @@
-#include "host/start_error.h"
+#include "host/ending/start_error.h"
 
 #include <unistd.h>
 
@@ -11,8 +11,7 @@
 
 #include "adapters/qt/qt_icon.h"
 #include "adapters/qt/qt_start.h"
-#include "host/command_line.h"
-#include "host/printed_text.h"
+#include "host/text/printed_text.h"
 
 namespace orvendal {
 namespace {

@@ -1,6 +1,6 @@
 // Which store is opened, which may be made, and what its user is told.
 
-#include "host/chosen_store.h"
+#include "host/sample/chosen_store.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/explained_end.h"
+#include "host/ending/explained_end.h"
 
 #include <new>
 

@@ -1,6 +1,6 @@
-#include "host/day_lines.h"
+#include "host/script/day_lines.h"
 
-#include "host/printed_text.h"
+#include "host/text/printed_text.h"
 #include "platform/forms/ms_flex_grid.h"
 
 namespace orvendal {
