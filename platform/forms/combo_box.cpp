@@ -19,11 +19,7 @@ ComboBox::ComboBox(Form& form, Control* container, std::string_view name, int in
 }
 
 ControlProperties ComboBox::DefaultProperties() const {
-  ControlProperties properties;
-  properties.back_color = system_color::kWindowBackground;
-  properties.fore_color = system_color::kWindowText;
-  properties.border_style = 1;
-  return properties;
+  return PropertiesOfBox();
 }
 
 void ComboBox::RestoreDefaults() {

@@ -23,6 +23,14 @@ constexpr double kInkMargin = 2 * kTwipsPerPixel;
 
 }  // namespace
 
+ControlProperties PropertiesOfBox() {
+  ControlProperties properties;
+  properties.back_color = system_color::kWindowBackground;
+  properties.fore_color = system_color::kWindowText;
+  properties.border_style = 1;
+  return properties;
+}
+
 double BorderInset(int border_style, Appearance appearance) {
   if (border_style == 0) return 0;
   return appearance == Appearance::kFlat ? kTwipsPerPixel : 2 * kTwipsPerPixel;

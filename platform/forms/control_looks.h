@@ -17,6 +17,10 @@ namespace orvendal {
 enum class Relief { kRaised, kPushed };
 enum class ArrowDirection { kLeft, kRight, kUp, kDown };
 
+/// The properties that a box has at first which shows texts to choose or to change: the colours of a window,
+/// and a border.
+ControlProperties PropertiesOfBox();
+
 /// Width of the border that PaintBorder draws: nothing without a border, one pixel flat, two otherwise.
 double BorderInset(int border_style, Appearance appearance);
 /// A black frame of one pixel (flat), or the sunken edge of two.

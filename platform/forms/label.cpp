@@ -12,13 +12,6 @@ Label::Label(Form& form, Control* container, std::string_view name, int index)
   InitializeDefaults();
 }
 
-ControlProperties Label::DefaultProperties() const {
-  ControlProperties properties;
-  properties.back_color = system_color::kButtonFace;
-  properties.fore_color = system_color::kButtonText;
-  return properties;
-}
-
 void Label::RestoreDefaults() {
   Control::RestoreDefaults();
   caption_.clear();

@@ -34,7 +34,6 @@ class Label final : public Control {
   void Paint(Canvas& canvas) override;
 
  protected:
-  ControlProperties DefaultProperties() const override;
   void FontChanged() override;
 
  private:

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "platform/base/runtime_error.h"
+#include "platform/forms/control_looks.h"
 #include "platform/forms/form.h"
 
 namespace orvendal {
@@ -25,11 +26,7 @@ MSFlexGrid::MSFlexGrid(Form& form, Control* container, std::string_view name, in
 }
 
 ControlProperties MSFlexGrid::DefaultProperties() const {
-  ControlProperties properties;
-  properties.back_color = system_color::kWindowBackground;
-  properties.fore_color = system_color::kWindowText;
-  properties.border_style = 1;
-  return properties;
+  return PropertiesOfBox();
 }
 
 void MSFlexGrid::RestoreDefaults() {

@@ -11,8 +11,6 @@ PictureBox::PictureBox(Form& form, Control* container, std::string_view name, in
 
 ControlProperties PictureBox::DefaultProperties() const {
   ControlProperties properties;
-  properties.back_color = system_color::kButtonFace;
-  properties.fore_color = system_color::kButtonText;
   properties.border_style = 1;
   return properties;
 }

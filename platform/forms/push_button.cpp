@@ -4,13 +4,6 @@
 
 namespace orvendal {
 
-ControlProperties PushButton::DefaultProperties() const {
-  ControlProperties properties;
-  properties.back_color = system_color::kButtonFace;
-  properties.fore_color = system_color::kButtonText;
-  return properties;
-}
-
 void PushButton::RestoreDefaults() {
   Control::RestoreDefaults();
   caption_.clear();
@@ -29,7 +22,7 @@ void PushButton::Look(bool pushed) {
   Invalidate();
 }
 
-// All hands off, with no click.
+// Ends a press of mouse or key without a click.
 void PushButton::LetGo() {
   mouse_is_down_ = blank_is_down_ = false;
   Look(false);

@@ -27,7 +27,6 @@ class PushButton : public Control {
 
  protected:
   using Control::Control;
-  ControlProperties DefaultProperties() const override;
 
   void Caption(const std::string& caption);
   bool LooksPushed() const { return looks_pushed_; }

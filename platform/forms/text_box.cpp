@@ -24,11 +24,7 @@ TextBox::TextBox(Form& form, Control* container, std::string_view name, int inde
 }
 
 ControlProperties TextBox::DefaultProperties() const {
-  ControlProperties properties;
-  properties.back_color = system_color::kWindowBackground;
-  properties.fore_color = system_color::kWindowText;
-  properties.border_style = 1;
-  return properties;
+  return PropertiesOfBox();
 }
 
 void TextBox::RestoreDefaults() {
