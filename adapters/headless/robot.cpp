@@ -14,6 +14,8 @@ namespace {
 constexpr int kPause = 500;
 constexpr int kBetweenKeys = 10;
 
+constexpr double kInsideBorder = 4 * kTwipsPerPixel;
+
 // Punctuation has key codes of its own: the characters' numbers are those of arrows and other keys.
 int KeyCodeOf(char32_t character) {
   constexpr int kComma = 188;
@@ -109,15 +111,18 @@ Point Robot::CellPosition(MSFlexGrid& grid, int row, int column) const {
   if (grid.ColWidth(column) == 0) {
     throw std::invalid_argument("column " + std::to_string(column) + " of " + grid.FullName() + " is hidden");
   }
-  // A row out of view is scrolled to, as a hand does with the wheel; one that shows in part is not.
+  // What takes no input does not scroll either; its middle is out of reach for the same reason as the cell.
+  if (!grid.IsOperable()) return MiddleOf(grid);
+  // A row out of view is scrolled to with the wheel, over the titles; one that shows in part is not.
+  const Rect bounds = grid.Bounds();
+  const Point titles{bounds.left + kInsideBorder, bounds.top + kInsideBorder};
   for (int turn = 0; turn <= grid.Rows() && grid.CellRectangle(row, column).IsEmpty(); ++turn) {
     const int top = grid.TopRow();
-    grid.MouseWheel({row < top ? -1 : 1, 0});
+    form_.MouseWheel(titles, row < top ? -1 : 1);
     if (grid.TopRow() == top) break;
   }
   const Rect cell = grid.CellRectangle(row, column);
   if (cell.IsEmpty()) throw std::invalid_argument("that cell of " + grid.FullName() + " is out of view");
-  const Rect bounds = grid.Bounds();
   return {bounds.left + cell.left + cell.width / 2, bounds.top + cell.top + cell.height / 2};
 }
 
