@@ -9,19 +9,10 @@ namespace {
 
 class BotonTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    stage.Show();
-    button.OnClick = [this] { ++clicks; };
-  }
-  Rgb Face() {
-    RecordingCanvas canvas;
-    button.Paint(canvas);
-    return Find(canvas, "rounded").color;
-  }
+  void SetUp() override { stage.Show(); }
 
   Stage stage;
   Boton& button = stage.Add<Boton>("BtnAnulo", {300, 300, 2775, 495});
-  int clicks = 0;
 };
 
 TEST_F(BotonTest, TakesCaptionFontAndBorderFromItsStoredProperties) {
@@ -46,27 +37,6 @@ TEST_F(BotonTest, AListWithoutThemLeavesTheDefaults) {
   EXPECT_EQ(button.Caption(), "");
   EXPECT_EQ(button.Font().Size(), 8.25);
   EXPECT_EQ(Find(stage.Painted(), "rounded").area, (Rect{307.5, 307.5, 2760, 480}));
-}
-
-TEST_F(BotonTest, ClicksByMouseEnterAndBlank) {
-  stage.Click(button);
-  EXPECT_EQ(clicks, 1);
-  stage.Key(key::kReturn);
-  EXPECT_EQ(clicks, 2);
-  stage.form->KeyPress(key::kSpace, 0);
-  EXPECT_EQ(clicks, 2);
-  stage.form->KeyRelease(key::kSpace, 0);
-  EXPECT_EQ(clicks, 3);
-}
-
-TEST_F(BotonTest, LooksPushedWhileThePointerHoldsIt) {
-  const Rgb face = Face();
-  stage.Press(button, {100, 100});
-  EXPECT_NE(Face(), face);
-  stage.Drag(button, {9000, 100});
-  EXPECT_EQ(Face(), face);
-  stage.Release(button, {9000, 100});
-  EXPECT_EQ(clicks, 0);
 }
 
 }  // namespace

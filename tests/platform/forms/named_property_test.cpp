@@ -113,5 +113,32 @@ TEST_F(NamedPropertyTest, WhatTheMemberRaisesComesOut) {
   EXPECT_EQ(ErrorOf([&] { Put(box, "Text", 5); }), 13) << "a number is no text";
 }
 
+TEST_F(NamedPropertyTest, AFormIsReadAndWrittenByTheSameNamesInWhateverCase) {
+  const auto put = [this](std::string_view name, const Value& value) {
+    FindFormProperty(name)->put(*stage.form, value);
+  };
+  put("caption", "Recuento");
+  EXPECT_EQ(stage.form->Caption(), "Recuento");
+  put("LEFT", 300);
+  put("Top", 450);
+  EXPECT_EQ(stage.form->Left(), 300);
+  EXPECT_EQ(stage.form->Top(), 450);
+  EXPECT_EQ(FindFormProperty("top")->get(*stage.form), Value(450));
+  put("Visible", 0);
+  EXPECT_FALSE(stage.form->Visible());
+  EXPECT_EQ(FindFormProperty("Visible")->type, PropertyType::kFlag);
+  EXPECT_FALSE(FindFormProperty("Name")->put);
+  EXPECT_EQ(FindFormProperty("Text"), nullptr);
+}
+
+TEST_F(NamedPropertyTest, AStateThatAWindowDoesNotHaveIsRefused) {
+  const auto put = [this](int state) { FindFormProperty("WindowState")->put(*stage.form, state); };
+  put(1);
+  EXPECT_EQ(stage.form->WindowState(), WindowState::kMinimized);
+  EXPECT_EQ(ErrorOf([&] { put(3); }), 380);
+  EXPECT_EQ(ErrorOf([&] { put(-1); }), 380);
+  EXPECT_EQ(stage.form->WindowState(), WindowState::kMinimized);
+}
+
 }  // namespace
 }  // namespace orvendal::testing
