@@ -2,6 +2,7 @@
 
 #include "tests/support/error_of.h"
 #include "tests/support/form_driver.h"
+#include "tests/support/fresh_variables.h"
 #include "tests/support/title_bar.h"
 
 namespace orvendal {
@@ -13,19 +14,7 @@ using testing_support::ErrorOf;
 class FormLifetimeTest : public testing::Test {
  protected:
   void ExpectFreshForm() {
-    const FrmOrvendalciales::Variables& now = screen.form().variables;
-    EXPECT_EQ(now.RsCodigos, nullptr);
-    EXPECT_FALSE(now.PrimeraActivacion);
-    EXPECT_FALSE(now.ModoNuevo);
-    EXPECT_FALSE(now.PintandoFila);
-    EXPECT_FALSE(now.MoviendoColumna);
-    EXPECT_EQ(now.CodigoCelda, "");
-    EXPECT_EQ(now.CantidadCelda, "");
-    EXPECT_EQ(now.BufferTeclas, "");
-    EXPECT_FALSE(now.CambiarEstilista);
-    EXPECT_FALSE(now.FlagSupervisor);
-    EXPECT_FALSE(now.FlagFechaCambio);
-    EXPECT_EQ(now.UltimaColumna, 3);
+    testing_support::ExpectFreshVariables(screen.form().variables, false);
     EXPECT_EQ(screen.form().TxtEmpleado.Text(), "");
     EXPECT_EQ(screen.form().TxtCodigo.Text(), "");
     EXPECT_TRUE(screen.form().TxtEmpleado.Enabled());

@@ -26,7 +26,7 @@ TEST_P(LoadDayTest, ADayWithNoRowsShowsTwelveBlankLines) {
   for (int row = 1; row <= 12; ++row) EXPECT_EQ(screen.Line(row), Texts(9, "")) << row;
   EXPECT_EQ(grid().Row(), 1);
   EXPECT_EQ(snapshot().Rows(), 1);
-  EXPECT_EQ(snapshot().TextMatrix(0, 0), "Código");
+  EXPECT_EQ(snapshot().TextMatrix(0, column::kCode), "Código");
   EXPECT_FALSE(screen.form().HayCambios());
 }
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/error_of.h"
 #include "tests/support/event_log.h"
 #include "tests/support/form_driver.h"
@@ -70,9 +71,9 @@ TEST_F(CaptionsTest, EachStandsInItsPlaceWithItsBlanks) {
   EXPECT_EQ(form.LblSupervisor.Caption(), "Chief");
   EXPECT_EQ(form.LblEntrada.Caption(), "  Opening stock  ");
   EXPECT_EQ(form.LblFecha.Caption(), "  Date");
-  EXPECT_EQ(form.MSFProductos.TextMatrix(0, 0), "Code");
-  EXPECT_EQ(form.MSFProductos.TextMatrix(0, 1), "Name");
-  EXPECT_EQ(form.MSFProductos.TextMatrix(0, 5), "Stylist");
+  EXPECT_EQ(form.MSFProductos.TextMatrix(0, column::kCode), "Code");
+  EXPECT_EQ(form.MSFProductos.TextMatrix(0, column::kDescription), "Name");
+  EXPECT_EQ(form.MSFProductos.TextMatrix(0, column::kStylist), "Stylist");
   EXPECT_EQ(form.LblSucursal.Caption(), "  Branch 01 Centro  ");
 }
 

@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/event_log.h"
 #include "tests/support/form_driver.h"
+#include "tests/support/fresh_variables.h"
 #include "tests/support/recording_dictionary.h"
 #include "tests/support/recording_recordsets.h"
 
@@ -58,19 +60,7 @@ TEST_P(FormLoadTest, TheVariablesAtTheEndOfTheLoad) {
   screen.library.KeepForm(true);
   screen.form().Unload();
   screen.form().Load();  // without the activation that showing brings
-  const FrmOrvendalciales::Variables& now = screen.form().variables;
-  EXPECT_EQ(now.RsCodigos, nullptr);
-  EXPECT_TRUE(now.PrimeraActivacion);
-  EXPECT_FALSE(now.ModoNuevo);
-  EXPECT_FALSE(now.PintandoFila);
-  EXPECT_FALSE(now.MoviendoColumna);
-  EXPECT_EQ(now.CodigoCelda, "");
-  EXPECT_EQ(now.CantidadCelda, "");
-  EXPECT_EQ(now.BufferTeclas, "");
-  EXPECT_FALSE(now.CambiarEstilista);
-  EXPECT_FALSE(now.FlagSupervisor);
-  EXPECT_FALSE(now.FlagFechaCambio);
-  EXPECT_EQ(now.UltimaColumna, 3);
+  testing_support::ExpectFreshVariables(screen.form().variables, true);
 }
 
 TEST_P(FormLoadTest, DatesGoThroughTheLibraryWithTheirArguments) {
@@ -179,7 +169,7 @@ TEST_P(FormLoadTest, TwoReadingsOfTheClockCanShowTwoDays) {
   EXPECT_EQ(state.form->MkFecha.Text(), GetParam()->ToText(Date(2026, 11, 16)));
   EXPECT_EQ(state.form->TxtFechaHora.Text(), GetParam()->ToText(Date(2026, 11, 17)));
   EXPECT_EQ(state.form->Calendario.Value(), Date(2026, 11, 17));
-  EXPECT_EQ(state.form->MSFProductos.TextMatrix(1, 0), "P2");
+  EXPECT_EQ(state.form->MSFProductos.TextMatrix(1, column::kCode), "P2");
 }
 
 INSTANTIATE_TEST_SUITE_P(Regions, FormLoadTest, testing::Values(&Region::Spanish(), &Region::English()),

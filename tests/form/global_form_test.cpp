@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/error_of.h"
 #include "tests/support/form_driver.h"
 
@@ -103,7 +104,7 @@ TEST_F(GlobalFormTest, AFormThatTheSearchLeavesIsTheGlobalOneAfterwards) {
   form->LblBuscar_Click(0);
   EXPECT_EQ(state.form, other);
   EXPECT_TRUE(form->IsLoaded());
-  EXPECT_EQ(form->MSFProductos.TextMatrix(1, 0), "P1");
+  EXPECT_EQ(form->MSFProductos.TextMatrix(1, column::kCode), "P1");
 }
 
 TEST_F(GlobalFormTest, AReferenceThatTheSearchClearedLeavesTheScreenWithItsLinesUntilItIsClosed) {
@@ -111,7 +112,7 @@ TEST_F(GlobalFormTest, AReferenceThatTheSearchClearedLeavesTheScreenWithItsLines
   form->LblBuscar_Click(0);
   EXPECT_EQ(state.form, nullptr);
   EXPECT_TRUE(form->IsLoaded());
-  EXPECT_EQ(form->MSFProductos.TextMatrix(1, 0), "P1");
+  EXPECT_EQ(form->MSFProductos.TextMatrix(1, column::kCode), "P1");
   EXPECT_EQ(state.unnamed_forms, std::vector{form});
   form->Unload();
   EXPECT_TRUE(state.unnamed_forms.empty());
@@ -123,7 +124,7 @@ TEST_F(GlobalFormTest, SomethingThatIsNoSuchFormAfterTheSearchIsError13AndNoLine
   const auto form = Open();
   EXPECT_EQ(ErrorOf([&] { form->LblBuscar_Click(0); }), 13);
   EXPECT_EQ(state.form, form);
-  EXPECT_EQ(form->MSFProductos.TextMatrix(1, 0), "");
+  EXPECT_EQ(form->MSFProductos.TextMatrix(1, column::kCode), "");
 }
 
 TEST_F(GlobalFormTest, WithoutAGlobalFormTheScreenActsOnItself) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/form_driver.h"
 
 namespace orvendal {
@@ -80,7 +81,7 @@ TEST_F(GridDefinitionTest, TheOtherProperties) {
 }
 
 TEST_F(GridDefinitionTest, TheEmployeesColumnHasNoTitleAndFourColumnsTakeNoRoom) {
-  EXPECT_EQ(lines.TextMatrix(0, 4), "");
+  EXPECT_EQ(lines.TextMatrix(0, column::kEmployeeCode), "");
   for (const int hidden : {4, 6, 7, 8}) {
     EXPECT_EQ(lines.ColWidth(hidden), 0) << hidden;
     EXPECT_TRUE(lines.CellRectangle(1, hidden).IsEmpty()) << hidden;
@@ -108,12 +109,12 @@ TEST_F(GridDefinitionTest, AWordOfTheDictionaryAppearsInTheLinesOnly) {
   other.session->general->Set("Descripcion", "Artículo");
   other.session->general->Set("Estilista", "Peluquera");
   other.Open();
-  EXPECT_EQ(other.form().MSFProductos.TextMatrix(0, 0), "Referencia");
-  EXPECT_EQ(other.form().MSFProductos.TextMatrix(0, 1), "Artículo");
-  EXPECT_EQ(other.form().MSFProductos.TextMatrix(0, 5), "Peluquera");
-  EXPECT_EQ(other.form().MSFProductos1.TextMatrix(0, 0), "Código");
-  EXPECT_EQ(other.form().MSFProductos1.TextMatrix(0, 1), "Descripción");
-  EXPECT_EQ(other.form().MSFProductos1.TextMatrix(0, 5), "Estilista");
+  EXPECT_EQ(other.form().MSFProductos.TextMatrix(0, column::kCode), "Referencia");
+  EXPECT_EQ(other.form().MSFProductos.TextMatrix(0, column::kDescription), "Artículo");
+  EXPECT_EQ(other.form().MSFProductos.TextMatrix(0, column::kStylist), "Peluquera");
+  EXPECT_EQ(other.form().MSFProductos1.TextMatrix(0, column::kCode), "Código");
+  EXPECT_EQ(other.form().MSFProductos1.TextMatrix(0, column::kDescription), "Descripción");
+  EXPECT_EQ(other.form().MSFProductos1.TextMatrix(0, column::kStylist), "Estilista");
 }
 
 TEST_F(GridDefinitionTest, TheFirstColumnTakesTheCurrentCell) {

@@ -14,39 +14,24 @@
 #include <map>
 #include <sstream>
 
-#include "tests/support/temporary_folder.h"
+#include "tests/host/started_program.h"
 
 namespace orvendal {
 namespace {
 
-class Program : public testing::Test {
+class Program : public StartedProgram {
  protected:
   // Runs it with those words; gives the exit code.
   int Run(const std::string& words) { return RunAfter("", words); }
   // Runs it after other commands of the shell.
   int RunAfter(const std::string& before, const std::string& words) {
-    const std::string command =
-        "(" + before +
-        "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -u LC_ALL -u LC_MESSAGES "
-        "LANG=C.UTF-8 XDG_DATA_HOME='" +
-        folder.Path() + "' " + display + " '" ORVENDAL_PROGRAM "' " + words + ") >'" + (folder / "out") +
-        "' 2>'" + (folder / "err") + "'";
-    const int status = std::system(command.c_str());
-    output = Content("out");
-    errors = Content("err");
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  }
-  std::string Content(const std::string& name) const {
-    std::ifstream file(folder / name, std::ios::binary);
-    std::ostringstream content;
-    content << file.rdbuf();
-    return content.str();
+    return RunInShell(before +
+                      "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -u LC_ALL -u LC_MESSAGES "
+                      "LANG=C.UTF-8 XDG_DATA_HOME='" +
+                      folder.Path() + "' " + display + " '" ORVENDAL_PROGRAM "' " + words);
   }
 
-  TemporaryFolder folder;
   std::string display;  // what the environment says of one
-  std::string output;
-  std::string errors;
 };
 
 TEST_F(Program, WritesAPictureAndTheDaysLinesWithoutADisplay) {

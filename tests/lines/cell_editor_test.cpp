@@ -188,9 +188,7 @@ TEST_F(CellEditorTest, TakesTheFocusBackWhenTheGridIsClicked) {
   screen.DoubleClickCell(1, kCode);
   screen.ClickCell(3, kDescription);
   EXPECT_EQ(screen.Focused(), "TxtMSF");
-  EXPECT_EQ(Cursor(screen), "3,1");
-  EXPECT_EQ(EditorText(screen), "Producto 12");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "3,1 [Producto 12]");
   ExpectEditorOverCell();
 }
 

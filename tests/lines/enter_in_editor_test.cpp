@@ -43,9 +43,7 @@ TEST_F(EnterInEditorTest, OnTheCodeThatWasEmptiedGoesToTheDescriptionOfTheLine) 
   screen.DoubleClickCell(1, kCode);
   screen.Key(key::kDelete);
   screen.Enter();
-  EXPECT_EQ(Cursor(screen), "1,1");
-  EXPECT_EQ(EditorText(screen), "Producto 10");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "1,1 [Producto 10]");
   EXPECT_EQ(screen.Cell(1, kCode), "P10");
 }
 
@@ -54,9 +52,7 @@ TEST_F(EnterInEditorTest, OnAProductGoesToItsQuantityWithTheStockSelected) {
   screen.DoubleClickCell(1, kCode);
   screen.Type("P1");
   screen.Enter();
-  EXPECT_EQ(Cursor(screen), "1,3");
-  EXPECT_EQ(EditorText(screen), "7");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "1,3 [7]");
   screen.Type("1");  // the first digit replaces the stock
   EXPECT_EQ(EditorText(screen), "1");
 }
@@ -66,9 +62,7 @@ TEST_F(EnterInEditorTest, OnAProductByItsDescriptionGoesToItsQuantity) {
   screen.DoubleClickCell(1, kDescription);
   screen.Type("Laca");
   screen.Enter();
-  EXPECT_EQ(Cursor(screen), "1,3");
-  EXPECT_EQ(EditorText(screen), "0");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "1,3 [0]");
 }
 
 TEST_F(EnterInEditorTest, OnAnUnknownCodeLeavesTheEditorWithItsText) {
@@ -101,9 +95,7 @@ TEST_F(EnterInEditorTest, OnAQuantityWritesItAndGoesToTheCodeOfTheNextLine) {
   screen.Type("25");
   screen.Enter();
   EXPECT_EQ(screen.Cell(1, kQuantity), "25");
-  EXPECT_EQ(Cursor(screen), "2,0");
-  EXPECT_EQ(EditorText(screen), "P11");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "2,0 [P11]");
   EXPECT_TRUE(EditorIsOpen(screen));
   EXPECT_EQ(screen.Cell(2, kQuantity), "2");
 }

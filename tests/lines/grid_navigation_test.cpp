@@ -21,9 +21,7 @@ TEST_F(GridNavigationTest, TheUpArrowGoesToTheLineAbove) {
   Open(3);
   screen.DoubleClickCell(2, kDescription);
   screen.Key(key::kUp);
-  EXPECT_EQ(Cursor(screen), "1,1");
-  EXPECT_EQ(EditorText(screen), "Producto 10");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "1,1 [Producto 10]");
 }
 
 TEST_F(GridNavigationTest, TheUpArrowOnTheFirstLineSelectsTheTextAnew) {
@@ -42,9 +40,7 @@ TEST_F(GridNavigationTest, TheDownArrowGoesToTheLineBelow) {
   Open(3);
   screen.DoubleClickCell(1, kQuantity);
   screen.Key(key::kDown);
-  EXPECT_EQ(Cursor(screen), "2,3");
-  EXPECT_EQ(EditorText(screen), "2");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "2,3 [2]");
 }
 
 TEST_F(GridNavigationTest, TheDownArrowStaysOnALineWithoutACode) {
@@ -52,9 +48,7 @@ TEST_F(GridNavigationTest, TheDownArrowStaysOnALineWithoutACode) {
   screen.DoubleClickCell(2, kCode);
   screen.Type("P1");
   screen.Key(key::kDown);
-  EXPECT_EQ(Cursor(screen), "2,0");
-  EXPECT_EQ(EditorText(screen), "P1");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "2,0 [P1]");
 }
 
 TEST_F(GridNavigationTest, TheDownArrowOnTheLastGridRowAddsNothing) {
@@ -65,9 +59,7 @@ TEST_F(GridNavigationTest, TheDownArrowOnTheLastGridRowAddsNothing) {
   screen.Type("5");
   screen.Key(key::kDown);
   EXPECT_EQ(screen.form().MSFProductos.Rows(), 13);
-  EXPECT_EQ(Cursor(screen), "12,3");
-  EXPECT_EQ(EditorText(screen), "5");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "12,3 [5]");
 }
 
 TEST_F(GridNavigationTest, TheDownArrowFromTheLastQuantityLandsOnTheCodeOfTheFreeRow) {
@@ -110,9 +102,7 @@ TEST_F(GridNavigationTest, TheUpArrowFromTheQuantityOfAFreeLineShowsTheQuantityA
   screen.DoubleClickCell(3, kQuantity);
   ASSERT_EQ(Cursor(screen), "3,3");
   screen.Key(key::kUp);
-  EXPECT_EQ(Cursor(screen), "2,3");
-  EXPECT_EQ(EditorText(screen), "2");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "2,3 [2]");
 }
 
 TEST_F(GridNavigationTest, ShiftAndCtrlWithAnArrowActAsTheArrowAlone) {

@@ -80,9 +80,7 @@ TEST_F(SearchButtonTest, AProductChosenFillsTheLineAndGoesToItsQuantity) {
   screen.DoubleClickCell(3, kCode);
   Search("P1");
   EXPECT_EQ(screen.Line(3), (Texts{"P1", "Champú suave", "7", "7", "E1", "Ana", "16/11/2026", "P1", ""}));
-  EXPECT_EQ(Cursor(screen), "3,3");
-  EXPECT_EQ(EditorText(screen), "7");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "3,3 [7]");
 }
 
 TEST_F(SearchButtonTest, AProductChosenOnTheQuantityShowsItsStockSelectedToo) {
@@ -90,9 +88,7 @@ TEST_F(SearchButtonTest, AProductChosenOnTheQuantityShowsItsStockSelectedToo) {
   Search("P1");
   EXPECT_EQ(screen.Cell(2, kCode), "P1");
   EXPECT_EQ(screen.Cell(2, kQuantity), "7");
-  EXPECT_EQ(Cursor(screen), "2,3");
-  EXPECT_EQ(EditorText(screen), "7");
-  EXPECT_TRUE(EditorTextIsSelected(screen));
+  EXPECT_EQ(CellAndEditor(screen), "2,3 [7]");
   // What the editor shows is what leaving the cell writes back.
   screen.ClickCell(1, kCode);
   EXPECT_EQ(screen.Cell(2, kQuantity), "7");

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/event_log.h"
 #include "tests/support/form_driver.h"
 #include "tests/support/recording_recordsets.h"
@@ -158,7 +159,7 @@ TEST_P(RecordsetUseTest, ADescriptionIsLookedUpByItsBeginning) {
   EXPECT_EQ(all[1],
             "6 Open SELECT Productos.Codigo, Productos.Descripcion FROM Productos WHERE "
             "Productos.Descripcion Like 'Laca%' (3, 1, -1)");
-  EXPECT_EQ(state.form->MSFProductos.TextMatrix(1, 0), "P4");
+  EXPECT_EQ(state.form->MSFProductos.TextMatrix(1, column::kCode), "P4");
 }
 
 TEST_P(RecordsetUseTest, ASaveDeletesAndAddsThroughTheOneRecordsetOfTheForm) {
@@ -281,8 +282,8 @@ TEST_P(RecordsetUseTest, ANullWhereATextIsNeededStopsTheLoadWithError94) {
 TEST_P(RecordsetUseTest, TheNameOfAStylistMayBeNull) {
   screen.AddCount("P1", 1, 2, "E9");
   Open();
-  EXPECT_EQ(state.form->MSFProductos.TextMatrix(1, 5), "");
-  EXPECT_EQ(state.form->MSFProductos.TextMatrix(1, 4), "E9");
+  EXPECT_EQ(state.form->MSFProductos.TextMatrix(1, column::kStylist), "");
+  EXPECT_EQ(state.form->MSFProductos.TextMatrix(1, column::kEmployeeCode), "E9");
 }
 
 INSTANTIATE_TEST_SUITE_P(BothDialects, RecordsetUseTest, testing::Values(Dialect::kSqlServer, Dialect::kJet),

@@ -101,6 +101,11 @@ inline bool EditorTextIsSelected(ScreenDriver& screen) {
   const TextBox& editor = screen.form().TxtMSF;
   return editor.SelStart() == 0 && editor.SelText() == editor.Text();
 }
+/// The cursor's cell and the editor's text, in brackets if all of it is selected: "1,3 [7]".
+inline std::string CellAndEditor(ScreenDriver& screen) {
+  const std::string text = EditorText(screen);
+  return Cursor(screen) + " " + (EditorTextIsSelected(screen) ? "[" + text + "]" : text);
+}
 
 /// Lines of the snapshot, title row not counted, by columns.
 inline Texts SnapshotLine(ScreenDriver& screen, int row) {

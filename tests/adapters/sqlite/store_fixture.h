@@ -11,6 +11,7 @@
 #include "host/store/schema.h"
 #include "platform/base/runtime_error.h"
 #include "platform/data/ado_error.h"
+#include "tests/support/error_of.h"
 
 namespace orvendal::store_testing {
 
@@ -76,15 +77,9 @@ inline std::string DialectName(const ::testing::TestParamInfo<Dialect>& info) {
   return info.param == Dialect::kSqlServer ? "SqlServer" : "Jet";
 }
 
-/// The number that `action` raises; 0 if it raises nothing.
-inline std::int32_t ErrorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using testing_support::ErrorOf;
+
+/// The description of what `action` raises; empty if it raises nothing.
 inline std::string DescriptionOf(const std::function<void()>& action) {
   try {
     action();

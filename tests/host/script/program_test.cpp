@@ -8,12 +8,12 @@
 #include <fstream>
 #include <sstream>
 
-#include "tests/support/temporary_folder.h"
+#include "tests/host/started_program.h"
 
 namespace orvendal {
 namespace {
 
-class ScriptProgram : public testing::Test {
+class ScriptProgram : public StartedProgram {
  protected:
   int Run(const std::string& words, const std::string& language = "C.UTF-8") {
     return RunAfter("", words, language);
@@ -23,27 +23,12 @@ class ScriptProgram : public testing::Test {
   }
   // Runs it after other commands of the shell, which begin in the folder.
   int RunAfter(const std::string& before, const std::string& words, const std::string& language = "C.UTF-8") {
-    const std::string command = "cd '" + folder.Path() + "' && (" + before +
-                                "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -u LC_ALL "
-                                "-u LC_MESSAGES -u XDG_RUNTIME_DIR LANG=" +
-                                language + " HOME='" + folder.Path() + "' '" ORVENDAL_PROGRAM "' " + words +
-                                ") >out 2>err";
-    const int status = std::system(command.c_str());
-    output = Content("out");
-    errors = Content("err");
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return RunInShell("cd '" + folder.Path() + "' && " + before +
+                      "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM -u LC_ALL "
+                      "-u LC_MESSAGES -u XDG_RUNTIME_DIR LANG=" +
+                      language + " HOME='" + folder.Path() + "' '" ORVENDAL_PROGRAM "' " + words);
   }
   void Write(const std::string& name, const std::string& text) { std::ofstream(folder / name) << text; }
-  std::string Content(const std::string& name) const {
-    std::ifstream file(folder / name, std::ios::binary);
-    std::ostringstream content;
-    content << file.rdbuf();
-    return content.str();
-  }
-
-  TemporaryFolder folder;
-  std::string output;
-  std::string errors;
 };
 
 TEST_F(ScriptProgram, PaintsThePictureInTheSizeOfTheScreen) {

@@ -19,6 +19,7 @@
 #include "platform/data/ado_error.h"
 #include "store/date_condition.h"
 #include "store/statements.h"
+#include "tests/support/error_of.h"
 #include "tests/windows/ado/recording_provider.h"
 #include "tests/windows/ado/system_ado.h"
 #include "tests/windows/com/tested_dll.h"
@@ -131,16 +132,6 @@ ComPtr<ITypeInfo> Described(const ComPtr<ITypeLib>& library, const GUID& older, 
   if (FAILED(library->GetTypeInfoOfGuid(newer, info.Receive())))
     library->GetTypeInfoOfGuid(older, info.Receive());
   return info;
-}
-
-template <typename Action>
-std::int32_t NumberOf(const Action& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
 }
 
 class SystemAdo : public testing::Test {
@@ -284,7 +275,7 @@ TEST_F(SystemAdoConnection, SaysWhatTheProviderRefusedAndStaysUsable) {
   const RecordsetRef recordset = recordsets.NewRecordset();
   provider.Log().answer = ado_error::kSyntax;
   const auto open = [&] { statements::OpenForWriting(*recordset, "DELETE", connection); };
-  EXPECT_EQ(NumberOf(open), ado_error::kSyntax);
+  EXPECT_EQ(testing_support::ErrorOf(open), ado_error::kSyntax);
   EXPECT_EQ(recordset->State(), kStateClosed);
   provider.Log().answer = S_OK;
   EXPECT_NO_THROW(open());
