@@ -8,7 +8,7 @@ void FrmOrvendalciales::LblCancelar_Click(int /*Index*/) {
   CargarExistencias();
 }
 
-// Nobody calls it; it stands ready.
+// Part of the form as declared; nothing calls it.
 void FrmOrvendalciales::LimpiarCabecera() {
   TxtCodigo.Text("");
   MkFecha.Text("");

@@ -71,7 +71,8 @@ void FrmOrvendalciales::Calendario_SelChange(Date /*StartDate*/, Date /*EndDate*
     CargarExistencias();
   } catch (const RuntimeError&) {
     MkFecha.Text(old_day);  // there is no new day; the calendar goes back too
-    // The load at the end of the save has brought lines of the new day, which are none of the old one.
+    // The save before ended with a load of the new day, so the lines are not those of the day that shows
+    // again.
     if (variables.day_of_lines != day_of_lines) variables.lines_not_whole = true;
     throw;
   }

@@ -30,7 +30,7 @@ void FrmOrvendalciales::CargarExistencias() {
     LoadLines(condition, has_written);
   } catch (const RuntimeError&) {
     if (has_written || cuts_lines) variables.lines_not_whole = true;
-    // What was typed stays only where its line does: not under a line written over, nor under one cut away.
+    // What is typed in the editor is kept only if its line is as it was, neither written over nor removed.
     if (has_written || !EditorIsInPlace()) PlaceEditorAnew();
     throw;
   }

@@ -46,7 +46,7 @@ bool FrmOrvendalciales::EditorIsInPlace() {
   return MSFProductos.Row() == variables.editor_row && MSFProductos.Col() == variables.editor_column;
 }
 
-// A cell that the cursor only passes takes nothing: what the editor shows was never typed over it.
+// A cell that the cursor only passes is not written: the editor's text was typed for another cell.
 void FrmOrvendalciales::CommitQuantity() {
   if (!EditorIsInPlace()) return;
   MSFProductos.TextMatrix(MSFProductos.Row(), column::kQuantity, TxtMSF.Text());

@@ -49,7 +49,7 @@ void FrmOrvendalciales::PaintLine(ColorWord back_color, ColorWord fore_color, in
 void FrmOrvendalciales::MSFProductos_LeaveCell() {
   if (variables.PintandoFila) return;
   if (!variables.MoviendoColumna) PaintLine(palette::kSand, palette::kBlack, MSFProductos.Cols() - 1);
-  // While a load runs, the editor's text belongs to the lines that are going.
+  // While a load runs, the editor's text belongs to a line that the load replaces.
   if (IsEditingQuantity() && !variables.CargandoLineas) CommitQuantity();
 }
 

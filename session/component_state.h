@@ -10,8 +10,8 @@
 
 namespace orvendal {
 
-class FrmOrvendalciales;  // the one name from above: the component keeps its form, and nobody down here asks
-                          // it
+// Declared only: the state holds the form, whose class belongs to a floor above, and calls nothing of it.
+class FrmOrvendalciales;
 
 /// The environment of the component, given by whoever loads it; all of it outlives the component.
 struct Environment {
@@ -53,8 +53,8 @@ struct ComponentState {
   LibraryGlobals globals;
   /// The global instance of the form; empty before the first call and after the library has cleared it.
   std::shared_ptr<FrmOrvendalciales> form;
-  /// Forms that are still loaded after the library has put something else into `form`: a window does not go
-  /// because nobody names it.
+  /// Forms that are still loaded after the library has put something else into `form`. They stay alive, with
+  /// their windows, until they are unloaded.
   std::vector<std::shared_ptr<FrmOrvendalciales>> unnamed_forms;
 };
 

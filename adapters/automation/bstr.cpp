@@ -7,7 +7,7 @@
 namespace orvendal {
 namespace {
 
-// A byte that is not UTF-8 crosses as the half of a pair that no text has without its other half: 0xDC00 and
+// A byte that is not UTF-8 is marshalled as a lone low surrogate, which no well-formed text has: 0xDC00 plus
 // the byte. It comes back as the same byte, so that a row of a store in another encoding is still found and
 // saved by its own code.
 constexpr wchar_t kStrayHalf = 0xDC00;

@@ -8,7 +8,7 @@
 namespace orvendal {
 
 /// Between the texts of the core and those of Automation. A byte that is not UTF-8 crosses as U+DC80 to
-/// U+DCFF, alone, and comes back as itself; any other half of a pair becomes U+FFFD. A text with characters
+/// U+DCFF, alone, and comes back as itself; any other lone surrogate becomes U+FFFD. A text with characters
 /// of value zero in it keeps them; a null BSTR is the empty text.
 std::wstring WideText(std::string_view utf8);
 std::string Utf8Text(std::wstring_view wide);

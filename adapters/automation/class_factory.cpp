@@ -6,8 +6,8 @@
 namespace orvendal {
 namespace {
 
-/// Apart from what else keeps the module: a client that unlocks once too often must not take it from under
-/// the objects of others.
+/// Locks of LockServer, counted apart from the other references to the module: a client that unlocks once too
+/// often must not unload it while others have objects.
 std::atomic<long> locks{0};
 
 bool TakeOneLock() noexcept {

@@ -36,7 +36,7 @@ class ComPtr {
   /// Hands the reference to the caller.
   [[nodiscard]] Interface* Detach() { return std::exchange(object_, nullptr); }
   void Reset() {
-    // The object may come back here while it goes.
+    // Emptied first: the destructor of the object may use this pointer.
     if (Interface* object = Detach()) object->Release();
   }
   /// For calls that fill it; drops what it holds.

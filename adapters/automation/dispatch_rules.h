@@ -4,8 +4,8 @@
 
 namespace orvendal {
 
-// What Automation demands of every call of IDispatch, whoever answers it. Clients in C may hand over nothing
-// where a reference is expected.
+// The checks that Automation demands of every call of IDispatch, shared by all objects. Clients in C may pass
+// null for any pointer.
 
 /// Whether no identifier was handed over at all.
 inline bool IsMissing(REFIID iid) noexcept {

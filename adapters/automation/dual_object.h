@@ -128,7 +128,7 @@ class DualObject : public Counted<Interface, ISupportErrorInfo, Others...> {
   HRESULT Report() const noexcept {
     return ReportCurrentException(__uuidof(Interface), SourceOfCurrentError());
   }
-  /// What is left of an earlier failure does not explain this one.
+  /// Forgets the error information of an earlier call, which the thread still holds.
   static HRESULT Refuse(HRESULT result) noexcept {
     ForgetErrorInformation();
     return result;

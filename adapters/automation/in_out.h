@@ -9,12 +9,13 @@
 
 namespace orvendal {
 
-// Arguments by reference, as every interface of ours has them. What a reference holds at the call is the
-// caller's; who is called and replaces it frees or releases the old and gives the new one away.
+// Marshalling of arguments by reference (in-out). Their value belongs to the caller; a callee that replaces
+// it frees or releases the old value and hands the ownership of the new one over.
 //
-// A cell is what a caller sends. The other side may call the module again before it returns, or pump messages
-// that do, so the variable behind it may hold something newer by then: each cell keeps what it sent, and only
-// what the other side replaced is taken over.
+// The cells are for calls out of the module: a cell is a copy of the caller's variable, to which the
+// reference points during the call. The call can come back into the module, directly or through a message
+// loop, and assign the variable meanwhile. So a cell remembers the value that it sent, and TakeOver assigns
+// the variable only if the callee replaced that value.
 
 /// A number of the same meaning on both sides.
 class LongCell {
@@ -57,8 +58,8 @@ class InterfaceCell {
   ComPtr<IDispatch> cell_;
 };
 
-// What is called reads its arguments when it begins, and gives back what has changed since. That each
-// reference is there was seen before.
+// For calls into the module: the argument is read when the call begins, and Give writes it back if it was
+// changed since. Null references were refused before.
 
 class TextInOut {
  public:

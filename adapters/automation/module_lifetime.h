@@ -2,8 +2,8 @@
 
 namespace orvendal {
 
-/// Reference count of the module, which keeps it in memory: objects that clients hold, locks of the class
-/// factory, and calls out of the module that have not come back. Counted across threads.
+/// Reference count of the module, which stays loaded while it is not zero: objects that clients hold, locks
+/// of the class factory, and calls out of the module that have not come back. Counted across threads.
 namespace module_lifetime {
 
 void Keep() noexcept;

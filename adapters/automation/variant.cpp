@@ -7,7 +7,8 @@ namespace {
 
 constexpr VARTYPE kReference = VT_BYREF | VT_VARIANT;
 
-/// A chain longer than a client makes on purpose may be a ring: it is cut, and what is left is a reference.
+/// The value at the end of a chain of references. A chain longer than any client makes on purpose may be a
+/// cycle: following it stops, and the result is still a reference.
 const VARIANT& Behind(const VARIANT& value) {
   constexpr int kLongestChain = 8;
   const VARIANT* behind = &value;
@@ -84,7 +85,8 @@ HRESULT ReadObject(const VARIANT& value, ComPtr<IUnknown>& object) {
   return S_OK;
 }
 
-// A chain that was cut is a ring. The system's own functions follow a reference to nothing all the same.
+// What is still a reference at the end of Behind is a cycle. The system's own functions would follow a null
+// reference.
 bool LeadsNowhere(const VARIANT& value) {
   const VARIANT& behind = Behind(value);
   return V_VT(&behind) == kReference || ((V_VT(&behind) & VT_BYREF) && !V_BYREF(&behind));

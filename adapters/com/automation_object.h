@@ -35,7 +35,7 @@ class AutomationObject : public DualObject<IDispatch, IOrvendalObject> {
   /// False if there is no such member, or none for that.
   virtual bool Get(DISPID member, const AutomationCall& call) = 0;
   virtual bool Put(DISPID member, const AutomationCall& call) = 0;
-  /// Whether it becomes what it stands for again when it comes back from outside.
+  /// Whether a client that passes it back in passes what it stands for (IOrvendalObject).
   virtual bool ComesBackAsItself() const { return false; }
 
   // For tables: the member at index n has the DISPID n + 1.

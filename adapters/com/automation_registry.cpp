@@ -8,7 +8,7 @@ namespace orvendal {
 
 AutomationObject* AutomationRegistry::Find(const void* target) const {
   const auto entry = objects_.find(target);
-  // An object that outlived its form may stand under the place of a new one.
+  // Keys are addresses: an object that outlived its form may be registered under that of a new one.
   return entry != objects_.end() && !entry->second->IsGone() ? entry->second : nullptr;
 }
 

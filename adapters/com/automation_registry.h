@@ -10,7 +10,8 @@
 
 namespace orvendal {
 
-/// How one of our automation objects, come back from outside, says what it stands for.
+/// The interface by which an automation object of ours is recognised when a client passes it back in, and
+/// unmarshalled to what it stands for.
 struct IOrvendalObject : IUnknown {
   /// Empty if it is gone.
   virtual ObjectRef Target() = 0;
@@ -25,8 +26,8 @@ namespace orvendal {
 
 class AutomationObject;
 
-/// The automation objects that are out, one for each form and control, so that clients can compare them.
-/// Lives as long as the last of them.
+/// The automation objects that clients hold: one for each form and control, so that identities can be
+/// compared. Lives as long as the last of them.
 class AutomationRegistry {
  public:
   using NativeWindow = std::intptr_t (*)(WindowHost& windows, const Form& form);

@@ -10,14 +10,14 @@
 
 namespace orvendal {
 
-/// What calls out of the module need.
+/// What marshalling needs in calls out of the module: how windows, stores and objects cross.
 struct Boundary {
   WindowHost& windows;
   StoreBridge& store;
   ObjectBridge& objects;
 };
 
-/// The host's number of a width that only the host knows: eight bytes that are never looked into.
+/// The host's number of a width that only the host knows: eight bytes that are copied unread.
 class ScreenDatumCell {
  public:
   explicit ScreenDatumCell(const Value& datum)

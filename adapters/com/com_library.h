@@ -5,8 +5,8 @@
 
 namespace orvendal {
 
-/// The maker's library as COM objects: each is created by its class identifier and called at its places. A
-/// class that cannot be made is error 429, one without its interface error 430.
+/// The maker's library as COM objects: each is created by its class identifier and called through its vtable.
+/// A class that cannot be made is error 429, one without its interface error 430.
 class ComLibrary final : public Library {
  public:
   /// `boundary` outlives the library and its objects.

@@ -51,7 +51,7 @@ struct ComponentModule::Loaded {
       return form && (form->IsLoaded() || form.use_count() > 1 + NamesOf(form.get()));
     });
   }
-  /// How many variables hold it: the global reference, and those in which a host may have put it.
+  /// How many references the module's own variables hold: the global one, and those that a host may have set.
   long NamesOf(const Object* form) const {
     const DatosComunes& session = state.session;
     const Object* const held[] = {state.form.get(),
@@ -79,7 +79,7 @@ struct ComponentModule::Loaded {
   Boundary boundary;
   ComLibrary library;
   ComponentState state;
-  std::vector<std::weak_ptr<Form>> forms;  // all that were ever shown, the gone ones swept now and then
+  std::vector<std::weak_ptr<Form>> forms;  // all that were ever shown; HasLivingForm drops the expired ones
   HMODULE pin = PinOwnModule();
 };
 

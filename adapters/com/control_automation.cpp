@@ -20,8 +20,7 @@ Control& Of(Self& self) {
   return self.Living();
 }
 
-/// What the library may read of a control, and write unless it is fixed. Of boxes alone it sees what is in
-/// them.
+/// A property that the library may read, and write unless `is_fixed`; `is_of_boxes`: of text boxes alone.
 struct FaceProperty {
   std::string_view name;
   bool is_fixed = false;

@@ -33,7 +33,7 @@ class HostForm final : public Form {
 /// What an object is expected to be when it comes in.
 enum class ObjectRole { kAny, kForm };
 
-/// How objects cross the boundary: ours as automation objects, the host's as what they are.
+/// Marshalling of objects: ours go out as automation objects, the host's own as they came in.
 class ObjectBridge {
  public:
   using NativeWindow = std::intptr_t (*)(WindowHost& windows, const Form& form);

@@ -6,7 +6,7 @@
 
 namespace orvendal {
 
-/// How connections and recordsets cross the boundary: outside they are ADO's objects, inside the core's.
+/// Marshalling of connections and recordsets: ADO's objects outside, the core's inside.
 class StoreBridge {
  public:
   virtual ~StoreBridge() = default;

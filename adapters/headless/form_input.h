@@ -4,7 +4,7 @@
 
 namespace orvendal {
 
-/// The way by which hands reach a form. Positions are twips from the form's corner, button and shift those of
+/// How synthetic input reaches a form. Positions are twips from the form's corner, button and shift those of
 /// Form::MousePress.
 class FormInput {
  public:

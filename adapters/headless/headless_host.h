@@ -96,12 +96,12 @@ class HeadlessHost final : public CommonHost {
 
  protected:
   std::unique_ptr<ModalLoop> MakeModalLoop(const CommonWindow& window) override;
-  /// Nobody is ever prepared for one.
+  /// Raises UnansweredDialog: message boxes have no queue of answers.
   int RunMessageBox(const std::string& text, int style, const std::string& title) override;
   void StartTimer(Timer& timer, int milliseconds) override;
   void StopTimer(Timer& timer) override;
   void TellError(const RuntimeError& error) override;
-  /// There is no log to look into: what went wrong comes out where it did.
+  /// Rethrows the exception: there is no log.
   void Log(const char* what_ended, const char* how) override;
 
  private:
@@ -122,7 +122,7 @@ class HeadlessHost final : public CommonHost {
   int beeps_ = 0;
 };
 
-/// What became of a form's window, for those who look.
+/// The window of a form, whose state tests and scripts can read.
 class HeadlessWindow final : public CommonWindow {
  public:
   using CommonWindow::CommonWindow;

@@ -45,8 +45,8 @@ bool QtFormWidget::event(QEvent* event) {
   if (event->type() == QEvent::DeferredDelete) return QWidget::event(event);  // it is gone afterwards
   ++events_under_way_;
   const bool taken = QWidget::event(event);
-  // Not at once in Detach: that may run in an event loop inside this event, which would delete the widget
-  // under its feet.
+  // Not already in Detach: that may run in an event loop inside this event, which would delete the widget
+  // while its event function is still running.
   if (--events_under_way_ == 0 && form_ == nullptr) deleteLater();
   return taken;
 }

@@ -44,7 +44,7 @@ int StatementLease::Step() {
     const std::chrono::milliseconds limit = cache_->time_limit_;
     deadline_ = limit.count() > 0 ? Clock::now() + limit : Clock::time_point::max();
   }
-  // Two statements may take turns, each with its own time.
+  // Steps of two statements may alternate; each has a deadline of its own.
   cache_->deadline_ = deadline_;
   const int code = sqlite3_step(statement_);
   cache_->deadline_ = Clock::time_point::max();

@@ -35,7 +35,7 @@ class DialogKeys {
 
   Form& form_;
   Timer TmrBoton;
-  CommandButton* held_ = nullptr;  // the blank went down on it, and nobody knows yet who sent it
+  CommandButton* held_ = nullptr;  // the blank went down on it; the next key tells whether a reader sent it
   TextBox* typed_into_ = nullptr;  // where the run began
   std::string text_before_;        // what that box showed
 };

@@ -7,7 +7,7 @@
 namespace orvendal {
 namespace {
 
-// Hands in the workstation's panel. Its name is that of the form; Esc closes it.
+// Input to the workstation's panel; Esc closes it.
 void UsePanel(Form& panel, FormInput& input, bool reconnect) {
   Robot hands(panel, input);
   if (reconnect) hands.Click(hands.Find("CmdReconectar"));

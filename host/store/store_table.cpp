@@ -147,8 +147,7 @@ const StoreField* StoreTable::Find(const std::string& field) const {
 }
 
 StoreName WhatIs(SqliteConnection& store, const std::string& name) {
-  // Neither a view nor a table that is only made believe has a place in the file. An index takes a table's
-  // name, too.
+  // Views and virtual tables have no root page in the file. An index takes a table's name, too.
   SqliteStatement look(store,
                        "SELECT type = 'table' AND rootpage > 0 FROM sqlite_master WHERE type IN ('table', "
                        "'view', 'index') AND name = ?1 COLLATE NOCASE");

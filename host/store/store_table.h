@@ -28,7 +28,7 @@ struct StoreTable {
 
 enum class StoreName { kNothing, kTable, kOther };
 
-/// What `name` is in the store. A view, and a table that the engine only makes believe, are no tables.
+/// What `name` is in the store. Views and virtual tables are no tables.
 StoreName WhatIs(SqliteConnection& store, const std::string& name);
 
 /// The definition of a table that is there. Raises the store's error.

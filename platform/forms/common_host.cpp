@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kStopIcon = 16;
 
-/// Whatever comes out of the scope, what it set up is undone.
+/// Runs `action` at the end of the scope, also when an exception leaves it.
 template <typename Action>
 class AtEnd {
  public:

@@ -56,7 +56,7 @@ bool Form::GestureOver(std::uint64_t life, std::uint64_t modal_serial) {
 }
 
 void Form::EndGesture() {
-  if (gesture_events_ > 0) return;  // these look after it themselves, as each of them ends
+  if (gesture_events_ > 0) return;  // an event of the gesture is running and ends it when it returns
   if (active_control_ != nullptr) active_control_->GestureCancelled();
   if (!gesture_.pressed) return;
   gesture_.pressed = false;

@@ -26,7 +26,7 @@ void NarrowCount(VARIANT* result) noexcept;
 [[noreturn]] void RaiseNotProvided();
 
 /// What every data object does alike beyond what all objects do: it answers to several identifiers, names the
-/// source of its errors, and keeps places that it does not fill.
+/// source of its errors, and answers 3251 for members that it does not provide.
 template <typename Interface>
 class DataObject : public DualObject<Interface> {
  protected:

@@ -4,7 +4,8 @@
 
 namespace orvendal {
 
-/// The places of _Recordset that the embedded store does not fill. Each answers 3251, with an empty result.
+/// The members of _Recordset that the embedded store does not provide. Each answers 3251, with an empty
+/// result.
 class RecordsetPlaces : public DataObject<::_Recordset> {
  public:
   HRESULT STDMETHODCALLTYPE get_Properties(IDispatch** result) noexcept override { return Refuse(result); }
