@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/error_of.h"
 #include "tests/support/form_driver.h"
 #include "tests/support/fresh_variables.h"
@@ -30,7 +31,7 @@ class FormLifetimeTest : public testing::Test {
     screen.Click("LblGuardar");
     screen.library.QueueEmployee({true, "E2", "Berta"});
     screen.Click("LblNuevo");
-    screen.DoubleClickCell(2, 0);
+    screen.DoubleClickCell(2, column::kCode);
     screen.form().variables.BufferTeclas = "84";
     screen.form().variables.CambiarEstilista = true;
     ASSERT_NE(screen.form().variables.RsCodigos, nullptr);

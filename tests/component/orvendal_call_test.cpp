@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/error_of.h"
 #include "tests/support/form_driver.h"
 #include "tests/support/title_bar.h"
@@ -114,8 +115,8 @@ TEST_F(OrvendalCallTest, MinimisedAndBackKeepsWhatWasEntered) {
   screen.EnterLine("P1", "12");
   ClickMinimize(screen);
   screen.Open();
-  EXPECT_EQ(screen.Cell(1, 0), "P1");
-  EXPECT_EQ(screen.Cell(1, 3), "12");
+  EXPECT_EQ(screen.Cell(1, column::kCode), "P1");
+  EXPECT_EQ(screen.Cell(1, column::kQuantity), "12");
   EXPECT_EQ(screen.form().TxtEmpleado.Text(), "Ana");
   EXPECT_TRUE(screen.host.ReportedErrors().empty());
 }
@@ -201,7 +202,7 @@ TEST_F(OrvendalCallTest, TheClassHoldsNoStateOfItsOwn) {
 
 TEST_F(OrvendalCallTest, ReturningFromAnotherFormOfTheHostActivatesAgainAndKeepsTheFocus) {
   screen.OpenWithStylist();
-  screen.DoubleClickCell(1, 0);
+  screen.DoubleClickCell(1, column::kCode);
   ASSERT_EQ(screen.Focused(), "TxtMSF");
   auto other = std::make_shared<Form>(screen.host, "FrmHost");
   other->Show();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/error_of.h"
 #include "tests/support/form_driver.h"
 
@@ -32,7 +33,7 @@ TEST_F(ActivationTest, TheFocusIsTakenBeforeTheRefresh) {
 
 TEST_F(ActivationTest, ALaterOneLeavesFocusAndEditorAsTheyAre) {
   screen.OpenWithStylist();
-  screen.DoubleClickCell(1, 0);
+  screen.DoubleClickCell(1, column::kCode);
   screen.Type("P1");
   screen.form().Form_Activate();
   EXPECT_EQ(screen.Focused(), "TxtMSF");
@@ -72,7 +73,7 @@ TEST_F(ActivationTest, DialogsRaiseNoActivationOnTheScreen) {
   int activations = 0;
   screen.form().OnActivate = [&] { ++activations; };
   screen.library.QueueEmployee({true, "E1", "Ana"});
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   screen.Key(key::kF1);
   screen.Key(key::kF2);
   EXPECT_EQ(activations, 0);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/form_driver.h"
 
 namespace orvendal {
@@ -75,7 +76,7 @@ TEST_P(BranchNameTest, ABranchThatIsMissingIsToldOnceAndTheScreenWorks) {
   EXPECT_EQ(name().Width(), 2805);
 
   screen.library.QueueEmployee({true, "E1", "Ana"});
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   screen.EnterLine("P1", "12");
   screen.Click("LblGuardar");
   EXPECT_EQ(screen.Sql("SELECT IdSucursal || IdProducto || StockActual FROM HistOrvendalcial"), "09P112");

@@ -134,14 +134,14 @@ TEST_F(CaptionsTest, AChangeOfTheDictionaryAfterTheLoadChangesNothing) {
   screen.Click("LblCancelar");
   EXPECT_EQ(screen.form().LblNuevo_0.Caption(), "Supervisor");
   EXPECT_EQ(screen.form().LblSupervisor.Caption(), "Supervisor");
-  EXPECT_EQ(screen.Cell(0, 0), "Código");
+  EXPECT_EQ(screen.Cell(0, column::kCode), "Código");
 }
 
 TEST_F(CaptionsTest, NoOtherHandlerReadsTheDictionaries) {
   Open();
   log.Take();
   screen.library.QueueEmployee({true, "E1", "Ana"});
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   screen.EnterLine("P1", "3");
   screen.Click("LblGuardar");
   screen.Key(key::kF1);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/form_driver.h"
 #include "tests/support/title_bar.h"
 
@@ -20,9 +21,9 @@ class ClosedFromInsideTest : public testing::Test {
     EXPECT_EQ(screen.Focused(), "PicServicios");
     screen.host.ForgetErrors();
     screen.library.QueueEmployee({true, "E1", "Ana"});
-    screen.ClickCell(1, 0);
+    screen.ClickCell(1, column::kCode);
     screen.EnterLine("P1", "3");
-    EXPECT_EQ(screen.Cell(1, 3), "3");
+    EXPECT_EQ(screen.Cell(1, column::kQuantity), "3");
     EXPECT_TRUE(screen.host.ReportedErrors().empty());
   }
 
@@ -67,13 +68,13 @@ TEST_F(ClosedFromInsideTest, InThePickerOfSupervisorMode) {
 TEST_F(ClosedFromInsideTest, InTheMessageThatAsksForAStylist) {
   screen.Open();
   CloseDuringTheNextDialog();
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   ExpectGoneAndAFreshOneToCome();
 }
 
 TEST_F(ClosedFromInsideTest, InTheProductSearch) {
   screen.OpenWithStylist();
-  screen.DoubleClickCell(1, 0);
+  screen.DoubleClickCell(1, column::kCode);
   screen.Type("nada");
   screen.library.QueueProduct("P1");
   CloseDuringTheNextDialog();

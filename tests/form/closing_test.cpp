@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/form_driver.h"
 #include "tests/support/title_bar.h"
 
@@ -17,6 +18,14 @@ void ByAltF4(FormDriver& screen) {
 }
 void ByTheWindowManager(FormDriver& screen) {
   screen.form().CloseRequest();
+}
+
+// Types over the quantity of the day's one line, and leaves the editor open.
+void TypeAnotherQuantity(FormDriver& screen) {
+  screen.AddCount("P1", 7, 9);
+  screen.OpenWithStylist();
+  screen.DoubleClickCell(1, column::kQuantity);
+  screen.Type("15");
 }
 
 /// Every way of closing does the same.
@@ -65,8 +74,8 @@ TEST_P(ClosingTest, CancelLeavesLinesAndForm) {
   Close();
   ASSERT_TRUE(screen.HasForm());
   EXPECT_TRUE(screen.form().Visible());
-  EXPECT_EQ(screen.Line(1)[0], "P1");
-  EXPECT_EQ(screen.Line(1)[3], "12");
+  EXPECT_EQ(screen.Line(1)[column::kCode], "P1");
+  EXPECT_EQ(screen.Line(1)[column::kQuantity], "12");
   EXPECT_EQ(screen.form().TxtEmpleado.Text(), "Ana");
   EXPECT_EQ(Stored(), "");
   EXPECT_TRUE(screen.form().TxtMSF.Visible());  // it stood on column 0 of the next line
@@ -90,25 +99,19 @@ TEST_P(ClosingTest, NoClosesWithoutSaving) {
 }
 
 TEST_P(ClosingTest, AQuantityOpenInTheEditorIsCommittedAndCountsAsAChange) {
-  screen.AddCount("P1", 7, 9);
-  screen.OpenWithStylist();
-  screen.DoubleClickCell(1, 3);
-  screen.Type("15");
+  TypeAnotherQuantity(screen);
   screen.library.TakeMessages();
   screen.library.QueueAnswer(message::kCancel);
   Close();
   ExpectTheQuestion();
   ASSERT_TRUE(screen.HasForm());
-  EXPECT_EQ(screen.Cell(1, 3), "15");
+  EXPECT_EQ(screen.Cell(1, column::kQuantity), "15");
   EXPECT_FALSE(screen.form().TxtMSF.Visible());
   EXPECT_EQ(screen.form().TxtMSF.Text(), "");
 }
 
 TEST_P(ClosingTest, AQuantityOpenInTheEditorIsSavedOnYes) {
-  screen.AddCount("P1", 7, 9);
-  screen.OpenWithStylist();
-  screen.DoubleClickCell(1, 3);
-  screen.Type("15");
+  TypeAnotherQuantity(screen);
   screen.library.QueueAnswer(message::kYes);
   Close();
   EXPECT_FALSE(screen.HasForm());
@@ -118,7 +121,7 @@ TEST_P(ClosingTest, AQuantityOpenInTheEditorIsSavedOnYes) {
 TEST_P(ClosingTest, ACodeOpenInTheEditorIsNoChange) {
   screen.AddCount("P1", 7, 9);
   screen.OpenWithStylist();
-  screen.DoubleClickCell(2, 0);
+  screen.DoubleClickCell(2, column::kCode);
   screen.Type("P2");
   screen.library.TakeMessages();
   Close();
@@ -129,7 +132,7 @@ TEST_P(ClosingTest, ACodeOpenInTheEditorIsNoChange) {
 
 TEST_P(ClosingTest, ADescriptionOpenInTheEditorIsNoChangeEither) {
   screen.OpenWithStylist();
-  screen.DoubleClickCell(1, 1);
+  screen.DoubleClickCell(1, column::kDescription);
   screen.Type("Crema");
   screen.library.TakeMessages();
   Close();
@@ -140,7 +143,7 @@ TEST_P(ClosingTest, ADescriptionOpenInTheEditorIsNoChangeEither) {
 TEST_P(ClosingTest, AnUnchangedQuantityOpenInTheEditorIsNoChange) {
   screen.AddCount("P1", 7, 9);
   screen.OpenWithStylist();
-  screen.DoubleClickCell(1, 3);
+  screen.DoubleClickCell(1, column::kQuantity);
   screen.library.TakeMessages();
   Close();
   EXPECT_FALSE(screen.HasForm());
@@ -179,7 +182,7 @@ TEST_P(ClosingTest, AnErrorThatNobodyTrapsInTheSaveKeepsTheFormOpen) {
   ASSERT_EQ(screen.host.ReportedErrors().size(), 1U);
   ASSERT_TRUE(screen.HasForm());
   EXPECT_EQ(screen.Codes(), std::vector<std::string>{"P1"});
-  EXPECT_EQ(screen.Cell(1, 3), "12");
+  EXPECT_EQ(screen.Cell(1, column::kQuantity), "12");
   screen.library.QueueAnswer(message::kNo);
   Close();
   EXPECT_FALSE(screen.HasForm());
@@ -202,7 +205,7 @@ TEST_P(ClosingTest, InSupervisorModeTheGuardAsksTheSame) {
   screen.Open();
   screen.library.QueueEmployee({true, "E2", "Berta"});
   screen.Click("LblNuevo");
-  screen.DoubleClickCell(1, 3);
+  screen.DoubleClickCell(1, column::kQuantity);
   screen.Type("4");
   screen.library.TakeMessages();
   screen.library.QueueAnswer(message::kYes);
@@ -233,20 +236,17 @@ TEST(MinimisingTest, TheButtonMinimisesAndTheFormStaysLoaded) {
   EXPECT_EQ(screen.form().WindowState(), WindowState::kMinimized);
   EXPECT_TRUE(screen.HasForm());
   EXPECT_TRUE(screen.library.TakeMessages().empty());
-  EXPECT_EQ(screen.Cell(1, 3), "12");
+  EXPECT_EQ(screen.Cell(1, column::kQuantity), "12");
 }
 
 TEST(MinimisingTest, AnOpenQuantityStaysOpen) {
   FormDriver screen;
-  screen.AddCount("P1", 7, 9);
-  screen.OpenWithStylist();
-  screen.DoubleClickCell(1, 3);
-  screen.Type("15");
+  TypeAnotherQuantity(screen);
   ClickMinimize(screen);
   screen.Open();
   EXPECT_TRUE(screen.form().TxtMSF.Visible());
   EXPECT_EQ(screen.form().TxtMSF.Text(), "15");
-  EXPECT_EQ(screen.Cell(1, 3), "9");
+  EXPECT_EQ(screen.Cell(1, column::kQuantity), "9");
 }
 
 TEST(MinimisingTest, TheMaximisedFormIsClosedLikeAnyOther) {

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/form_driver.h"
 
 namespace orvendal {
@@ -69,7 +70,7 @@ TEST_P(FunctionKeysTest, AConnectionReplacedByF2InTheMiddleOfACountTakesTheSave)
   const auto store = OtherStore();
   screen.library.ReplaceConnection("AbrirCambio", store);
   screen.Key(key::kF2);
-  EXPECT_EQ(screen.Cell(1, 0), "P1");
+  EXPECT_EQ(screen.Cell(1, column::kCode), "P1");
   screen.Click("LblGuardar");
   EXPECT_TRUE(screen.host.ReportedErrors().empty());
   EXPECT_EQ(screen.Sql("SELECT COUNT(*) FROM HistOrvendalcial"), "0");
@@ -138,7 +139,7 @@ TEST_P(FunctionKeysTest, AfterF2TheBranchOnTheScreenCanDifferUntilTheNextLoad) {
 
 TEST_P(FunctionKeysTest, TheEditorStaysAsItIs) {
   screen.OpenWithStylist();
-  screen.DoubleClickCell(1, 0);
+  screen.DoubleClickCell(1, column::kCode);
   screen.Type("P1");
   const Rect place = screen.form().TxtMSF.Bounds();
   for (const int code : {key::kF1, key::kF2}) {
@@ -150,13 +151,13 @@ TEST_P(FunctionKeysTest, TheEditorStaysAsItIs) {
     EXPECT_EQ(screen.Focused(), "TxtMSF");
   }
   screen.Enter();
-  EXPECT_EQ(screen.Cell(1, 0), "P1");
+  EXPECT_EQ(screen.Cell(1, column::kCode), "P1");
 }
 
 TEST_P(FunctionKeysTest, ReachTheFormWhateverHasTheFocus) {
   screen.OpenWithStylist();
   screen.library.TakeCalls();
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   ASSERT_EQ(screen.Focused(), "MSFProductos");
   screen.Key(key::kF1);
   screen.Click("TxtFechaHora");

@@ -51,7 +51,7 @@ TEST_F(GridDefinitionTest, TheNineColumns) {
   ASSERT_EQ(snapshot.Cols(), 9);
   const auto plain = std::make_shared<PlainForm>(screen.host);
   const MSFlexGrid& designed = plain->grid;
-  const double default_width = designed.ColWidth(0);
+  const double default_width = designed.ColWidth(column::kCode);
   for (int i = 0; i < 9; ++i) {
     SCOPED_TRACE(i);
     const Column& expected = kColumns[i];
@@ -119,7 +119,7 @@ TEST_F(GridDefinitionTest, AWordOfTheDictionaryAppearsInTheLinesOnly) {
 
 TEST_F(GridDefinitionTest, TheFirstColumnTakesTheCurrentCell) {
   screen.library.QueueEmployee({true, "E1", "Ana"});
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   EXPECT_EQ(lines.Row(), 1);
   EXPECT_EQ(lines.Col(), 0);
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "form/columns.h"
 #include "tests/support/form_driver.h"
 
 namespace orvendal {
@@ -116,7 +117,7 @@ TEST_P(ActionBarPressTest, AnUnavailableButtonRaisesNothing) {
 }
 
 TEST_P(ActionBarPressTest, AClickDoesNotMoveTheFocus) {
-  screen.DoubleClickCell(1, 0);
+  screen.DoubleClickCell(1, column::kCode);
   ASSERT_EQ(screen.Focused(), "TxtMSF");
   screen.robot().ClickAt(Middle());
   EXPECT_EQ(clicks, 1);

@@ -1,4 +1,5 @@
 #include "screen/action_bar.h"
+#include "form/columns.h"
 
 #include <gtest/gtest.h>
 
@@ -183,13 +184,13 @@ TEST_F(ActionBarTest, AChangeOfLookIsPaintedAtOnce) {
 TEST_F(ActionBarTest, TheSetsOfTheRoadOfOneCount) {
   EXPECT_EQ(Available(), (Names{"Nuevo", "Cancelar"}));  // at rest
   screen.library.QueueEmployee({true, "E1", "Ana"});
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   EXPECT_EQ(Available(), (Names{"Nuevo", "Borrar", "Guardar", "Cancelar"}));  // a stylist chosen
-  screen.DoubleClickCell(1, 0);
+  screen.DoubleClickCell(1, column::kCode);
   EXPECT_EQ(Available(), kAll);  // over a cell
   screen.Key(key::kEscape);
   EXPECT_EQ(Available(), (Names{"Nuevo", "Borrar", "Guardar", "Cancelar"}));
-  screen.DoubleClickCell(1, 0);
+  screen.DoubleClickCell(1, column::kCode);
   screen.Click("LblCancelar");
   EXPECT_EQ(Available(), (Names{"Nuevo", "Borrar", "Guardar", "Cancelar"}));
   screen.Click("LblGuardar");

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "form/columns.h"
 #include "platform/forms/control_looks.h"
 #include "tests/support/form_driver.h"
 
@@ -77,18 +78,18 @@ TEST_F(FitToDisplayTest, TheGridOfASmallDisplay) {
   EXPECT_EQ(grid.Top(), 1875);
   EXPECT_EQ(grid.Width(), 10230);
   EXPECT_EQ(grid.Height(), 5042);  // of 6455, which the start had set
-  EXPECT_EQ(grid.ColWidth(0), 1200);
-  EXPECT_EQ(grid.ColWidth(2), 1200);
-  EXPECT_EQ(grid.ColWidth(3), 1500);
-  EXPECT_EQ(grid.ColWidth(5), 1500);
-  EXPECT_EQ(grid.ColWidth(1), 10230 - 1200 - 1200 - 1500 - 1500 - 300);
+  EXPECT_EQ(grid.ColWidth(column::kCode), 1200);
+  EXPECT_EQ(grid.ColWidth(column::kPreviousQuantity), 1200);
+  EXPECT_EQ(grid.ColWidth(column::kQuantity), 1500);
+  EXPECT_EQ(grid.ColWidth(column::kStylist), 1500);
+  EXPECT_EQ(grid.ColWidth(column::kDescription), 10230 - 1200 - 1200 - 1500 - 1500 - 300);
 }
 
 TEST_F(FitToDisplayTest, TheEditorIsFittedAnewWithoutTheTenTwips) {
   OpenOn(12000, 9000);
   const TextBox& editor = screen.form().TxtMSF;
   EXPECT_EQ(editor.Height(), 510);
-  EXPECT_EQ(editor.Width(), screen.form().MSFProductos.ColWidth(1));
+  EXPECT_EQ(editor.Width(), screen.form().MSFProductos.ColWidth(column::kDescription));
   EXPECT_EQ(editor.Left(), 937 + 1200);
   EXPECT_EQ(editor.Top(), 1875 + 500);
 }

@@ -2,6 +2,7 @@
 
 #include <tuple>
 
+#include "form/columns.h"
 #include "tests/support/form_driver.h"
 
 namespace orvendal {
@@ -75,7 +76,7 @@ TEST_P(DayOfTheScreenTest, ASaveReplacesTheDayAndNoOther) {
   AddRow("P3", "2026-11-17 00:00:00");
   AddRow("P4", "2026-11-16 23:59:59");
   screen.OpenWithStylist();
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   screen.Click("LblBorrar");
   screen.Click("LblGuardar");
   EXPECT_TRUE(screen.host.ReportedErrors().empty());

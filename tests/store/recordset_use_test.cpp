@@ -115,7 +115,7 @@ TEST_P(RecordsetUseTest, TheLinesOfTheDayAreReadRowByRow) {
 }
 
 TEST_P(RecordsetUseTest, ACodeIsLookedUpAndItsLineFilledInTwoReadings) {
-  OpenOnAFreeCell(0);
+  OpenOnAFreeCell(column::kCode);
   hands().Type("P1");
   hands().Key(key::kReturn);
   const std::string by_code =
@@ -130,7 +130,7 @@ TEST_P(RecordsetUseTest, ACodeIsLookedUpAndItsLineFilledInTwoReadings) {
 }
 
 TEST_P(RecordsetUseTest, ABarCodeIsLookedUpWhileTheSearchByCodeStaysOpen) {
-  OpenOnAFreeCell(0);
+  OpenOnAFreeCell(column::kCode);
   hands().Type("8400000000024");
   hands().Key(key::kReturn);
   const Log all = log.Take();
@@ -151,7 +151,7 @@ TEST_P(RecordsetUseTest, ABarCodeIsLookedUpWhileTheSearchByCodeStaysOpen) {
 }
 
 TEST_P(RecordsetUseTest, ADescriptionIsLookedUpByItsBeginning) {
-  OpenOnAFreeCell(1);
+  OpenOnAFreeCell(column::kDescription);
   hands().Type("Laca");
   hands().Key(key::kReturn);
   const Log all = log.Take();
@@ -163,7 +163,7 @@ TEST_P(RecordsetUseTest, ADescriptionIsLookedUpByItsBeginning) {
 }
 
 TEST_P(RecordsetUseTest, ASaveDeletesAndAddsThroughTheOneRecordsetOfTheForm) {
-  OpenOnAFreeCell(0);
+  OpenOnAFreeCell(column::kCode);
   hands().Type("P1");
   hands().Key(key::kReturn);
   hands().Type("12");
@@ -201,7 +201,7 @@ TEST_P(RecordsetUseTest, ASaveDeletesAndAddsThroughTheOneRecordsetOfTheForm) {
 }
 
 TEST_P(RecordsetUseTest, AProductThatIsGoneLeavesItsLookUpToBeDroppedOpen) {
-  OpenOnAFreeCell(0);
+  OpenOnAFreeCell(column::kCode);
   hands().Type("P1");
   hands().Key(key::kReturn);
   hands().Key(key::kReturn);
@@ -217,7 +217,7 @@ TEST_P(RecordsetUseTest, AProductThatIsGoneLeavesItsLookUpToBeDroppedOpen) {
 }
 
 TEST_P(RecordsetUseTest, TheRecordsetOfASaveIsMadeOnFirstUseAndLivesAsLongAsTheForm) {
-  OpenOnAFreeCell(0);
+  OpenOnAFreeCell(column::kCode);
   EXPECT_EQ(state.form->variables.RsCodigos, nullptr);
   hands().Click(hands().Find("LblGuardar"));
   const RecordsetRef first = state.form->variables.RsCodigos;
@@ -230,7 +230,7 @@ TEST_P(RecordsetUseTest, TheRecordsetOfASaveIsMadeOnFirstUseAndLivesAsLongAsTheF
 }
 
 TEST_P(RecordsetUseTest, AfterAFailedSaveTheRecordsetStaysOpenUntilTheNextOne) {
-  OpenOnAFreeCell(0);
+  OpenOnAFreeCell(column::kCode);
   hands().Type("P1");
   hands().Key(key::kReturn);
   hands().Key(key::kReturn);
@@ -253,7 +253,7 @@ TEST_P(RecordsetUseTest, AfterAFailedSaveTheRecordsetStaysOpenUntilTheNextOne) {
 }
 
 TEST_P(RecordsetUseTest, AQuoteTypedIntoACodeEndsTheTextEarlyAndIsReported) {
-  OpenOnAFreeCell(0);
+  OpenOnAFreeCell(column::kCode);
   hands().Type("P'1");
   hands().Key(key::kReturn);
   ASSERT_EQ(screen.host.ReportedErrors().size(), 1U);
