@@ -2,13 +2,10 @@
 
 namespace orvendal {
 
-TextInOut::TextInOut(BSTR* place) : text(TextOfBstr(*place)), place_(place), was_(text) {}
-
-void TextInOut::Give() {
-  if (text == was_) return;
+void ReplaceText(BSTR& place, const std::string& text) {
   BSTR replacement = MakeBstr(text);
-  SysFreeString(*place_);
-  *place_ = replacement;
+  SysFreeString(place);
+  place = replacement;
 }
 
 void Replace(IDispatch*& place, ComPtr<IDispatch> object) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstring>
 #include <string>
 #include <utility>
 
@@ -17,19 +18,23 @@ namespace orvendal {
 // loop, and assign the variable meanwhile. So a cell remembers the value that it sent, and TakeOver assigns
 // the variable only if the callee replaced that value.
 
-/// A number of the same meaning on both sides.
-class LongCell {
+/// A number of the same meaning on both sides. Its bytes are compared, since not every eight of them are a
+/// number.
+template <typename Number>
+class NumberCell {
  public:
-  explicit LongCell(std::int32_t number) : sent_(number), cell_(number) {}
-  LONG* InOut() { return &cell_; }
-  void TakeOver(std::int32_t& number) const {
-    if (cell_ != sent_) number = cell_;
+  explicit NumberCell(Number number) : sent_(number), cell_(number) {}
+  Number* InOut() { return &cell_; }
+  template <typename Variable>
+  void TakeOver(Variable& variable) const {
+    if (std::memcmp(&cell_, &sent_, sizeof(cell_)) != 0) variable = Variable(cell_);
   }
 
  private:
-  LONG sent_;
-  LONG cell_;
+  Number sent_;
+  Number cell_;
 };
+using LongCell = NumberCell<LONG>;
 
 class TextCell {
  public:
@@ -61,17 +66,24 @@ class InterfaceCell {
 // For calls into the module: the argument is read when the call begins, and Give writes it back if it was
 // changed since. Null references were refused before.
 
-class TextInOut {
+template <typename Value, typename Place, auto Read, auto Put>
+class InOut {
  public:
-  explicit TextInOut(BSTR* place);
-  void Give();
+  explicit InOut(Place* place) : value(Read(*place)), place_(place), was_(value) {}
+  void Give() {
+    if (value != was_) Put(*place_, value);
+  }
 
-  std::string text;
+  Value value;
 
  private:
-  BSTR* place_;
-  std::string was_;
+  Place* place_;
+  Value was_;
 };
+
+/// Puts a text in place of what a reference holds.
+void ReplaceText(BSTR& place, const std::string& text);
+using TextInOut = InOut<std::string, BSTR, TextOfBstr, ReplaceText>;
 
 /// Puts `object` in place of what a reference holds.
 void Replace(IDispatch*& place, ComPtr<IDispatch> object);

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstring>
-
 #include "adapters/automation/call_out.h"
 #include "adapters/automation/in_out.h"
 #include "adapters/com/object_bridge.h"
@@ -18,47 +16,28 @@ struct Boundary {
 };
 
 /// The host's number of a width that only the host knows: eight bytes that are copied unread.
-class ScreenDatumCell {
+class ScreenDatumCell : public NumberCell<double> {
  public:
-  explicit ScreenDatumCell(const Value& datum)
-      : sent_(datum.IsNumber() ? datum.Number() : 0.0), cell_(sent_) {}
-  double* InOut() { return &cell_; }
-  void TakeOver(Value& datum) const {
-    if (std::memcmp(&cell_, &sent_, sizeof(cell_)) != 0) datum = Value(cell_);
-  }
-
- private:
-  double sent_;
-  double cell_;
+  explicit ScreenDatumCell(const Value& datum) : NumberCell(datum.IsNumber() ? datum.Number() : 0.0) {}
 };
 
-class ConnectionCell {
+/// A connection or a recordset.
+template <typename Ref, Ref (StoreBridge::*FromOutside)(IDispatch*)>
+class StoreCell {
  public:
-  ConnectionCell(Boundary& boundary, const ConnectionRef& connection)
-      : boundary_(boundary), cell_(boundary.store.ObjectOf(connection)) {}
+  StoreCell(Boundary& boundary, const Ref& ours)
+      : store_(boundary.store), cell_(boundary.store.ObjectOf(ours)) {}
   IDispatch** InOut() { return cell_.InOut(); }
-  void TakeOver(ConnectionRef& connection) const {
-    if (cell_.WasReplaced()) connection = boundary_.store.ConnectionOf(cell_.Get());
+  void TakeOver(Ref& ours) const {
+    if (cell_.WasReplaced()) ours = (store_.*FromOutside)(cell_.Get());
   }
 
  private:
-  Boundary& boundary_;
+  StoreBridge& store_;
   InterfaceCell cell_;
 };
-
-class RecordsetCell {
- public:
-  RecordsetCell(Boundary& boundary, const RecordsetRef& recordset)
-      : boundary_(boundary), cell_(boundary.store.ObjectOf(recordset)) {}
-  IDispatch** InOut() { return cell_.InOut(); }
-  void TakeOver(RecordsetRef& recordset) const {
-    if (cell_.WasReplaced()) recordset = boundary_.store.RecordsetOf(cell_.Get());
-  }
-
- private:
-  Boundary& boundary_;
-  InterfaceCell cell_;
-};
+using ConnectionCell = StoreCell<ConnectionRef, &StoreBridge::ConnectionOf>;
+using RecordsetCell = StoreCell<RecordsetRef, &StoreBridge::RecordsetOf>;
 
 class ObjectCell {
  public:

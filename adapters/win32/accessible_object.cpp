@@ -4,7 +4,6 @@
 #include <new>
 
 #include "adapters/automation/com_ptr.h"
-#include "adapters/automation/dual_object.h"
 #include "adapters/win32/form_accessible.h"
 #include "adapters/win32/thread_dpi.h"
 
@@ -90,39 +89,7 @@ HRESULT AccessibleObject::Give(std::optional<LONG> child, VARIANT* result) {
   return GiveNumber(*child, result);
 }
 
-// IUnknown.
-
-HRESULT AccessibleObject::QueryInterface(REFIID id, void** result) noexcept {
-  if (result == nullptr) return E_POINTER;
-  *result = nullptr;
-  if (IsMissing(id)) return E_INVALIDARG;
-  if (IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch) ||
-      IsEqualIID(id, __uuidof(IAccessible))) {
-    *result = static_cast<IAccessible*>(this);
-  } else if (IsEqualIID(id, IID_IOleWindow)) {
-    *result = static_cast<IOleWindow*>(this);
-  } else if (IsEqualIID(id, IID_IEnumVARIANT)) {
-    *result = static_cast<IEnumVARIANT*>(this);
-  } else {
-    return E_NOINTERFACE;
-  }
-  AddRef();
-  return S_OK;
-}
-
-ULONG AccessibleObject::Release() noexcept {
-  const ULONG left = --references_;
-  if (left == 0) delete this;
-  return left;
-}
-
 // IDispatch, by the system's own description of the interface.
-
-HRESULT AccessibleObject::GetTypeInfoCount(UINT* count) noexcept {
-  if (count == nullptr) return E_POINTER;
-  *count = 1;
-  return S_OK;
-}
 
 HRESULT AccessibleObject::GetTypeInfo(UINT index, LCID /*locale*/, ITypeInfo** info) noexcept {
   if (info == nullptr) return E_POINTER;
@@ -134,24 +101,17 @@ HRESULT AccessibleObject::GetTypeInfo(UINT index, LCID /*locale*/, ITypeInfo** i
   return result;
 }
 
-HRESULT AccessibleObject::GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID /*locale*/,
-                                        DISPID* members) noexcept {
-  const HRESULT whole = CheckNames(id, names, count, members);
-  if (whole != S_OK) return whole == S_FALSE ? S_OK : whole;
+HRESULT AccessibleObject::NumbersOf(LPOLESTR* names, UINT count, DISPID* members) {
   ComPtr<ITypeInfo> description;
   const HRESULT result = DescribeAccessible(description);
   return FAILED(result) ? result : description->GetIDsOfNames(names, count, members);
 }
 
-HRESULT AccessibleObject::Invoke(DISPID member, REFIID id, LCID locale, WORD flags, DISPPARAMS* parameters,
-                                 VARIANT* value, EXCEPINFO* exception, UINT* argument) noexcept {
-  if (const HRESULT whole = CheckCall(id, parameters, value, argument); FAILED(whole)) return whole;
+HRESULT AccessibleObject::Call(const DispatchCall& call) {
   ComPtr<ITypeInfo> description;
   const HRESULT result = DescribeAccessible(description);
   if (FAILED(result)) return result;
-  const ComPtr<IAccessible> self(this);
-  return CallByDescription(*description.Get(), self.Get(),
-                           {member, locale, flags, *parameters, value, exception, argument});
+  return CallByDescription(*description.Get(), static_cast<IAccessible*>(this), call);
 }
 
 // IAccessible.

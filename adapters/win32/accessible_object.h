@@ -4,46 +4,31 @@
 
 #include <oleacc.h>
 
-#include <atomic>
 #include <functional>
 #include <memory>
 
+#include "adapters/automation/dual_object.h"
 #include "adapters/win32/accessible_node.h"
-#include "adapters/win32/module_use.h"
 
 namespace orvendal {
 
 class FormAccessible;
 
 /// One object of the accessible tree as COM sees it: checks what it is asked, asks its node, and lets no
-/// exception out. Counts its references; the tree has one until it disconnects.
+/// exception out. The tree has one reference until it disconnects.
 ///
 /// Invariant: after Disconnect every question is answered with CO_E_OBJNOTCONNECTED.
-class AccessibleObject final : public IAccessible, public IOleWindow, public IEnumVARIANT {
+class AccessibleObject final : public DualObject<IAccessible, IOleWindow, IEnumVARIANT> {
  public:
   /// `node` outlives the connection.
   AccessibleObject(FormAccessible& tree, AccessibleNode& node);
   AccessibleObject(FormAccessible& tree, std::unique_ptr<AccessibleNode> node);
-  AccessibleObject(const AccessibleObject&) = delete;
-  AccessibleObject& operator=(const AccessibleObject&) = delete;
 
   /// The form is gone. Gives up the tree's reference.
   void Disconnect();
 
-  // IUnknown
-  [[nodiscard]] HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** result) noexcept override;
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() noexcept override;
-
-  // IDispatch
-  [[nodiscard]] HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override;
   [[nodiscard]] HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT index, LCID locale,
                                                       ITypeInfo** info) noexcept override;
-  [[nodiscard]] HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID id, LPOLESTR* names, UINT count, LCID locale,
-                                                        DISPID* members) noexcept override;
-  [[nodiscard]] HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID id, LCID locale, WORD flags,
-                                                 DISPPARAMS* parameters, VARIANT* result,
-                                                 EXCEPINFO* exception, UINT* argument) noexcept override;
 
   // IAccessible
   [[nodiscard]] HRESULT STDMETHODCALLTYPE get_accParent(IDispatch** parent) noexcept override;
@@ -85,7 +70,13 @@ class AccessibleObject final : public IAccessible, public IOleWindow, public IEn
  private:
   using Question = std::function<HRESULT()>;
   using ChildQuestion = std::function<HRESULT(LONG child)>;
-  ~AccessibleObject() = default;
+  ~AccessibleObject() override = default;
+  /// It explains no errors: no method of accessibility leaves error information.
+  void* Find(REFIID id) noexcept override {
+    return id == IID_ISupportErrorInfo ? nullptr : DualObject::Find(id);
+  }
+  HRESULT NumbersOf(LPOLESTR* names, UINT count, DISPID* members) override;
+  HRESULT Call(const DispatchCall& call) override;
 
   HRESULT Ask(const Question& question) noexcept;
   HRESULT AskChild(const VARIANT& child, const ChildQuestion& question) noexcept;
@@ -93,8 +84,6 @@ class AccessibleObject final : public IAccessible, public IOleWindow, public IEn
   HRESULT Give(std::optional<LONG> child, VARIANT* result);
   std::optional<LONG> Sibling(LONG child, LONG direction);
 
-  const ModuleUse use_;
-  std::atomic<ULONG> references_ = 1;
   std::unique_ptr<AccessibleNode> owned_;
   FormAccessible* tree_;
   AccessibleNode* node_;  // nullptr after Disconnect, like tree_

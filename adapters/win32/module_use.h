@@ -2,8 +2,8 @@
 
 namespace orvendal {
 
-/// A hold on the code of this module, from any thread, while it must not be unloaded: a window of it exists,
-/// one of its procedures runs, or somebody outside has an object of it.
+/// A hold on the code of this module, from any thread, while it must not be unloaded: a window of it exists
+/// or one of its procedures runs. The objects of it that somebody outside has hold it by themselves.
 class ModuleUse {
  public:
   ModuleUse();

@@ -5,14 +5,11 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QWidget>
-#include <exception>
-#include <stdexcept>
 #include <utility>
 
-#include "adapters/headless/headless_host.h"
 #include "adapters/qt/qt_window_host.h"
-#include "platform/forms/common_window.h"
 #include "platform/forms/keys.h"
+#include "tests/scripts/desktop_script_windows.h"
 
 namespace orvendal {
 namespace {
@@ -45,51 +42,21 @@ Qt::KeyboardModifiers ModifiersOf(int shift) {
   return modifiers;
 }
 
-// A desktop of Qt that measures as the host without a display does.
-class MeasuredQtHost final : public QtWindowHost {
+QtHostOptions ToldTo(std::function<void(const RuntimeError&)> told) {
+  QtHostOptions options;
+  options.on_error = std::move(told);
+  return options;
+}
+
+class MeasuredQtHost final : public MeasuredDesktop<QtWindowHost> {
  public:
-  MeasuredQtHost(const Region& region, Clock& clock, QtHostOptions options)
-      : QtWindowHost(region, clock, std::move(options)), measures_(region, clock) {}
-
-  void SetScreen(int width, int height) { measures_.SetScreen(width, height); }
-  void AnswerNextDialog(std::function<void(Form&)> answer) { answer_ = std::move(answer); }
-
-  double ScreenWidth() override { return measures_.ScreenWidth(); }
-  double ScreenHeight() override { return measures_.ScreenHeight(); }
-  Rect RoomInFrame() override { return measures_.RoomInFrame(); }
-  double TextWidth(const FontSpec& font, std::string_view text) override {
-    return measures_.TextWidth(font, text);
-  }
-  double LineHeight(const FontSpec& font) override { return measures_.LineHeight(font); }
-  Rect TextInk(const FontSpec& font, std::string_view text) override { return measures_.TextInk(font, text); }
+  MeasuredQtHost(const Region& region, Clock& clock, std::function<void(const RuntimeError&)> told)
+      : MeasuredDesktop(region, clock, region, clock, ToldTo(std::move(told))) {}
 
  protected:
-  // The answer is given inside the dialog's own event loop, which no exception may leave.
-  std::unique_ptr<ModalLoop> MakeModalLoop(const CommonWindow& window) override {
-    Form& form = window.TheForm();
-    if (!answer_) throw UnansweredDialog("no answer is queued for the dialog " + form.Name());
-    const auto give = [this, &form, answer = std::exchange(answer_, nullptr)] {
-      try {
-        answer(form);
-        if (form.Visible()) throw UnansweredDialog("the answer left the dialog " + form.Name() + " open");
-      } catch (...) {
-        failure_ = std::current_exception();
-        form.Unload();
-      }
-    };
-    QMetaObject::invokeMethod(qApp, give, Qt::QueuedConnection);
-    return QtWindowHost::MakeModalLoop(window);
+  void AtNextTurn(std::function<void()> action) override {
+    QMetaObject::invokeMethod(qApp, std::move(action), Qt::QueuedConnection);
   }
-
-  void DialogOver() override {
-    QtWindowHost::DialogOver();
-    if (failure_) std::rethrow_exception(std::exchange(failure_, nullptr));
-  }
-
- private:
-  HeadlessHost measures_;
-  std::function<void(Form&)> answer_;
-  std::exception_ptr failure_;
 };
 
 // Each event goes to the window, and what it leaves to be done is done before the next.
@@ -130,34 +97,10 @@ class WindowInput final : public FormInput {
   MeasuredQtHost& host_;
 };
 
-class QtScriptWindows final : public ScriptWindows {
- public:
-  QtScriptWindows(const Region& region, Clock& clock) : host_(region, clock, Options()) {}
-
-  WindowHost& Host() override { return host_; }
-  FormInput& Input() override { return input_; }
-  void SetScreen(int width, int height) override { host_.SetScreen(width, height); }
-  void OnReport(std::function<void(const RuntimeError&)> told) override { told_ = std::move(told); }
-  void AnswerNextDialog(std::function<void(Form&)> answer) override {
-    host_.AnswerNextDialog(std::move(answer));
-  }
-
- private:
-  QtHostOptions Options() {
-    QtHostOptions options;
-    options.on_error = [this](const RuntimeError& error) { told_(error); };
-    return options;
-  }
-
-  std::function<void(const RuntimeError&)> told_;
-  MeasuredQtHost host_;
-  WindowInput input_{host_};
-};
-
 }  // namespace
 
 std::unique_ptr<ScriptWindows> MakeQtScriptWindows(const Region& region, Clock& clock) {
-  return std::make_unique<QtScriptWindows>(region, clock);
+  return std::make_unique<DesktopScriptWindows<MeasuredQtHost, WindowInput>>(region, clock);
 }
 
 }  // namespace orvendal

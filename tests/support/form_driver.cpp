@@ -39,11 +39,12 @@ void TestSession::RellenarSesion(const SessionArguments& session) {
   if (meddle) meddle(session);
 }
 
-ScreenDriver::ScreenDriver(WindowHost& window_host, Dialect dialect)
+ScreenDriver::ScreenDriver(WindowHost& window_host, Dialect dialect, FormInput& input)
     : connection(SqliteConnection::Open(":memory:", dialect, window_host.UserRegion(), OpenMode::kCreate)),
       plain_library(window_host),
       library(plain_library, window_host),
-      state{Environment{window_host, recordsets, library}} {
+      state{Environment{window_host, recordsets, library}},
+      input_(input) {
   CreateSchema(*connection);
   connection->Execute(kChain);
   for (int number = 10; number <= 40; ++number) {

@@ -49,8 +49,9 @@ class TestSession final : public DatosClase {
 /// and P10 to P40 "Producto 10" to "Producto 40" with stock equal to the number. No counts.
 class ScreenDriver {
  public:
-  /// `window_host` outlives the object.
-  explicit ScreenDriver(WindowHost& window_host, Dialect dialect = Dialect::kSqlServer);
+  /// `window_host` and `input`, by which the hands reach the screen, outlive the object.
+  explicit ScreenDriver(WindowHost& window_host, Dialect dialect = Dialect::kSqlServer,
+                        FormInput& input = DirectInput());
   ~ScreenDriver();
   ScreenDriver(const ScreenDriver&) = delete;
   ScreenDriver& operator=(const ScreenDriver&) = delete;
@@ -72,7 +73,7 @@ class ScreenDriver {
   void Type(std::string_view text) { robot().Type(text); }
   void Key(int key_code, int shift = 0) { robot().Key(key_code, shift); }
   void Enter() { Key(key::kReturn); }
-  Robot robot() { return Robot(form()); }
+  Robot robot() { return Robot(form(), input_); }
   /// Opens the editor on the first free line and enters a product and its quantity, as a person does.
   void EnterLine(const std::string& code, const std::string& quantity);
 
@@ -98,6 +99,9 @@ class ScreenDriver {
   ScriptedLibrary library;
   std::shared_ptr<TestSession> session = std::make_shared<TestSession>();
   ComponentState state;
+
+ private:
+  FormInput& input_;
 };
 
 /// A host without a display. The clock stands at 2026-11-16 10:30:00.

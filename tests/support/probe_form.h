@@ -6,9 +6,13 @@
 #include <vector>
 
 #include "platform/forms/form.h"
+#include "platform/forms/month_view.h"
 #include "platform/forms/text_box.h"
+#include "platform/forms/timer.h"
 
 namespace orvendal {
+
+using Log = std::vector<std::string>;
 
 /// It is half past ten on 16 November 2026.
 class StillClock final : public Clock {
@@ -62,7 +66,30 @@ class ProbeForm final : public Form {
   int start_up_position = 3;
 
   void Note(const std::string& line) { log.push_back(line); }
-  std::vector<std::string> log;
+  /// Notes the form's keys: "down 65" or "down 65+1" with what is held, "press 97", "up 65".
+  void LogKeys() {
+    OnKeyDown = [this](int& code, int shift) {
+      Note("down " + std::to_string(code) + (shift != 0 ? "+" + std::to_string(shift) : ""));
+    };
+    OnKeyPress = [this](int& ascii) { Note("press " + std::to_string(ascii)); };
+    OnKeyUp = [this](int& code, int) { Note("up " + std::to_string(code)); };
+  }
+  /// Notes what the mouse does on a probe: "down", "up", "click", "double".
+  void LogMouse(ProbeControl& probe) {
+    probe.OnMouseDown = [this](int, int, double, double) { Note("down"); };
+    probe.OnMouseUp = [this](int, int, double, double) { Note("up"); };
+    probe.OnClick = [this] { Note("click"); };
+    probe.OnDblClick = [this] { Note("double"); };
+  }
+  /// The same with button, what is held, and place of a press: "down 1 0 150 300".
+  void LogMouseWithPlaces(ProbeControl& probe) {
+    LogMouse(probe);
+    probe.OnMouseDown = [this](int button, int shift, double x, double y) {
+      Note("down " + std::to_string(button) + " " + std::to_string(shift) + " " +
+           std::to_string(static_cast<int>(x)) + " " + std::to_string(static_cast<int>(y)));
+    };
+  }
+  Log log;
 
  protected:
   void ApplyDesign() override {
@@ -78,6 +105,33 @@ class ProbeForm final : public Form {
     box.TabIndex(0);
     left.TabIndex(1);
     right.TabIndex(2);
+  }
+};
+
+/// A form that is a calendar.
+class CalendarForm final : public Form {
+ public:
+  explicit CalendarForm(WindowHost& host) : Form(host, "Calendars") {}
+  MonthView calendar{*this, nullptr, "Calendar"};
+
+ protected:
+  void ApplyDesign() override {
+    Width(6000);
+    Height(6000);
+    calendar.Move(0, 0, 6000, 6000);
+  }
+};
+
+/// A form with a timer.
+class TimerForm final : public Form {
+ public:
+  explicit TimerForm(WindowHost& host) : Form(host, "Timers") {}
+  Timer timer{*this, nullptr, "Clock"};
+
+ protected:
+  void ApplyDesign() override {
+    Width(1500);
+    Height(1500);
   }
 };
 

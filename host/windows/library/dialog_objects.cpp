@@ -53,7 +53,7 @@ HRESULT SessionChangeObject::AbrirCambio(IDispatch** conexion, double* dato_pant
     std::int32_t height = *alto_base;
     std::int32_t outcome = *resultado;
     LibraryState::Of().Library().NewCambioSesion()->AbrirCambio(
-        connection.connection, on_screen, branch.text, workstation.text, shift.text, width, height, outcome);
+        connection.value, on_screen, branch.value, workstation.value, shift.value, width, height, outcome);
     connection.Give();
     branch.Give();
     workstation.Give();
@@ -79,7 +79,7 @@ HRESULT ProductSearchObject::Buscar(_DatosClase** datos_sesion, IDispatch** form
     ObjectRef form;
     bool flag = *indicador != VARIANT_FALSE;
     *codigo = MakeBstr(LibraryState::Of().Library().NewBuscadorProductos()->Buscar(
-        session, form, caller.text, field.text, text.text, mode.text, flag));
+        session, form, caller.value, field.value, text.value, mode.value, flag));
   });
 }
 
@@ -129,7 +129,7 @@ HRESULT EmployeePickerObject::Elegir(IDispatch** conexion, BSTR* cod_sucursal) n
     const auto picker = LibraryState::Of().Library().NewSelectorEmpleado();
     picker->ParaNuevo(for_new_);
     picker->OpcionFija(fixed_option_);
-    picker->Elegir(connection.connection, branch.text);
+    picker->Elegir(connection.value, branch.value);
     accepted_ = picker->Aceptado();
     if (accepted_) {
       code_ = picker->Codigo();

@@ -32,7 +32,7 @@ HRESULT ToolsObject::AccionPuesto(IDispatch** conexion, BSTR* cod_puesto) noexce
   return Do({conexion, cod_puesto}, [&] {
     ConnectionInOut connection(conexion);
     TextInOut workstation(cod_puesto);
-    LibraryState::Of().Library().NewHerramientas()->AccionPuesto(connection.connection, workstation.text);
+    LibraryState::Of().Library().NewHerramientas()->AccionPuesto(connection.value, workstation.value);
     connection.Give();
     workstation.Give();
   });
@@ -49,7 +49,7 @@ HRESULT ToolsObject::FormatoFecha(BSTR* fecha, unsigned char* opcion, BSTR* modo
     TextInOut first_mode(modo1);
     TextInOut second_mode(modo2);
     *texto = MakeBstr(LibraryState::Of().Library().NewHerramientas()->FormatoFecha(
-        date.text, *opcion, first_mode.text, second_mode.text));
+        date.value, *opcion, first_mode.value, second_mode.value));
   });
 }
 
@@ -58,8 +58,8 @@ HRESULT ToolsObject::RegistrarSentencia(BSTR* cadena_sesion, IDispatch** conexio
     TextInOut session(cadena_sesion);
     ConnectionInOut connection(conexion);
     TextInOut statement(sentencia);
-    LibraryState::Of().Library().NewHerramientas()->RegistrarSentencia(session.text, connection.connection,
-                                                                       statement.text);
+    LibraryState::Of().Library().NewHerramientas()->RegistrarSentencia(session.value, connection.value,
+                                                                       statement.value);
   });
 }
 
@@ -77,8 +77,8 @@ HRESULT RecalculationObject::RecalcularProducto(IDispatch** conexion, BSTR* clav
     TextInOut branch(clave_sucursal);
     TextInOut code(codigo);
     TextInOut text(texto);
-    LibraryState::Of().Library().NewRecalculo()->RecalcularProducto(connection.connection, branch.text,
-                                                                    code.text, text.text);
+    LibraryState::Of().Library().NewRecalculo()->RecalcularProducto(connection.value, branch.value,
+                                                                    code.value, text.value);
   });
 }
 
@@ -88,7 +88,7 @@ HRESULT MessagesObject::Mostrar(BSTR* texto, LONG* estilo, BSTR* titulo, LONG* r
     TextInOut title(titulo);
     std::int32_t style = *estilo;
     std::int32_t answer = 0;
-    LibraryState::Of().Library().NewMensajes()->Mostrar(text.text, style, title.text, answer);
+    LibraryState::Of().Library().NewMensajes()->Mostrar(text.value, style, title.value, answer);
     *respuesta = answer;
   });
 }

@@ -61,10 +61,10 @@ HRESULT SessionObject::RellenarSesion(IDispatch** conexion, IDispatch** objeto1,
     if (!session.connection) state.OpenStore("", ProviderOf(dialect_));
     const Dictionaries dictionaries =
         SelectDictionaries(session.recordsets, session.connection, state.GetLanguage());
-    if (!branch_.empty()) branch.text = branch_;
+    if (!branch_.empty()) branch.value = branch_;
     // Somebody who asks for the connection alone, as the search does, names no branch.
-    if (!branch.text.empty()) session.sucursal = branch.text;
-    text.text = SessionText(session);
+    if (!branch.value.empty()) session.sucursal = branch.value;
+    text.value = SessionText(session);
 
     ReplaceByStores(conexion, session.connection);
     *ancho_base = session.ancho_base;

@@ -1,6 +1,5 @@
 #include <QScreen>
 
-#include "platform/forms/timer.h"
 #include "tests/adapters/qt/qt_fixture.h"
 
 namespace orvendal {
@@ -106,12 +105,6 @@ TEST_F(WindowHosts, AFormOfACenteredDesignStandsOverItsOwner) {
   EXPECT_NEAR(place.center().x(), Window()->geometry().center().x(), 2);
   EXPECT_NEAR(place.center().y(), Window()->geometry().center().y(), 2);
 }
-
-class TimerForm final : public Form {
- public:
-  explicit TimerForm(WindowHost& host) : Form(host, "Timers"), timer(*this, nullptr, "Clock") {}
-  Timer timer;
-};
 
 TEST_F(WindowHosts, ATimerRunsWhileItIsEnabled) {
   const auto ticking = std::make_shared<TimerForm>(host);

@@ -3,13 +3,10 @@
 #include <stdexcept>
 
 #include "platform/forms/keys.h"
-#include "platform/forms/month_view.h"
 #include "tests/adapters/qt/qt_fixture.h"
 
 namespace orvendal {
 namespace {
-
-using Log = std::vector<std::string>;
 
 // As the window system does it: the second press comes as a double click.
 void DoubleClick(QWidget* window, QPoint place) {
@@ -29,42 +26,25 @@ void MoveMouse(QWidget* window, QPoint place) {
   QApplication::sendEvent(window, &event);
 }
 
-class WindowInput : public QtFormTest {
- protected:
-  void LogKeys() {
-    form->OnKeyDown = [this](int& code, int shift) {
-      form->Note("down " + std::to_string(code) + (shift != 0 ? "+" + std::to_string(shift) : ""));
-    };
-    form->OnKeyPress = [this](int& ascii) { form->Note("press " + std::to_string(ascii)); };
-    form->OnKeyUp = [this](int& code, int) { form->Note("up " + std::to_string(code)); };
-  }
-};
+class WindowInput : public QtFormTest {};
 
 TEST_F(WindowInput, AClickArrivesAtItsPlaceInTwips) {
   ShowForm();
-  form->right.OnMouseDown = [this](int button, int shift, double x, double y) {
-    form->Note("down " + std::to_string(button) + " " + std::to_string(shift) + " " +
-               std::to_string(static_cast<int>(x)) + " " + std::to_string(static_cast<int>(y)));
-  };
-  form->right.OnMouseUp = [this](int, int, double, double) { form->Note("up"); };
-  form->right.OnClick = [this] { form->Note("click"); };
+  form->LogMouseWithPlaces(form->right);
   QTest::mouseClick(Window(), Qt::LeftButton, Qt::ShiftModifier, QPoint(210, 20));
   EXPECT_EQ(form->log, (Log{"down 1 1 150 300", "up", "click"}));
 }
 
 TEST_F(WindowInput, TheSecondPressOfADoubleClickIsNoPressOfItsOwn) {
   ShowForm();
-  form->left.OnMouseDown = [this](int, int, double, double) { form->Note("down"); };
-  form->left.OnMouseUp = [this](int, int, double, double) { form->Note("up"); };
-  form->left.OnClick = [this] { form->Note("click"); };
-  form->left.OnDblClick = [this] { form->Note("double"); };
+  form->LogMouse(form->left);
   DoubleClick(Window(), QPoint(10, 10));
   EXPECT_EQ(form->log, (Log{"down", "up", "click", "double", "up"}));
 }
 
 TEST_F(WindowInput, AnExtraButtonOfTheMouseDoesNothing) {
   ShowForm();
-  form->left.OnMouseDown = [this](int, int, double, double) { form->Note("down"); };
+  form->LogMouse(form->left);
   QTest::mouseClick(Window(), Qt::BackButton, {}, QPoint(10, 10));
   EXPECT_TRUE(form->log.empty());
 }
@@ -76,19 +56,6 @@ TEST_F(WindowInput, TheWheelTurnedTowardsTheUserScrollsDown) {
   QApplication::sendEvent(Window(), &event);
   EXPECT_DOUBLE_EQ(form->left.wheel_lines, QApplication::wheelScrollLines());
 }
-
-class CalendarForm final : public Form {
- public:
-  explicit CalendarForm(WindowHost& host) : Form(host, "Calendars") {}
-  MonthView calendar{*this, nullptr, "Calendar"};
-
- protected:
-  void ApplyDesign() override {
-    Width(6000);
-    Height(6000);
-    calendar.Move(0, 0, 6000, 6000);
-  }
-};
 
 // Each of the small turns was a month: a touchpad over the calendar flew a year.
 TEST_F(WindowInput, ATouchpadTurnsACalendarByAMonthANotch) {
@@ -114,7 +81,7 @@ TEST_F(WindowInput, ThePointerTakesTheShapeOfWhatLiesUnderIt) {
 
 TEST_F(WindowInput, AKeyIsPressedThenWrittenThenReleased) {
   ShowForm();
-  LogKeys();
+  form->LogKeys();
   QTest::keyClick(Window(), Qt::Key_A);
   QTest::keyClick(Window(), Qt::Key_F1);
   QTest::keyClick(Window(), Qt::Key_Return);
@@ -125,7 +92,7 @@ TEST_F(WindowInput, AKeyIsPressedThenWrittenThenReleased) {
 
 TEST_F(WindowInput, AKeyHeldDownRepeatsWithoutBeingReleased) {
   ShowForm();
-  LogKeys();
+  form->LogKeys();
   QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a", true);
   QKeyEvent release(QEvent::KeyRelease, Qt::Key_A, Qt::NoModifier, "a", true);
   for (int i = 0; i < 2; ++i) {
@@ -161,7 +128,7 @@ TEST_F(WindowInput, ControlLettersCopyAndPaste) {
 
 TEST_F(WindowInput, ADeadKeyOrAnInputMethodWritesWhatItCommits) {
   ShowForm();
-  LogKeys();
+  form->LogKeys();
   QInputMethodEvent event;
   event.setCommitString(QString::fromUtf8("éñ"));
   QApplication::sendEvent(Window(), &event);
