@@ -81,6 +81,7 @@ constexpr std::array kKnown = {
                      &Words::connection_closed},
     // The runtime.
     KnownDescription{"Overflow", &Words::number_too_large},
+    KnownDescription{"Overflow: the field '%2' holds a number beyond all bounds.", &Words::field_too_large},
     KnownDescription{
         "Overflow: the grid has more than the %2 rows that a save takes. Nothing was deleted or saved. "
         "Note the lines that are new, press Cancel to load the day again, and enter fewer of them.",

@@ -100,7 +100,8 @@ struct Words {
   std::string_view not_now;
   std::string_view wrong_argument;
   std::string_view number_too_large;
-  std::string_view grid_too_long;  // %2 is how many rows can be saved
+  std::string_view field_too_large;  // %2
+  std::string_view grid_too_long;    // %2 is how many rows can be saved
   std::string_view lines_not_whole;
   std::string_view value_empty;
   std::string_view object_missing;

@@ -119,6 +119,10 @@ const Words& CatalanWords() {
       .not_now = "La base de dades no pot fer això en aquest moment. Repetiu el que fèieu.",
       .wrong_argument = "Una dada no val per al que es demana.",
       .number_too_large = "Un nombre és massa gran. Corregiu-lo i repetiu el que fèieu.",
+      .field_too_large =
+          "El camp %2 de la base de dades conté un nombre sense límit. S’ha de corregir a la base de dades; "
+          "fins "
+          "aleshores aquestes files no es poden carregar.",
       .grid_too_long =
           "El recompte té més de les %2 files que es poden desar. No s’ha esborrat ni desat res. Apunteu les "
           "línies noves, premeu Cancel·lar per carregar el dia una altra vegada i introduïu-ne menys.",

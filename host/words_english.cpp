@@ -116,6 +116,10 @@ const Words& EnglishWords() {
       .not_now = "The database cannot do that at this moment. Do it again.",
       .wrong_argument = "A value does not serve for what is asked.",
       .number_too_large = "A number is too large. Correct it and do it again.",
+      .field_too_large =
+          "The field %2 of the database holds a number beyond all bounds. It has to be corrected in the "
+          "database; "
+          "until then those rows cannot be loaded.",
       .grid_too_long =
           "The count has more than the %2 rows that can be saved. Nothing was deleted or saved. Note the "
           "lines that are new, press Cancel to load the day again, and enter fewer of them.",

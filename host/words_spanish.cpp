@@ -123,6 +123,10 @@ const Words& SpanishWords() {
       .not_now = "La base de datos no puede hacer eso en este momento. Repita lo que hacía.",
       .wrong_argument = "Un dato no vale para lo que se pide.",
       .number_too_large = "Un número es demasiado grande. Corríjalo y repita lo que hacía.",
+      .field_too_large =
+          "El campo %2 de la base de datos contiene un número sin límite. Hay que corregirlo en la base de "
+          "datos; "
+          "hasta entonces esas filas no se pueden cargar.",
       .grid_too_long =
           "El recuento tiene más de las %2 filas que se pueden guardar. No se ha borrado ni guardado nada. "
           "Apunte las líneas nuevas, pulse Cancelar para cargar el día otra vez e introduzca menos.",

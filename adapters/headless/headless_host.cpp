@@ -170,7 +170,7 @@ void HeadlessHost::TellError(const RuntimeError& error) {
 }
 
 void HeadlessHost::Log(const char*, const char*) {
-  throw;
+  throw;  // cppcheck-suppress rethrowNoCurrentException
 }
 
 }  // namespace orvendal

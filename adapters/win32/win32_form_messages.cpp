@@ -102,6 +102,8 @@ std::optional<LRESULT> Win32FormWindow::HandleWindow(UINT message, WPARAM wparam
     case WM_CLOSE:
       host_.Guard([this] { form_.CloseRequest(); });
       return 0;
+    case WM_QUERYENDSESSION:
+      return SessionMayEnd(lparam) ? TRUE : FALSE;
     case WM_SIZE:
       TakeStateFromSystem(wparam);
       return 0;
@@ -143,6 +145,15 @@ std::optional<LRESULT> Win32FormWindow::HandleWindow(UINT message, WPARAM wparam
     default:
       return std::nullopt;
   }
+}
+
+// Taken as the close button is, so that what is not saved is asked for; a screen that stays keeps the
+// session, one under a dialog as well. When the system goes in any case there is nobody to answer.
+bool Win32FormWindow::SessionMayEnd(LPARAM reason) {
+  if ((static_cast<DWORD>(reason) & ENDSESSION_CRITICAL) != 0 || !IsShown()) return true;
+  const std::shared_ptr<Link> link = link_;
+  host_.Guard([this] { form_.CloseRequest(); });
+  return link->window == nullptr || !link->window->IsShown();
 }
 
 std::optional<LRESULT> Win32FormWindow::HandleInput(UINT message, WPARAM wparam, LPARAM lparam) {

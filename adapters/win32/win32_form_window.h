@@ -83,6 +83,7 @@ class Win32FormWindow final : public CommonWindow {
   std::optional<LRESULT> HandleWindow(UINT message, WPARAM wparam, LPARAM lparam);
   std::optional<LRESULT> HandleInput(UINT message, WPARAM wparam, LPARAM lparam);
   std::optional<LRESULT> AnswerAssistant(WPARAM wparam, LPARAM lparam);
+  bool SessionMayEnd(LPARAM reason);
   void PaintWindow();
   void PaintPart(HDC dc, const RECT& part);
   void LostFromOutside();

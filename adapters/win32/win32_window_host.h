@@ -40,6 +40,7 @@ class Win32WindowHost : public CommonHost {
   ~Win32WindowHost() override;
 
   const Region& UserRegion() override { return given_region_ != nullptr ? *given_region_ : region_; }
+  // cppcheck-suppress returnTempReference
   Clock& SystemClock() override { return given_clock_ != nullptr ? *given_clock_ : clock_; }
   /// Of the primary display.
   double ScreenWidth() override;

@@ -16,10 +16,13 @@ class ScriptStop : public std::runtime_error {
   static constexpr int kCannotGoOn = 2;
 
   explicit ScriptStop(const std::string& sentence, int exit_code = kCannotGoOn)
-      : std::runtime_error(sentence), exit_code_(exit_code) {}
+      : std::runtime_error(sentence), sentence_(sentence), exit_code_(exit_code) {}
+  /// Whole, where what() ends at a NUL of the script.
+  const std::string& Sentence() const { return sentence_; }
   int ExitCode() const { return exit_code_; }
 
  private:
+  std::string sentence_;
   int exit_code_;
 };
 

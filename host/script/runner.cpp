@@ -38,7 +38,7 @@ class Run {
       RunLines(script, folder_, commands);
       return 0;
     } catch (const ScriptStop& reason) {
-      return Stop(reason.what(), reason.ExitCode());
+      return Stop(reason.Sentence(), reason.ExitCode());
     } catch (const UnansweredQuestion& question) {
       return Stop(question.what());
     } catch (const StoreUnavailable& reason) {

@@ -12,7 +12,10 @@ void Connection::Close() {}
 
 Value Field::Value() const {
   orvendal::Value value = recordset_->FieldValue(index_);
-  if (value.IsNumber() && !std::isfinite(value.Number())) throw RuntimeError(error_number::kOverflow);
+  if (value.IsNumber() && !std::isfinite(value.Number())) {
+    throw RuntimeError(error_number::kOverflow, "Overflow: the field '" + recordset_->FieldName(index_) +
+                                                    "' holds a number beyond all bounds.");
+  }
   return value;
 }
 

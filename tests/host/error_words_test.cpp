@@ -120,6 +120,9 @@ TEST(ErrorWords, NoErrorOfTheStoreIsToldInEnglish) {
       rows->Update();
     });
     raise([&] { open("SELECT Productos.* FROM Productos", store)->AbsolutePosition(0); });
+    store->Execute("INSERT INTO ProdSucStock VALUES ('01', 'P1', 9e999)");
+    raise([&] { open("SELECT * FROM ProdSucStock", store)->Fields("Stock").Value(); });
+    EXPECT_NE(Spanish(raised.back()).find("Stock"), std::string::npos) << "which field has to be put right";
   }
   for (const std::string& description : raised) {
     for (const Language language : {Language::kSpanish, Language::kCatalan, Language::kEnglish}) {

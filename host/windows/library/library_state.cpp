@@ -18,17 +18,12 @@
 #include "host/store/host_store.h"
 #include "host/store/private_file.h"
 #include "host/text/utf8_path.h"
+#include "host/windows/user_language.h"
 
 namespace orvendal {
 namespace {
 
 LibraryState* state = nullptr;  // a plain pointer: nothing may run when the process unmaps the module
-
-Language LanguageOfUser() {
-  wchar_t name[LOCALE_NAME_MAX_LENGTH] = L"";
-  GetUserDefaultLocaleName(name, LOCALE_NAME_MAX_LENGTH);
-  return LanguageOfLocale(Utf8Text(name));
-}
 
 Win32HostOptions NamedHost() {
   Win32HostOptions options;

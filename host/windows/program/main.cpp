@@ -5,6 +5,7 @@
 #include "adapters/win32/windows_api.h"
 #include "host/command_line.h"
 #include "host/windows/program/sample_program.h"
+#include "host/windows/user_language.h"
 
 namespace {
 
@@ -15,12 +16,6 @@ std::vector<std::string> WordsOfCommandLine() {
   for (int index = 1; index < count; ++index) arguments.push_back(orvendal::Utf8(words[index]));
   LocalFree(words);
   return arguments;
-}
-
-orvendal::Language LanguageOfUser() {
-  wchar_t name[LOCALE_NAME_MAX_LENGTH] = L"";
-  GetUserDefaultLocaleName(name, LOCALE_NAME_MAX_LENGTH);
-  return orvendal::LanguageOfLocale(orvendal::Utf8(name));
 }
 
 /// From here on a library that is asked for by its name alone comes from the system's own folder. Those that

@@ -232,11 +232,39 @@ TEST_F(LoopsOnWindows, WhateverAHandlerThrowsStaysInTheWindow) {
   EXPECT_EQ(form->box.Text(), "b");
 }
 
-TEST_F(LoopsOnWindows, ASessionThatEndsIsNotHeldUp) {
+TEST_F(LoopsOnWindows, ASessionThatEndsClosesWhatTheCloseButtonWouldClose) {
   ShowForm();
+  form->OnCloseRequest = [this] { form->Unload(); };
   EXPECT_NE(SendMessageW(Window(), WM_QUERYENDSESSION, 0, 0), 0);
+  EXPECT_FALSE(form->IsLoaded());
+}
+
+TEST_F(LoopsOnWindows, ASessionThatEndsIsKeptByAScreenThatStaysOpenOnItsQuestion) {
+  ShowForm();
+  int asked = 0;
+  form->OnCloseRequest = [&] { ++asked; };
+  EXPECT_EQ(SendMessageW(Window(), WM_QUERYENDSESSION, 0, 0), 0);
   SendMessageW(Window(), WM_ENDSESSION, FALSE, 0);
-  EXPECT_TRUE(form->IsLoaded()) << "the user thought better of it";
+  EXPECT_EQ(asked, 1);
+  EXPECT_TRUE(form->IsLoaded());
+  const auto critical = static_cast<LPARAM>(static_cast<LONG>(ENDSESSION_CRITICAL));
+  EXPECT_NE(SendMessageW(Window(), WM_QUERYENDSESSION, 0, critical), 0);
+  EXPECT_EQ(asked, 1) << "nobody can answer any more";
+}
+
+TEST_F(LoopsOnWindows, ASessionThatEndsIsKeptByAScreenUnderADialog) {
+  ShowForm();
+  int asked = 0;
+  form->OnCloseRequest = [&] { ++asked; };
+  LRESULT answer = TRUE;
+  auto dialog = std::make_shared<ProbeForm>(host);
+  Later([&] {
+    answer = SendMessageW(Window(), WM_QUERYENDSESSION, 0, 0);
+    dialog->Hide();
+  });
+  dialog->Show(ShowMode::kModal);
+  EXPECT_EQ(answer, 0);
+  EXPECT_EQ(asked, 0);
 }
 
 TEST_F(LoopsOnWindows, AClipboardThatAnotherProgramHoldsIsLeftAlone) {

@@ -51,6 +51,11 @@ class Script : public testing::Test {
   std::string errors;
 };
 
+TEST_F(Script, ALineWithANulIsToldWhole) {
+  const std::string line("reloj 2026-11-16\0 09:00", 23);
+  EXPECT_TRUE(StopAt(line, "").ends_with(" no es una fecha como 2026-11-16 10:30:00")) << errors;
+}
+
 TEST_F(Script, AnEmptyScriptShowsNothing) {
   EXPECT_EQ(Run(""), 0);
   EXPECT_EQ(Run("\xEF\xBB\xBF# with a mark at its start\r\n\r\n"), 0);

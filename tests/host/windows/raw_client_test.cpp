@@ -3,6 +3,8 @@
 #include "adapters/ado/ado_recordset_factory.h"
 #include "adapters/ado/ado_wrappers.h"
 #include "host/sample/dictionaries.h"
+#include "host/windows/user_language.h"
+#include "host/words.h"
 #include "tests/host/windows/library/library_fixture.h"
 #include "tests/host/windows/program/hands.h"
 
@@ -148,6 +150,44 @@ class RawClientTest : public LibraryTest {
   ComPtr<IDispatch> connection_;
   Dictionaries dictionaries_;
 };
+
+/// The text of the message box that comes up; presses the button.
+std::wstring AnswerMessageBox(int button) {
+  constexpr int kText = 0xFFFF;
+  for (int turn = 0; turn < 400; ++turn, Sleep(50)) {
+    const HWND box = FindWindowW(L"#32770", nullptr);
+    const HWND label = box != nullptr ? GetDlgItem(box, kText) : nullptr;
+    if (label == nullptr || !IsWindowVisible(box)) continue;
+    wchar_t text[500] = L"";
+    SendMessageW(label, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text));
+    PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(button), 0);
+    return text;
+  }
+  return L"no message came";
+}
+
+TEST_F(RawClientTest, IsToldAnErrorOfTheStoreInTheWordsOfItsUser) {
+  Write("DROP TABLE ProdSucStock");
+  VARIANT_BOOL result = VARIANT_TRUE;
+  ASSERT_EQ(CallComponent(result), S_OK) << ErrorText();
+  std::wstring trouble;
+  std::wstring told;
+  std::thread hands([&] {
+    trouble = UseScreen({L"window", L"Orvendal", L"click", L"457", L"211", L"window", L"Choose a Stylist",
+                         L"type", L"zoe", L"key", L"return", L"window", L"Orvendal", L"double", L"125",
+                         L"339", L"type", L"P1"});
+    PostMessageW(FindWindowW(L"OrvendalForm", L"Orvendal"), WM_KEYDOWN, VK_RETURN, 1);
+    told = AnswerMessageBox(IDOK);
+    if (trouble.empty()) trouble = UseScreen({L"window", L"Orvendal", L"key", L"escape", L"close"});
+    AnswerMessageBox(IDNO);  // the line is not saved
+  });
+  for (int turn = 0; turn < 1200 && ScreenIsOpen(); ++turn) EXPECT_EQ(Session()->Pump(50), S_OK);
+  hands.join();
+  EXPECT_EQ(Utf8Text(trouble), "");
+  EXPECT_EQ(Utf8Text(told),
+            "Error -2147217865: " + Fill(WordsOf(LanguageOfUser()).table_missing, {"", "ProdSucStock"}));
+  EXPECT_EQ(LetComponentGo(), S_OK);
+}
 
 TEST_F(RawClientTest, CountsThroughTheTablesOfFunctionsAlone) {
   VARIANT_BOOL result = VARIANT_TRUE;

@@ -158,6 +158,10 @@ class LibraryTest : public testing::Test {
     SqliteStatement statement(*store, sql);
     return statement.Step() ? statement.TextAt(0) : "-";
   }
+  void Write(const std::string& sql) const {
+    SqliteConnection::Open(Utf8Text(file_), Dialect::kSqlServer, Region::Spanish(), OpenMode::kExisting)
+        ->Execute(sql);
+  }
   static std::string ErrorText() {
     ComPtr<IErrorInfo> info;
     BstrCell source;

@@ -4,6 +4,8 @@
 #include "adapters/ado/ado_wrappers.h"
 #include "adapters/win32/module_use.h"
 #include "adapters/win32/win32_window_host.h"
+#include "host/error_words.h"
+#include "host/windows/user_language.h"
 
 namespace orvendal {
 namespace {
@@ -29,7 +31,11 @@ std::intptr_t WindowOf(WindowHost& windows, const Form& form) {
 
 ModuleParts MakeModuleParts() {
   ModuleParts parts;
-  parts.windows = std::make_unique<Win32WindowHost>(Win32HostOptions{});
+  Win32HostOptions windows;
+  windows.describe_error = [&words = WordsOf(LanguageOfUser())](const RuntimeError& error) {
+    return DescriptionInWords(words, error.Description(), "");
+  };
+  parts.windows = std::make_unique<Win32WindowHost>(windows);
   parts.recordsets = std::make_unique<AdoRecordsetFactory>();
   parts.store = std::make_unique<AdoBridge>();
   parts.native_window = WindowOf;
