@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <optional>
 
+#include "adapters/sqlite/packed_values.h"
 #include "adapters/sqlite/stored_date.h"
 #include "platform/data/ado_error.h"
 
@@ -33,6 +34,11 @@ std::string_view TextOf(sqlite3_stmt* statement, int column) {
   const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
   const auto bytes = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
   return text == nullptr ? std::string_view() : std::string_view(text, bytes);
+}
+
+std::optional<Date> DateIn(std::string_view text) {
+  const std::optional<Moment> moment = ParseStoredDate(text);
+  return moment ? DateOf(*moment) : std::nullopt;
 }
 
 [[noreturn]] void RaiseConversion() {
@@ -101,11 +107,30 @@ Value ReadColumn(sqlite3_stmt* statement, int column, ColumnKind kind) {
   }
   const std::string_view text = TextOf(statement, column);
   if (kind == ColumnKind::kDate) {
-    const std::optional<Moment> moment = ParseStoredDate(text);
-    const std::optional<Date> date = moment ? DateOf(*moment) : std::nullopt;
-    if (date) return *date;
+    if (const std::optional<Date> date = DateIn(text)) return *date;
   }
   return std::string(text);
+}
+
+void ColumnReader::Read(sqlite3_stmt* statement, int column, ColumnKind kind, PackedValues& values) {
+  switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_NULL:
+      return values.AppendNull();
+    case SQLITE_INTEGER:
+    case SQLITE_FLOAT:
+      if (kind == ColumnKind::kText) return values.AppendText(TextOf(statement, column));
+      return values.AppendNumber(sqlite3_column_double(statement, column));
+    default:
+      break;
+  }
+  const std::string_view text = TextOf(statement, column);
+  if (kind != ColumnKind::kDate) return values.AppendText(text);
+  if (!last_date_text_.empty() && text == last_date_text_) return values.AppendDate(last_date_);
+  const std::optional<Date> date = DateIn(text);
+  if (!date) return values.AppendText(text);
+  last_date_text_ = text;
+  last_date_ = *date;
+  values.AppendDate(*date);
 }
 
 Value ConvertForColumn(const Value& value, const ColumnType& type, const Region& region) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 #include "platform/base/region.h"
@@ -27,6 +28,18 @@ ColumnType ColumnTypeOf(const char* declared_type);
 /// The value of a column of the statement's current row: dates from date columns, numbers, texts, Null. What
 /// does not read as its declared kind comes as it stands in the file.
 Value ReadColumn(sqlite3_stmt* statement, int column, ColumnKind kind);
+
+class PackedValues;
+
+/// Reads the same into packed values. A date that repeats, as one does through a day's rows, is read once.
+class ColumnReader {
+ public:
+  void Read(sqlite3_stmt* statement, int column, ColumnKind kind, PackedValues& values);
+
+ private:
+  std::string last_date_text_;
+  Date last_date_;
+};
 
 /// `value` as a column of this type takes it, texts read by the region. Raises 3421 if it cannot be
 /// converted.

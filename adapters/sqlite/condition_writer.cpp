@@ -37,6 +37,12 @@ Cases Both(const Cases& first, const Cases& second) {
 
 // Parameters are numbered, since a text may stand in more than one place.
 std::string ConditionWriter::Next(Parameter parameter) {
+  knows_sources_ = false;
+  return Next(std::move(parameter), {});
+}
+
+std::string ConditionWriter::Next(Parameter parameter, ParameterSource source) {
+  sources_.push_back(source);
   parameters_.push_back(std::move(parameter));
   return std::string("?").append(std::to_string(parameters_.size()));
 }
@@ -49,39 +55,49 @@ std::string ConditionWriter::Within(const std::string& key, const IndexRange& ra
 // The column holds `text` in one of its spellings: exactly, which an index on this and further columns
 // answers, or with blanks after it, of which there are hardly ever any. Without an exact spelling to look
 // for, the texts near it are looked through.
-Cases ConditionWriter::TextIs(const std::string& column, const std::string& text, const std::string& filter) {
+Cases ConditionWriter::TextIs(const std::string& column, const std::string& text, const std::string& filter,
+                              ParameterSource source) {
   const std::string key = WithoutCase(column);
   const std::vector<std::string> spellings = CaseVariants(text);
   if (spellings.empty()) {
     return {Within(key, RangeOfPrefix(text)) + " AND " + filter};
   }
   // An index without case compares up to a NUL and no further.
+  if (spellings.size() > 1) knows_sources_ = false;
+  ParameterSource above = source;
+  above.form = source.form == ParameterSource::Form::kWithoutTrailingBlanks
+                   ? ParameterSource::Form::kAboveItWithoutTrailingBlanks
+                   : ParameterSource::Form::kAboveIt;
   const std::string unless_exact = text.find('\0') == std::string::npos ? "" : " AND " + filter;
   Cases exact;
   Cases with_blanks;
   for (const std::string& spelling : spellings) {
-    const std::string parameter = Next(spelling);
+    const std::string parameter = Next(spelling, source);
     exact.push_back(key + " = " + parameter + unless_exact);
     with_blanks.push_back(key + " > " + parameter + " AND " + key + " < " +
-                          Next(AboveTrailingBlanks(spelling)) + " AND " + filter);
+                          Next(AboveTrailingBlanks(spelling), above) + " AND " + filter);
   }
   exact.insert(exact.end(), with_blanks.begin(), with_blanks.end());
   return exact;
 }
 
-Cases ConditionWriter::TextEquals(const std::string& column, std::string_view text) {
+Cases ConditionWriter::TextEquals(const std::string& column, std::string_view text, std::size_t number) {
   const std::string bare = WithoutTrailingBlanks(text);
-  return TextIs(column, bare, Call(function::kTextEquals, column, Next(bare)));
+  const ParameterSource source{number, ParameterSource::Form::kWithoutTrailingBlanks};
+  return TextIs(column, bare, Call(function::kTextEquals, column, Next(bare, source)), source);
 }
 
 std::string ConditionWriter::TextDiffers(const std::string& column, std::string_view text) {
   return "NOT " + Call(function::kTextEquals, column, Next(std::string(text)));
 }
 
-Cases ConditionWriter::TextLike(const std::string& column, std::string_view pattern) {
+Cases ConditionWriter::TextLike(const std::string& column, std::string_view pattern, std::size_t number) {
   const TextPattern parsed(pattern);
-  const std::string filter = Call(function::kTextLike, column, Next(std::string(pattern)));
-  if (!parsed.HasWildcards()) return TextIs(column, parsed.LiteralPrefix(), filter);
+  const ParameterSource source{number, ParameterSource::Form::kAsItIs, true};
+  const std::string filter = Call(function::kTextLike, column, Next(std::string(pattern), source));
+  // A wildcard in brackets is none; but a pattern without any is what it says.
+  if (parsed.LiteralPrefix() != pattern) knows_sources_ = false;
+  if (!parsed.HasWildcards()) return TextIs(column, parsed.LiteralPrefix(), filter, source);
   if (parsed.LiteralPrefix().empty()) return {filter};
   return {Within(WithoutCase(column), RangeOfPrefix(parsed.LiteralPrefix())) + " AND " + filter};
 }

@@ -27,9 +27,10 @@ class ConditionWriter {
  public:
   ConditionWriter(Dialect dialect, const Region& region) : dialect_(dialect), region_(region) {}
 
-  Cases TextEquals(const std::string& column, std::string_view text);
+  // `number` is that of the text among those of the statement.
+  Cases TextEquals(const std::string& column, std::string_view text, std::size_t number);
   std::string TextDiffers(const std::string& column, std::string_view text);
-  Cases TextLike(const std::string& column, std::string_view pattern);
+  Cases TextLike(const std::string& column, std::string_view pattern, std::size_t number);
   /// A value of any kind, written as text, against a pattern.
   std::string ValueLike(const std::string& column, std::string_view pattern);
   /// Two text columns; an index on the second one stays of use.
@@ -42,15 +43,22 @@ class ConditionWriter {
   std::string DateLike(const std::string& column, std::string_view pattern);
 
   std::vector<Parameter> TakeParameters() { return std::move(parameters_); }
+  /// Whether the source of every parameter is known, and what was written does not depend on it otherwise.
+  bool KnowsSources() const { return knows_sources_; }
+  std::vector<ParameterSource> TakeSources() { return std::move(sources_); }
 
  private:
   std::string Next(Parameter parameter);
+  std::string Next(Parameter parameter, ParameterSource source);
   std::string Within(const std::string& key, const IndexRange& range);
-  Cases TextIs(const std::string& column, const std::string& text, const std::string& filter);
+  Cases TextIs(const std::string& column, const std::string& text, const std::string& filter,
+               ParameterSource source);
 
   Dialect dialect_;
   const Region& region_;
   std::vector<Parameter> parameters_;
+  std::vector<ParameterSource> sources_;
+  bool knows_sources_ = true;
 };
 
 }  // namespace orvendal::sqlite

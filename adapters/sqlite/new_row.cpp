@@ -9,24 +9,29 @@
 #include "platform/base/text.h"
 
 namespace orvendal::sqlite {
-NewRow::NewRow(std::shared_ptr<SqliteConnection> connection, std::string table,
-               std::vector<TargetColumn> columns)
-    : connection_(std::move(connection)), table_(std::move(table)), columns_(std::move(columns)) {}
+
+NewRow::NewRow(std::shared_ptr<SqliteConnection> connection, std::shared_ptr<const StatementShape> statement,
+               std::shared_ptr<const ResultColumns> columns)
+    : connection_(std::move(connection)), statement_(std::move(statement)), columns_(std::move(columns)) {}
+
+std::string NewRow::Table() const {
+  return statement_->tables.empty() ? std::string() : statement_->tables.front();
+}
 
 void NewRow::Start() {
-  values_.assign(columns_.size(), Value());
+  values_.assign(columns_->size(), Value());
   assigned_.clear();
   pending_ = true;
 }
 
 void NewRow::Assign(std::size_t column, const Value& value) {
-  values_[column] = ConvertForColumn(value, columns_[column].type, connection_->GetRegion());
+  values_[column] = ConvertForColumn(value, (*columns_)[column].type, connection_->GetRegion());
   if (std::find(assigned_.begin(), assigned_.end(), column) == assigned_.end()) assigned_.push_back(column);
 }
 
 void NewRow::CheckLengths() const {
   for (const std::size_t column : assigned_) {
-    const ColumnType& type = columns_[column].type;
+    const ColumnType& type = (*columns_)[column].type;
     const Value& value = values_[column];
     // A text has no more characters than bytes.
     const bool may_exceed = type.length != 0 && value.IsText() && value.Text().size() > type.length;
@@ -39,12 +44,12 @@ void NewRow::PrepareInsert() {
   std::string names;
   std::string parameters;
   for (const std::size_t column : assigned_) {
-    names += (names.empty() ? "" : ", ") + QuotedName(columns_[column].name);
+    names += (names.empty() ? "" : ", ") + QuotedName((*columns_)[column].name);
     parameters += parameters.empty() ? "?" : ", ?";
   }
   const std::string values =
       assigned_.empty() ? " DEFAULT VALUES" : " (" + names + ") VALUES (" + parameters + ")";
-  insert_ = StatementCache::Prepare(connection_->Statements(), "INSERT INTO " + QuotedName(table_) + values);
+  insert_ = StatementCache::Prepare(connection_->Statements(), "INSERT INTO " + QuotedName(Table()) + values);
   if (!insert_) throw StoreError(connection_->Handle(), connection_->GetDialect());
   prepared_for_ = assigned_;
 }
@@ -67,15 +72,15 @@ void NewRow::Post() {
 
 std::vector<Value> NewRow::ReadBack() const {
   std::string names;
-  for (const TargetColumn& column : columns_) names += (names.empty() ? "" : ", ") + QuotedName(column.name);
+  for (const ResultColumn& column : *columns_) names += (names.empty() ? "" : ", ") + QuotedName(column.name);
   StatementLease lease = StatementCache::Prepare(
-      connection_->Statements(), "SELECT " + names + " FROM " + QuotedName(table_) + " WHERE rowid = ?");
+      connection_->Statements(), "SELECT " + names + " FROM " + QuotedName(Table()) + " WHERE rowid = ?");
   if (!lease) return values_;  // a table without row numbers
   sqlite3_bind_int64(lease.Get(), 1, row_id_);
   if (lease.Step() != SQLITE_ROW) return values_;
   std::vector<Value> row;
-  for (std::size_t i = 0; i < columns_.size(); ++i) {
-    row.push_back(ReadColumn(lease.Get(), static_cast<int>(i), columns_[i].type.kind));
+  for (std::size_t i = 0; i < columns_->size(); ++i) {
+    row.push_back(ReadColumn(lease.Get(), static_cast<int>(i), (*columns_)[i].type.kind));
   }
   return row;
 }

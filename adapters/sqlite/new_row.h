@@ -5,23 +5,20 @@
 #include <string>
 #include <vector>
 
-#include "adapters/sqlite/column_type.h"
 #include "adapters/sqlite/sqlite_store.h"
 #include "adapters/sqlite/statement_cache.h"
+#include "adapters/sqlite/statement_shapes.h"
 
 namespace orvendal::sqlite {
-
-struct TargetColumn {
-  std::string name;
-  ColumnType type;
-};
 
 /// The new row of a recordset: its fields as assigned, and the statement that adds it to the table, prepared
 /// once for all rows that assign the same fields in the same order. Fields not assigned are left to the
 /// store's defaults.
 class NewRow {
  public:
-  NewRow(std::shared_ptr<SqliteConnection> connection, std::string table, std::vector<TargetColumn> columns);
+  /// The table is the first of the statement's.
+  NewRow(std::shared_ptr<SqliteConnection> connection, std::shared_ptr<const StatementShape> statement,
+         std::shared_ptr<const ResultColumns> columns);
 
   void Start();
   void Drop() { pending_ = false; }
@@ -32,17 +29,18 @@ class NewRow {
   void Post();
   /// As assigned; Null where nothing was.
   const std::vector<Value>& Fields() const { return values_; }
-  const std::vector<TargetColumn>& Columns() const { return columns_; }
+  const ResultColumns& Columns() const { return *columns_; }
   /// The row last posted as it stands in the store, defaults included.
   std::vector<Value> ReadBack() const;
 
  private:
   void CheckLengths() const;
   void PrepareInsert();
+  std::string Table() const;
 
   std::shared_ptr<SqliteConnection> connection_;
-  std::string table_;
-  std::vector<TargetColumn> columns_;
+  std::shared_ptr<const StatementShape> statement_;
+  std::shared_ptr<const ResultColumns> columns_;
   bool pending_ = false;
   std::vector<Value> values_;
   std::vector<std::size_t> assigned_;  // columns, in the order of their first assignment

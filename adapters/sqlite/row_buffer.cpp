@@ -22,8 +22,8 @@ StatementLease PrepareOn(const SqliteConnection& connection, const std::string& 
 
 void RowBuffer::ReadRows(StatementLease& prepared, int code) {
   for (; code == SQLITE_ROW; code = prepared.Step()) {
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
-      cells_.push_back(ReadColumn(prepared.Get(), static_cast<int>(i), columns_[i]));
+    for (std::size_t i = 0; i < columns_->size(); ++i) {
+      reader_.Read(prepared.Get(), static_cast<int>(i), (*columns_)[i].type.kind, cells_);
     }
   }
   if (code != SQLITE_DONE) throw StoreError(connection_->Handle(), connection_->GetDialect());
@@ -41,8 +41,8 @@ void RowBuffer::ReadPart() {
   const std::size_t parameters = statement_.parameters.size();
   const std::string limit =
       " LIMIT ?" + std::to_string(parameters + 1) + " OFFSET ?" + std::to_string(parameters + 2);
-  StatementLease lease = PrepareOn(*connection_, "SELECT * FROM (" + statement_.sql + ")" + limit);
-  statement_.Bind(lease.Get());
+  StatementLease lease = PrepareOn(*connection_, "SELECT * FROM (" + statement_.shape->sql + ")" + limit);
+  Bind(statement_.parameters, lease.Get());
   sqlite3_bind_int64(lease.Get(), static_cast<int>(parameters) + 1, static_cast<sqlite3_int64>(wanted));
   sqlite3_bind_int64(lease.Get(), static_cast<int>(parameters) + 2, static_cast<sqlite3_int64>(present));
   ReadRows(lease, lease.Step());
@@ -55,12 +55,12 @@ bool RowBuffer::Reach(std::size_t index) {
 }
 
 void RowBuffer::Append(const std::vector<Value>& row) {
-  cells_.insert(cells_.end(), row.begin(), row.end());
+  for (const Value& value : row) cells_.Append(value);
 }
 
 std::int32_t RowBuffer::CountInStore() const {
-  StatementLease lease = PrepareOn(*connection_, "SELECT COUNT(*) FROM (" + statement_.sql + ")");
-  statement_.Bind(lease.Get());
+  StatementLease lease = PrepareOn(*connection_, "SELECT COUNT(*) FROM (" + statement_.shape->sql + ")");
+  Bind(statement_.parameters, lease.Get());
   if (lease.Step() != SQLITE_ROW) throw StoreError(connection_->Handle(), connection_->GetDialect());
   return sqlite3_column_int(lease.Get(), 0);
 }

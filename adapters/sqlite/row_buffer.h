@@ -5,9 +5,10 @@
 #include <vector>
 
 #include "adapters/sqlite/column_type.h"
+#include "adapters/sqlite/packed_values.h"
 #include "adapters/sqlite/sqlite_store.h"
 #include "adapters/sqlite/statement_cache.h"
-#include "adapters/sqlite/statement_rewriter.h"
+#include "adapters/sqlite/statement_shapes.h"
 
 namespace orvendal::sqlite {
 
@@ -18,8 +19,8 @@ namespace orvendal::sqlite {
 class RowBuffer {
  public:
   /// Takes the statement, which has rows. Nothing is read.
-  RowBuffer(std::shared_ptr<SqliteConnection> connection, RewrittenStatement statement,
-            std::vector<ColumnKind> columns)
+  RowBuffer(std::shared_ptr<SqliteConnection> connection, ShapedStatement statement,
+            std::shared_ptr<const ResultColumns> columns)
       : connection_(std::move(connection)), statement_(std::move(statement)), columns_(std::move(columns)) {}
 
   /// Reads `prepared`, the statement itself, to its end; `code` is what its first step gave.
@@ -29,11 +30,9 @@ class RowBuffer {
   /// Adds a row at the end; only where Complete().
   void Append(const std::vector<Value>& row);
 
-  std::size_t Count() const { return columns_.empty() ? 0 : cells_.size() / columns_.size(); }
+  std::size_t Count() const { return columns_->empty() ? 0 : cells_.Size() / columns_->size(); }
   bool Complete() const { return complete_; }
-  const Value& Cell(std::size_t row, std::size_t column) const {
-    return cells_[row * columns_.size() + column];
-  }
+  Value Cell(std::size_t row, std::size_t column) const { return cells_[row * columns_->size() + column]; }
   /// How many rows the statement gives at this moment, without reading them.
   std::int32_t CountInStore() const;
 
@@ -42,9 +41,10 @@ class RowBuffer {
   void ReadRows(StatementLease& prepared, int code);
 
   std::shared_ptr<SqliteConnection> connection_;
-  RewrittenStatement statement_;
-  std::vector<ColumnKind> columns_;
-  std::vector<Value> cells_;
+  ShapedStatement statement_;
+  std::shared_ptr<const ResultColumns> columns_;
+  ColumnReader reader_;
+  PackedValues cells_;
   bool complete_ = false;
 };
 

@@ -5,7 +5,7 @@
 #include "adapters/sqlite/find_criteria.h"
 #include "adapters/sqlite/sql_tokens.h"
 #include "adapters/sqlite/statement_cache.h"
-#include "adapters/sqlite/statement_rewriter.h"
+#include "adapters/sqlite/statement_shapes.h"
 #include "adapters/sqlite/store_error.h"
 #include "platform/base/text.h"
 #include "platform/data/ado_error.h"
@@ -26,6 +26,15 @@ std::optional<ColumnType> FindColumn(const SqliteConnection& store, const std::s
   return ColumnTypeOf(sqlite3_column_decltype(lease.Get(), 0));
 }
 
+std::shared_ptr<const ResultColumns> ColumnsOf(sqlite3_stmt* statement) {
+  auto columns = std::make_shared<ResultColumns>();
+  for (int i = 0; i < sqlite3_column_count(statement); ++i) {
+    columns->push_back(
+        {sqlite3_column_name(statement, i), ColumnTypeOf(sqlite3_column_decltype(statement, i))});
+  }
+  return columns;
+}
+
 }  // namespace
 
 void SqliteRecordset::Open(const std::string& source, const ConnectionRef& connection, CursorType cursor,
@@ -36,36 +45,34 @@ void SqliteRecordset::Open(const std::string& source, const ConnectionRef& conne
   if (store == nullptr || !store->IsOpen()) throw AdoError(ado_error::kInvalidConnection);
   store->CheckInPlace();
   sqlite3* database = store->Handle();
-  RewrittenStatement statement = Rewrite(source, store->GetDialect(), store->GetRegion(),
-                                         [&store](const std::string& table, const std::string& column) {
-                                           return FindColumn(*store, table, column);
-                                         });
+  const StatementCache& prepared = *store->Statements();
+  ShapedStatement statement = store->Shapes().Rewrite(
+      source, store->GetDialect(), store->GetRegion(),
+      [&store](const std::string& table, const std::string& column) {
+        return FindColumn(*store, table, column);
+      },
+      prepared.Generation());
   // The columns of a statement used again are known for sure once it has made its first step.
   const bool read_later = cursor == CursorType::kDynamic;
-  StatementLease lease = read_later ? StatementCache::PrepareAfresh(store->Statements(), statement.sql)
-                                    : StatementCache::Prepare(store->Statements(), statement.sql);
+  StatementLease lease = read_later ? StatementCache::PrepareAfresh(store->Statements(), statement.shape->sql)
+                                    : StatementCache::Prepare(store->Statements(), statement.shape->sql);
   if (!lease) throw StoreError(database, store->GetDialect());
-  statement.Bind(lease.Get());
+  Bind(statement.parameters, lease.Get());
   const bool has_rows = sqlite3_column_count(lease.Get()) != 0;
+  const std::uint64_t generation = prepared.Generation();
   const int first_step = read_later && has_rows ? SQLITE_DONE : lease.Step();
   if (first_step != SQLITE_ROW && first_step != SQLITE_DONE) throw StoreError(database, store->GetDialect());
   if (!has_rows) return;
 
-  std::vector<std::string> names;
-  std::vector<ColumnKind> kinds;
-  std::vector<TargetColumn> targets;
-  const std::string table = statement.tables.empty() ? std::string() : statement.tables.front();
-  for (int i = 0; i < sqlite3_column_count(lease.Get()); ++i) {
-    const ColumnType type = ColumnTypeOf(sqlite3_column_decltype(lease.Get(), i));
-    names.emplace_back(sqlite3_column_name(lease.Get(), i));
-    kinds.push_back(type.kind);
-    targets.push_back({names.back(), type});
+  std::shared_ptr<const ResultColumns> columns = statement.shape->columns;
+  if (!columns || read_later || prepared.Generation() != generation) {
+    columns = statement.shape->columns = ColumnsOf(lease.Get());
   }
-  RowBuffer rows(store, statement, std::move(kinds));
+  NewRow new_row(store, statement.shape, columns);
+  RowBuffer rows(store, std::move(statement), columns);
   if (!read_later) rows.ReadAll(lease, first_step);
-  NewRow new_row(store, table, std::move(targets));
   contents_.emplace(
-      Contents{std::move(store), cursor, lock, std::move(names), std::move(rows), std::move(new_row)});
+      Contents{std::move(store), cursor, lock, std::move(columns), std::move(rows), std::move(new_row)});
 }
 
 SqliteRecordset::Contents& SqliteRecordset::Opened() const {
@@ -206,22 +213,23 @@ void SqliteRecordset::MoveLast() {
 }
 
 std::size_t SqliteRecordset::FieldCount() const {
-  return State() == kStateOpen ? contents_->names.size() : 0;
+  return State() == kStateOpen ? contents_->columns->size() : 0;
 }
 
 std::string SqliteRecordset::FieldName(std::size_t index) const {
   if (index >= FieldCount()) throw AdoError(ado_error::kItemNotFound);
-  return contents_->names[index];
+  return (*contents_->columns)[index].name;
 }
 
 std::size_t SqliteRecordset::FieldIndex(std::string_view name) const {
-  for (std::size_t i = 0; i < FieldCount(); ++i) {
-    if (EqualsIgnoringCase(contents_->names[i], name)) return i;
+  const std::size_t count = FieldCount();
+  for (std::size_t i = 0; i < count; ++i) {
+    if (EqualsIgnoringCase((*contents_->columns)[i].name, name)) return i;
   }
   throw AdoError(ado_error::kItemNotFound);
 }
 
-const Value& SqliteRecordset::Cell(Contents& contents, std::size_t field) const {
+Value SqliteRecordset::Cell(Contents& contents, std::size_t field) const {
   if (contents.new_row.Pending()) return contents.new_row.Fields()[field];
   if (contents.on_posted_row) {
     if (contents.posted_row.empty()) contents.posted_row = contents.new_row.ReadBack();

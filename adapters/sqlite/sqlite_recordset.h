@@ -66,7 +66,7 @@ class SqliteRecordset final : public Recordset {
     std::shared_ptr<SqliteConnection> connection;
     CursorType cursor;
     LockType lock;
-    std::vector<std::string> names;
+    std::shared_ptr<const ResultColumns> columns;
     RowBuffer rows;
     NewRow new_row;
     std::int64_t position = 0;        // of the current row, from 0
@@ -78,7 +78,7 @@ class SqliteRecordset final : public Recordset {
   bool OnRow(Contents& contents) const;
   static bool KnowsPositions(const Contents& contents);
   static void StandOn(Contents& contents, std::int64_t position);
-  const Value& Cell(Contents& contents, std::size_t field) const;
+  Value Cell(Contents& contents, std::size_t field) const;
   void PostPending(Contents& contents);
 
   mutable std::optional<Contents> contents_;

@@ -20,6 +20,7 @@ namespace sqlite {
 class StatementCache;
 class StatementGuard;
 class StatementLease;
+class StatementShapes;
 }  // namespace sqlite
 
 /// kExisting: the file must be there. kCreate: it is made if it is not.
@@ -72,6 +73,7 @@ class SqliteConnection final : public Connection {
   /// closed one.
   void CheckInPlace() const;
   const std::shared_ptr<sqlite::StatementCache>& Statements() const { return statements_; }
+  sqlite::StatementShapes& Shapes() const { return *shapes_; }
 
  private:
   SqliteConnection(sqlite3* database, std::string path, Dialect dialect, const Region& region);
@@ -83,6 +85,7 @@ class SqliteConnection final : public Connection {
   const Region& region_;
   std::unique_ptr<sqlite::StatementGuard> guard_;
   std::shared_ptr<sqlite::StatementCache> statements_;
+  std::unique_ptr<sqlite::StatementShapes> shapes_;
 };
 
 /// One statement of plain SQLite, for the host's own work, to be used once or many times. Must not outlive

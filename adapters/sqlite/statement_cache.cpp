@@ -48,6 +48,8 @@ int StatementLease::Step() {
   cache_->deadline_ = deadline_;
   const int code = sqlite3_step(statement_);
   cache_->deadline_ = Clock::time_point::max();
+  if (!running_ && sqlite3_stmt_status(statement_, SQLITE_STMTSTATUS_REPREPARE, 1) != 0)
+    ++cache_->generation_;
   running_ = code == SQLITE_ROW;
   return code;
 }
@@ -88,9 +90,9 @@ StatementLease StatementCache::Prepare(const std::shared_ptr<StatementCache>& ca
   const auto found =
       std::find_if(idle.rbegin(), idle.rend(), [&sql](const Idle& entry) { return entry.sql == sql; });
   if (found != idle.rend()) {
-    sqlite3_stmt* statement = found->statement;
+    StatementLease lease(cache, std::move(found->sql), found->statement);
     idle.erase(std::next(found).base());
-    return {cache, sql, statement};
+    return lease;
   }
   return PrepareAfresh(cache, sql, rest);
 }
@@ -108,6 +110,7 @@ StatementLease StatementCache::PrepareAfresh(const std::shared_ptr<StatementCach
 }
 
 void StatementCache::Clear() noexcept {
+  ++generation_;
   for (const Idle& entry : idle_) sqlite3_finalize(entry.statement);
   idle_.clear();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -61,6 +62,9 @@ class StatementCache {
                                       std::string* rest = nullptr);
   /// How long a statement may run, the waiting of whoever steps it included; zero for without end.
   void TimeLimit(std::chrono::milliseconds limit) { time_limit_ = limit; }
+  /// Changes whenever the tables that statements name may have changed: at Clear, and when a statement that
+  /// was prepared earlier turned out to be out of date.
+  std::uint64_t Generation() const { return generation_; }
   /// Forgets the statements that are not in use.
   void Clear() noexcept;
   void Close() noexcept;
@@ -77,6 +81,7 @@ class StatementCache {
   sqlite3* database_;
   std::chrono::milliseconds time_limit_{0};
   std::chrono::steady_clock::time_point deadline_ = std::chrono::steady_clock::time_point::max();
+  std::uint64_t generation_ = 0;
   std::vector<Idle> idle_;  // the latest last
 };
 

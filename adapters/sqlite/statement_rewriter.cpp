@@ -50,7 +50,11 @@ class Rewriter {
       if (RewriteCondition() || RewriteSortTerm() || RewriteConvert()) continue;
       CopyToken();
     }
-    RewrittenStatement result{std::move(sql_), conditions_.TakeParameters(), {}};
+    RewrittenStatement result;
+    result.sql = std::move(sql_);
+    result.depends_on_values_alone = conditions_.KnowsSources() && !has_text_in_sql_;
+    result.sources = conditions_.TakeSources();
+    result.parameters = conditions_.TakeParameters();
     for (const TableInUse& table : tables_) result.tables.push_back(table.name);
     return result;
   }
@@ -64,6 +68,13 @@ class Rewriter {
   }
   bool WordAt(std::size_t index, std::string_view word) const {
     return index < tokens_.size() && tokens_[index].IsWord(word);
+  }
+
+  // How many texts stand before the token.
+  std::size_t TextNumber(std::size_t index) const {
+    return static_cast<std::size_t>(
+        std::count_if(tokens_.begin(), tokens_.begin() + static_cast<std::ptrdiff_t>(index),
+                      [](const Token& token) { return token.kind == TokenKind::kText; }));
   }
 
   // One statement at a time: what stands after a semicolon is refused.
@@ -188,7 +199,7 @@ class Rewriter {
       case ColumnKind::kNumber:
         return Cases{conditions_.ValueLike(column.sql, pattern->text)};
       default:
-        return conditions_.TextLike(column.sql, pattern->text);
+        return conditions_.TextLike(column.sql, pattern->text, TextNumber(index));
     }
   }
 
@@ -227,7 +238,7 @@ class Rewriter {
     if (const Token* text = Peek(index + 1); text != nullptr && text->kind == TokenKind::kText) {
       end_ = index + 2;
       if (!StandsAlone(begin, end_)) return std::nullopt;
-      if (equality) return conditions_.TextEquals(column.sql, text->text);
+      if (equality) return conditions_.TextEquals(column.sql, text->text, TextNumber(index + 1));
       return Cases{conditions_.TextDiffers(column.sql, text->text)};
     }
     const std::optional<Column> other = ColumnAt(index + 1);
@@ -289,6 +300,7 @@ class Rewriter {
     const std::optional<Moment> moment = token.kind == TokenKind::kDate ? DateAt(at_) : ConvertAt(at_);
     if (!moment) return false;
     const std::optional<Date> date = DateOf(*moment);
+    has_text_in_sql_ = true;
     Emit(QuotedText(date ? StoredDate(*date) : ""));
     at_ = end_;
     return true;
@@ -307,6 +319,7 @@ class Rewriter {
     const Token& token = tokens_[at_++];
     switch (token.kind) {
       case TokenKind::kText:
+        has_text_in_sql_ = true;
         Emit(QuotedText(token.text));
         return;
       case TokenKind::kName:
@@ -354,11 +367,12 @@ class Rewriter {
   std::size_t at_ = 0;
   std::size_t end_ = 0;
   std::string sql_;
+  bool has_text_in_sql_ = false;
 };
 
 }  // namespace
 
-void RewrittenStatement::Bind(sqlite3_stmt* statement) const {
+void Bind(const std::vector<Parameter>& parameters, sqlite3_stmt* statement) {
   int index = 0;
   for (const Parameter& parameter : parameters) {
     ++index;

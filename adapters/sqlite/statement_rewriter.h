@@ -18,6 +18,14 @@ namespace orvendal::sqlite {
 
 using Parameter = std::variant<std::int64_t, std::string>;
 
+/// How a parameter comes of a text of the statement.
+struct ParameterSource {
+  enum class Form { kAsItIs, kWithoutTrailingBlanks, kAboveIt, kAboveItWithoutTrailingBlanks };
+  std::size_t text = 0;  // its number among the texts of the statement, from 0
+  Form form = Form::kAsItIs;
+  bool is_pattern = false;
+};
+
 /// A statement that the engine can run. Two statements that differ only in the values compared have the same
 /// `sql`, so that it needs to be prepared once.
 ///
@@ -27,10 +35,15 @@ struct RewrittenStatement {
   std::string sql;
   std::vector<Parameter> parameters;
   std::vector<std::string> tables;  // those it reads or writes, in the order of the text
-
-  /// Binds the parameters, numbered from 1. The texts are not copied.
-  void Bind(sqlite3_stmt* statement) const;
+  /// One for each parameter. With other texts of ASCII in the statement, patterns without wildcards among
+  /// them, `sql` would be the same and the parameters come of them in this way; nothing of that holds unless
+  /// `depends_on_values_alone`.
+  std::vector<ParameterSource> sources;
+  bool depends_on_values_alone = false;
 };
+
+/// Binds parameters, numbered from 1. The texts are not copied.
+void Bind(const std::vector<Parameter>& parameters, sqlite3_stmt* statement);
 
 /// The type of a column, or nothing if the table has no such column. Names are taken without regard to case.
 using ColumnLookup =

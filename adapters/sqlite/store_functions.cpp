@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <memory>
 #include <optional>
@@ -52,13 +53,28 @@ void TextLikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) 
   AnswerMatch(context, arguments, Text(arguments[0]));
 }
 
+// Codes are, nearly always: then the range begins with the text itself.
+bool IsPlain(std::string_view text) {
+  return !text.ends_with(' ') && std::all_of(text.begin(), text.end(), [](char c) { return c >= 0; });
+}
+
 void RangeLowFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
-  if (!IsNull(arguments[0])) Answer(context, RangeOfEqualTexts(Text(arguments[0])).low);
+  if (IsNull(arguments[0])) return;
+  const std::string_view text = Text(arguments[0]);
+  if (IsPlain(text)) return Answer(context, text);
+  Answer(context, RangeOfEqualTexts(text).low);
 }
 
 void RangeHighFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (IsNull(arguments[0])) return;
-  const std::string high = RangeOfEqualTexts(Text(arguments[0])).high;
+  const std::string_view text = Text(arguments[0]);
+  std::array<char, 32> room;
+  if (IsPlain(text) && text.size() < room.size()) {
+    std::copy(text.begin(), text.end(), room.begin());
+    room[text.size()] = kAfterBlank;
+    return Answer(context, {room.data(), text.size() + 1});
+  }
+  const std::string high = RangeOfEqualTexts(text).high;
   // Bytes that are no text stand above every text.
   if (high.empty()) return sqlite3_result_zeroblob(context, 0);
   Answer(context, high);
@@ -68,11 +84,21 @@ void SortKeyFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (!IsNull(arguments[0])) Answer(context, SortKey(Text(arguments[0])));
 }
 
+// The moment read last: the rows of a day have the same text.
+struct LastMoment {
+  std::string text;
+  std::optional<Moment> moment;
+};
+
 void MomentFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
   if (IsNull(arguments[0])) return;
-  if (const std::optional<Moment> moment = ParseStoredDate(Text(arguments[0]))) {
-    sqlite3_result_int64(context, *moment);
+  auto& last = *static_cast<LastMoment*>(sqlite3_user_data(context));
+  const std::string_view text = Text(arguments[0]);
+  if (text != last.text) {
+    last.moment = ParseStoredDate(text);
+    last.text = text;
   }
+  if (last.moment) sqlite3_result_int64(context, *last.moment);
 }
 
 void RegionDateLikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
@@ -104,20 +130,21 @@ void ServerDateLikeFunction(sqlite3_context* context, int, sqlite3_value** argum
 }  // namespace
 
 void RegisterFunctions(sqlite3* database, const Region& region) {
+  // Only direct: no view, trigger or index of a file may come to depend on them.
+  constexpr int kFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;
   const auto give = [database, &region](const char* name, int arguments,
                                         void (*call)(sqlite3_context*, int, sqlite3_value**)) {
-    // Only direct: no view, trigger or index of a file may come to depend on them.
-    constexpr int kFlags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;
     sqlite3_create_function_v2(database, name, arguments, kFlags, const_cast<Region*>(&region), call, nullptr,
                                nullptr, nullptr);
   };
   RegisterBoundedFunctions(database);
+  sqlite3_create_function_v2(database, function::kMoment, 1, kFlags, new LastMoment, MomentFunction, nullptr,
+                             nullptr, [](void* last) { delete static_cast<LastMoment*>(last); });
   give(function::kTextEquals, 2, TextEqualsFunction);
   give(function::kTextLike, 2, TextLikeFunction);
   give(function::kRangeLow, 1, RangeLowFunction);
   give(function::kRangeHigh, 1, RangeHighFunction);
   give(function::kSortKey, 1, SortKeyFunction);
-  give(function::kMoment, 1, MomentFunction);
   give(function::kRegionDateLike, 2, RegionDateLikeFunction);
   give(function::kServerDateLike, 2, ServerDateLikeFunction);
 }

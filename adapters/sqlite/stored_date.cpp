@@ -1,7 +1,5 @@
 #include "adapters/sqlite/stored_date.h"
 
-#include <cstdio>
-
 #include "platform/base/runtime_error.h"
 #include "platform/base/text.h"
 
@@ -80,9 +78,18 @@ std::optional<Moment> ReadDateAndTime(std::string_view text, std::string_view se
   return MomentOf(Date(year, month, day)) + time;
 }
 
+void AppendDigits(std::string& text, int number, int count) {
+  if (count > 1) AppendDigits(text, number / 10, count - 1);
+  text.push_back(static_cast<char>('0' + number % 10));
+}
+
 std::string DayText(Date date) {
-  char text[48];
-  std::snprintf(text, sizeof text, "%04d-%02d-%02d", date.Year(), date.Month(), date.Day());
+  std::string text;
+  AppendDigits(text, date.Year(), 4);
+  text.push_back('-');
+  AppendDigits(text, date.Month(), 2);
+  text.push_back('-');
+  AppendDigits(text, date.Day(), 2);
   return text;
 }
 
@@ -112,9 +119,14 @@ std::optional<Moment> ParseStoredDate(std::string_view text) {
 }
 
 std::string StoredDate(Date date) {
-  char time[48];
-  std::snprintf(time, sizeof time, " %02d:%02d:%02d", date.Hour(), date.Minute(), date.Second());
-  return DayText(date) + time;
+  std::string text = DayText(date);
+  text.push_back(' ');
+  AppendDigits(text, date.Hour(), 2);
+  text.push_back(':');
+  AppendDigits(text, date.Minute(), 2);
+  text.push_back(':');
+  AppendDigits(text, date.Second(), 2);
+  return text;
 }
 
 std::string FirstTextOfDay(Moment moment) {

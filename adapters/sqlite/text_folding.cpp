@@ -9,7 +9,6 @@ namespace orvendal::sqlite {
 namespace {
 
 constexpr std::size_t kMostVariants = 4;
-constexpr char kAfterBlank = ' ' + 1;
 constexpr char kLastByte = '\xFF';
 
 // The upper case of a lower letter outside A to Z; the letter itself if it has none.
@@ -55,6 +54,7 @@ std::string WithoutTrailingBlanks(std::string_view text) {
 }
 
 bool TextEquals(std::string_view left, std::string_view right) {
+  if (left == right) return true;
   return EqualsIgnoringCase(left.substr(0, left.find_last_not_of(' ') + 1),
                             right.substr(0, right.find_last_not_of(' ') + 1));
 }

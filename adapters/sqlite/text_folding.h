@@ -14,6 +14,9 @@ bool TextEquals(std::string_view left, std::string_view right);
 
 std::string WithoutTrailingBlanks(std::string_view text);
 
+/// The character that stands next to the blank.
+inline constexpr char kAfterBlank = ' ' + 1;
+
 /// Above every text that begins with `text`, whatever bytes follow, as an index without case compares; empty
 /// if there is no such text. And for the blanks alone: above `text` with any number of blanks after it.
 std::string AboveTextsBeginningWith(std::string_view text);
