@@ -47,10 +47,11 @@ void FrmOrvendalciales::LoadLines(const std::string& condition, bool& has_writte
   statements::OpenForReading(*lines, statements::LinesOfDay(Session().ClaveSucursal(), condition),
                              Session().Conexion);
   int row = 1;
+  std::string joined;  // one text for all rows
   for (; !lines->AtEnd(); ++row) {
     has_written = true;
     if (row > MSFProductos.Rows() - 1) MSFProductos.AddItem("");
-    WriteLoadedRow(row, *lines);
+    WriteLoadedRow(row, *lines, joined);
     MSFProductos.Row(row);  // the row events colour the line
     if (!MSFProductos.RowIsVisible(row)) MSFProductos.TopRow(MSFProductos.Rows() - kFloorLines);
     lines->MoveNext();
@@ -65,13 +66,13 @@ void FrmOrvendalciales::LoadLines(const std::string& condition, bool& has_writte
 }
 
 // The same nine values go to the line and, joined by tabs, to the snapshot.
-void FrmOrvendalciales::WriteLoadedRow(int row, const Recordset& lines) {
-  std::string joined;
+void FrmOrvendalciales::WriteLoadedRow(int row, const Recordset& lines, std::string& joined) {
+  joined.clear();
   for (int column = 0; column < column::kCount; ++column) {
-    const Value value = lines.Fields(kFields[static_cast<std::size_t>(column)]).Value();
+    Value value = lines.Fields(kFields[static_cast<std::size_t>(column)]).Value();
     // A stylist whom the store no longer knows shows as an empty text; any other Null is an error.
     const bool is_unknown_stylist = column == column::kStylist && value.IsNull();
-    const std::string text = is_unknown_stylist ? std::string() : TextOf(value);
+    const std::string text = is_unknown_stylist ? std::string() : TextOf(std::move(value));
     MSFProductos.TextMatrix(row, column, text);
     if (column > 0) joined += '\t';
     joined += text;

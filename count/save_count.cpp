@@ -165,11 +165,10 @@ bool FrmOrvendalciales::ExisteProducto(const std::string& Codigo) {
   return true;
 }
 
-// A text that the list does not hold cannot be chosen, and that failure is the test.
 void FrmOrvendalciales::AnotarRecalculo(const std::string& Codigo) {
-  try {
+  if (CodigosaRecalcular.Holds(Codigo)) {
     CodigosaRecalcular.Text(Codigo);
-  } catch (const RuntimeError&) {
+  } else {
     CodigosaRecalcular.AddItem(Codigo);
   }
 }

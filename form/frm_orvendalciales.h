@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include "platform/forms/barra.h"
 #include "platform/forms/boton.h"
@@ -220,6 +221,7 @@ class FrmOrvendalciales final : public Form {
   DatosComunes& Session() { return state_.session; }
   const Region& UserRegion() { return Host().UserRegion(); }
   std::string TextOf(const Value& value) { return UserRegion().ToText(value); }
+  std::string TextOf(Value&& value) { return UserRegion().ToText(std::move(value)); }
   /// The text of a value that is joined with others: alone, a Null is an error; joined, it adds nothing.
   std::string JoinedTextOf(const Value& value) { return value.IsNull() ? std::string() : TextOf(value); }
   RecordsetRef NewRecordset() { return state_.environment.recordsets.NewRecordset(); }
@@ -258,7 +260,7 @@ class FrmOrvendalciales final : public Form {
 
   // count/load_day.cpp
   void LoadLines(const std::string& condition, bool& has_written);
-  void WriteLoadedRow(int row, const Recordset& lines);
+  void WriteLoadedRow(int row, const Recordset& lines, std::string& joined);
 
   // count/save_count.cpp
   void CheckLinesAreWhole();

@@ -1,8 +1,10 @@
 #include "platform/base/region.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <utility>
 #include <vector>
 
 #include "platform/base/runtime_error.h"
@@ -15,11 +17,13 @@ bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-std::string Padded(int number, int width) {
-  std::string digits = std::to_string(number);
-  if (static_cast<int>(digits.size()) < width)
-    digits.insert(0, static_cast<std::size_t>(width) - digits.size(), '0');
-  return digits;
+// `number` is not negative.
+void AppendPadded(std::string& text, int number, int width) {
+  std::array<char, 12> digits;
+  const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+  const auto length = static_cast<int>(end - digits.data());
+  if (length < width) text.append(static_cast<std::size_t>(width - length), '0');
+  text.append(digits.data(), static_cast<std::size_t>(length));
 }
 
 struct Numeral {
@@ -44,8 +48,8 @@ std::optional<std::int32_t> ParseTime(std::string_view text) {
     if (at >= text.size() || text[at] != ':') break;
     ++at;
   }
-  const std::string suffix = ToLower(Trim(text.substr(at)));
   if (count < 2) return std::nullopt;
+  const std::string suffix = ToLower(Trim(text.substr(at)));
   int hour = parts[0];
   if (suffix == "am" || suffix == "pm") {
     if (hour < 1 || hour > 12) return std::nullopt;
@@ -185,9 +189,21 @@ std::string Region::ToText(const Value& value) const {
   return ToText(value.Number());
 }
 
+std::string Region::ToText(Value&& value) const {
+  return value.IsText() ? std::move(value).TakeText() : ToText(std::as_const(value));
+}
+
 std::string Region::ToText(double number) const {
   if (number == 0.0) return "0";
   if (!std::isfinite(number)) throw RuntimeError(error_number::kOverflow);
+  // Whole numbers, as nearly all are.
+  constexpr double kMostWhole = 1e15;
+  if (std::fabs(number) < kMostWhole && number == std::trunc(number)) {
+    std::array<char, 24> digits;
+    const std::to_chars_result written =
+        std::to_chars(digits.data(), digits.data() + digits.size(), static_cast<std::int64_t>(number));
+    return {digits.data(), written.ptr};
+  }
   // Fifteen significant digits decide; the E-form begins at 1E+15 and below 1E-4 where it is the shorter one.
   std::array<char, 40> scientific;
   const std::to_chars_result written = std::to_chars(scientific.data(), scientific.data() + scientific.size(),
@@ -209,7 +225,7 @@ std::string Region::ToText(double number) const {
     text = digits.substr(0, 1);
     if (length > 1) text += decimal_mark_ + digits.substr(1);
     text += exponent < 0 ? "E-" : "E+";
-    text += Padded(std::abs(exponent), 2);
+    AppendPadded(text, std::abs(exponent), 2);
   } else if (exponent < 0) {
     text =
         std::string("0") + decimal_mark_ + std::string(static_cast<std::size_t>(-exponent - 1), '0') + digits;
@@ -247,6 +263,13 @@ std::string Region::ToText(Date date) const {
 }
 
 std::optional<double> Region::ParseNumber(std::string_view text) const {
+  // A few digits alone, as nearly all quantities are.
+  constexpr std::size_t kFewDigits = 9;
+  if (!text.empty() && text.size() <= kFewDigits && std::all_of(text.begin(), text.end(), IsDigit)) {
+    int number = 0;
+    for (const char c : text) number = number * 10 + (c - '0');
+    return number;
+  }
   const std::string trimmed = Trim(text);
   std::size_t at = 0;
   std::string plain;
@@ -335,22 +358,22 @@ std::string Region::Format(Date date, std::string_view mask) const {
     const int width = run >= 2 ? 2 : 1;
     switch (letter) {
       case 'd':
-        text += Padded(date.Day(), width);
+        AppendPadded(text, date.Day(), width);
         break;
       case 'm':
-        text += Padded(date.Month(), width);
+        AppendPadded(text, date.Month(), width);
         break;
       case 'y':
-        text += run > 2 ? Padded(date.Year(), 4) : Padded(date.Year() % 100, 2);
+        run > 2 ? AppendPadded(text, date.Year(), 4) : AppendPadded(text, date.Year() % 100, 2);
         break;
       case 'h':
-        text += Padded(date.Hour(), width);
+        AppendPadded(text, date.Hour(), width);
         break;
       case 'n':
-        text += Padded(date.Minute(), width);
+        AppendPadded(text, date.Minute(), width);
         break;
       case 's':
-        text += Padded(date.Second(), width);
+        AppendPadded(text, date.Second(), width);
         break;
       case '/':
         text.append(run, date_separator_);

@@ -52,6 +52,7 @@ class Region {
   /// A value as text: numbers with 15 digits at most and the decimal mark, dates in the short form with the
   /// time if it is not midnight. Null raises error 94, a number that is not finite error 6.
   std::string ToText(const Value& value) const;
+  std::string ToText(Value&& value) const;
   std::string ToText(double number) const;
   std::string ToText(Date date) const;
 

@@ -201,9 +201,16 @@ std::string Showable(std::string_view text) {
   return shown;
 }
 
+// Both cases of a letter take the same number of bytes.
 bool EqualsIgnoringCase(std::string_view left, std::string_view right) {
+  if (left.size() != right.size()) return false;
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80U; };
   std::size_t i = 0;
-  std::size_t j = 0;
+  for (; i < left.size() && is_ascii(left[i]) && is_ascii(right[i]); ++i) {
+    if (left[i] != right[i] && lower(left[i]) != lower(right[i])) return false;
+  }
+  std::size_t j = i;
   while (i < left.size() && j < right.size()) {
     if (ToLower(NextCharacter(left, i)) != ToLower(NextCharacter(right, j))) return false;
   }

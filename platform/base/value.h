@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <variant>
 
 #include "platform/base/date.h"
@@ -24,13 +25,25 @@ class Value {
   bool IsText() const { return std::holds_alternative<std::string>(content_); }
 
   /// Each raises error 13 if the value is of another kind.
-  double Number() const;
-  Date AsDate() const;
-  const std::string& Text() const;
+  double Number() const { return Get<double>(); }
+  Date AsDate() const { return Get<Date>(); }
+  const std::string& Text() const { return Get<std::string>(); }
+  /// The text itself, for whoever has no more use for the value.
+  std::string TakeText() && {
+    if (auto* const held = std::get_if<std::string>(&content_)) return std::move(*held);
+    RaiseOtherKind();
+  }
 
   bool operator==(const Value&) const = default;
 
  private:
+  template <typename Kind>
+  const Kind& Get() const {
+    if (const Kind* held = std::get_if<Kind>(&content_)) return *held;
+    RaiseOtherKind();
+  }
+  [[noreturn]] static void RaiseOtherKind();
+
   std::variant<std::monostate, double, Date, std::string> content_;
 };
 

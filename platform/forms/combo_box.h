@@ -27,6 +27,8 @@ class ComboBox final : public Control {
   void ListIndex(int index);
   /// Appends at the end.
   void AddItem(const std::string& text);
+  /// Whether an entry is that text, so that it can be chosen by it.
+  bool Holds(const std::string& text) const { return first_index_.contains(text); }
   void Clear();
 
   void RestoreDefaults() override;
