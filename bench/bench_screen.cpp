@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <stdexcept>
 
-#include "host/dictionaries.h"
+#include "host/sample/dictionaries.h"
 
 namespace orvendal::bench {
 namespace {
