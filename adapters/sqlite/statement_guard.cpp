@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "platform/base/text.h"
@@ -12,6 +13,7 @@ namespace orvendal::sqlite {
 namespace {
 
 // In bytes. No field of a store comes near it, but for a picture that somebody else keeps there.
+constexpr std::int64_t kMostMemory = std::int64_t{512} << 20;  // bytes
 constexpr int kLongestValue = 4 * 1024 * 1024;
 // In bytes, of the engine's own LIKE and GLOB, whose work is the pattern's length times the text's.
 constexpr int kLongestEnginePattern = 100;
@@ -50,6 +52,8 @@ StatementGuard::StatementGuard(sqlite3* database) : database_(database) {
   sqlite3_db_config(database_, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
   // A misspelt name in double quotes must not turn into a text.
   sqlite3_db_config(database_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+  // All stores of the process together: a statement that piles up values ends before the machine does.
+  sqlite3_hard_heap_limit64(kMostMemory);
   sqlite3_limit(database_, SQLITE_LIMIT_ATTACHED, 0);
   sqlite3_limit(database_, SQLITE_LIMIT_LENGTH, kLongestValue);
   sqlite3_limit(database_, SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kLongestEnginePattern);

@@ -9,7 +9,8 @@ namespace orvendal::sqlite {
 /// reaches beyond the tables of the file, with an error of the statement. Refused are other files (ATTACH,
 /// VACUUM, extensions), virtual tables, pointers given to the engine, values and patterns so long that a
 /// single call of a function would hold up the program, and every pragma but those that only tell something.
-/// The host's own statements may use any pragma. Foreign keys are not enforced.
+/// All statements of a process together get 512 MiB of memory. The host's own statements may use any pragma.
+/// Foreign keys are not enforced.
 ///
 /// Invariant: watches its connection from its making until LetGo or its end.
 class StatementGuard {

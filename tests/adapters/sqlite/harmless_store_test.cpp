@@ -250,6 +250,17 @@ TEST_F(HarmlessStore, ASingleCallOfAFunctionEndsSoon) {
   EXPECT_EQ(Told("SELECT COUNT(*) FROM Productos"), "0");
 }
 
+// Seen: a script took all the memory there was.
+TEST_F(HarmlessStore, AStatementThatPilesUpValuesEndsBeforeTheMemoryDoes) {
+  OpenSample();
+  EXPECT_EQ(DescriptionOf([&] {
+              Told("SELECT count(DISTINCT zeroblob(4000000) || i) FROM (" + std::string(kEndless) +
+                   "SELECT i FROM n LIMIT 200)");
+            }),
+            "out of memory");
+  EXPECT_EQ(Told("SELECT COUNT(*) FROM Productos"), "0");
+}
+
 TEST_F(HarmlessStore, FunctionsThatTakeTimeAreInterruptedBetweenTheirCalls) {
   OpenSample();
   store->CommandTimeout(50);

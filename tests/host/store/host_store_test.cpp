@@ -126,8 +126,13 @@ TEST_F(HostStore, TheDefaultStoreIsForItsOwnerAlone) {
     if (was_there) {  // as earlier versions left it
       fs::permissions(home, fs::perms(0755));
       fs::permissions(store_file, fs::perms(0644));
+      std::ofstream(store_file + "-journal");
+      fs::permissions(store_file + "-journal", fs::perms(0644));
     }
     MakePrivateFile(store_file);
+    if (was_there) {
+      EXPECT_EQ(permissions(store_file + "-journal"), 0600U);
+    }
     const auto store = OpenOrMakeStore(At(store_file), kToday);
     store->Execute("DELETE FROM Productos WHERE Codigo = 'x'");
     EXPECT_EQ(permissions(home), 0700U);

@@ -39,8 +39,8 @@ TEST(PrintedText, BytesThatAreNoTextAreWrittenOut) {
 }
 
 TEST(PrintedText, WhatTurnsOrHidesTheTextAroundItIsWrittenOut) {
-  EXPECT_EQ(PrintedText("a\u202eb\u2066c\u200bd\u2028e\ufefff"),
-            "a\\u{202e}b\\u{2066}c\\u{200b}d\\u{2028}e\\u{feff}f");
+  EXPECT_EQ(PrintedText("-\u00ad-a\u202eb\u2066c\u200bd\u2028e\ufefff"),
+            "-\\u{ad}-a\\u{202e}b\\u{2066}c\\u{200b}d\\u{2028}e\\u{feff}f");
 }
 
 TEST(QuotedText, QuotesAndBackslashesAreTold) {
