@@ -34,6 +34,9 @@ if(ORVENDAL_SANITIZE)
                                                     -fno-omit-frame-pointer)
   target_link_options(orvendal_options INTERFACE -fsanitize=address,undefined)
 endif()
+if(ORVENDAL_FUZZ)
+  target_compile_options(orvendal_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # What makes it hard to turn a slip into a way in; scripts/check_hardening reads it out of the program.
 if(NOT WIN32)
