@@ -42,7 +42,13 @@ struct ObservedRecordsetFactory::Journal {
   std::function<void(const OpenedStatement&)> listener;
   FaultQueue update_faults;
   FaultQueue open_faults;
+  FaultQueue operation_faults;
+  int operations = 0;
 
+  void CountOperation() {
+    ++operations;
+    operation_faults.Count();
+  }
   void Record(const OpenedStatement& statement) {
     statements.push_back(statement);
     if (listener) listener(statement);
@@ -60,6 +66,7 @@ class ObservedRecordset final : public Recordset {
             std::int32_t options) override {
     OpenedStatement statement{source, cursor, lock, 0, {}};
     try {
+      journal_->CountOperation();
       journal_->open_faults.Count();
       inner_->Open(source, connection, cursor, lock, options);
     } catch (const RuntimeError& error) {
@@ -74,25 +81,26 @@ class ObservedRecordset final : public Recordset {
   }
 
   void Update() override {
+    journal_->CountOperation();
     journal_->update_faults.Count();
     inner_->Update();
   }
 
-  void Close() override { inner_->Close(); }
+  void Close() override { Counted().Close(); }
   std::int32_t State() const override { return inner_->State(); }
   std::int32_t EditMode() const override { return inner_->EditMode(); }
   bool AtEnd() const override { return inner_->AtEnd(); }
-  void MoveNext() override { inner_->MoveNext(); }
-  std::int32_t RecordCount() const override { return inner_->RecordCount(); }
+  void MoveNext() override { Counted().MoveNext(); }
+  std::int32_t RecordCount() const override { return Counted().RecordCount(); }
   void Find(const std::string& criteria, std::int32_t skip_records, SearchDirection direction) override {
-    inner_->Find(criteria, skip_records, direction);
+    Counted().Find(criteria, skip_records, direction);
   }
-  void AbsolutePosition(std::int32_t position) override { inner_->AbsolutePosition(position); }
+  void AbsolutePosition(std::int32_t position) override { Counted().AbsolutePosition(position); }
   std::size_t FieldCount() const override { return inner_->FieldCount(); }
   std::string FieldName(std::size_t index) const override { return inner_->FieldName(index); }
-  void AddNew() override { inner_->AddNew(); }
-  void Collect(std::string_view name, const Value& value) override { inner_->Collect(name, value); }
-  void CancelUpdate() override { inner_->CancelUpdate(); }
+  void AddNew() override { Counted().AddNew(); }
+  void Collect(std::string_view name, const Value& value) override { Counted().Collect(name, value); }
+  void CancelUpdate() override { Counted().CancelUpdate(); }
 
  protected:
   std::size_t FieldIndex(std::string_view name) const override {
@@ -103,9 +111,14 @@ class ObservedRecordset final : public Recordset {
     }
     throw AdoError(ado_error::kItemNotFound);
   }
-  Value FieldValue(std::size_t index) const override { return Field(*inner_, index).Value(); }
+  Value FieldValue(std::size_t index) const override { return Field(Counted(), index).Value(); }
 
  private:
+  Recordset& Counted() const {
+    journal_->CountOperation();
+    return *inner_;
+  }
+
   RecordsetRef inner_;
   std::shared_ptr<ObservedRecordsetFactory::Journal> journal_;
   std::vector<std::string> names_;  // of the open recordset's fields, for the look-up
@@ -136,6 +149,14 @@ void ObservedRecordsetFactory::FailUpdate(int nth, std::int32_t number, const st
 
 void ObservedRecordsetFactory::FailOpen(int nth, std::int32_t number, const std::string& description) {
   journal_->open_faults.Add(nth, RuntimeError(number, description));
+}
+
+void ObservedRecordsetFactory::FailOperation(int nth, std::int32_t number, const std::string& description) {
+  journal_->operation_faults.Add(nth, RuntimeError(number, description));
+}
+
+int ObservedRecordsetFactory::Operations() const {
+  return journal_->operations;
 }
 
 }  // namespace orvendal

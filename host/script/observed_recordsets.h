@@ -42,6 +42,11 @@ class ObservedRecordsetFactory final : public RecordsetFactory {
   /// for the same operation the one added first is raised.
   void FailUpdate(int nth, std::int32_t number, const std::string& description);
   void FailOpen(int nth, std::int32_t number, const std::string& description);
+  /// The `nth` operation of any kind that can fail: opening, closing, moving, searching, counting, reading a
+  /// field, assigning one, adding, updating and dropping a row.
+  void FailOperation(int nth, std::int32_t number, const std::string& description);
+  /// How many of those there were so far.
+  int Operations() const;
 
   /// Shared with the recordsets it made.
   struct Journal;

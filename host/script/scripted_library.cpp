@@ -50,6 +50,8 @@ void ScriptedLibrary::ReplaceConnection(const std::string& operation, Connection
 }
 
 void ScriptedLibrary::FailIfAsked(const std::string& operation) {
+  ++calls_that_can_fail_;
+  if (call_failure_ && --calls_to_failure_ == 0) throw *std::exchange(call_failure_, {});
   const auto found = failures_.find(operation);
   if (found == failures_.end()) return;
   const RuntimeError error = found->second;

@@ -58,6 +58,13 @@ class ScriptedLibrary final : public Library {
   void FailNext(const std::string& operation, const RuntimeError& error) {
     failures_.insert_or_assign(operation, error);
   }
+  /// The `nth` call of any operation from now on, counted from 1, fails so.
+  void FailCall(int nth, const RuntimeError& error) {
+    calls_to_failure_ = nth;
+    call_failure_ = error;
+  }
+  /// How many calls there were so far that can fail.
+  int CallsThatCanFail() const { return calls_that_can_fail_; }
   /// Whether LiberarForm leaves the reference as it is.
   void KeepForm(bool keep) { keep_form_ = keep; }
   /// What AccionPuesto and AbrirCambio do instead of opening their dialogs.
@@ -107,6 +114,9 @@ class ScriptedLibrary final : public Library {
   std::deque<std::int32_t> answers_;
   std::deque<std::function<void()>> during_dialog_;
   std::map<std::string, RuntimeError> failures_;
+  int calls_that_can_fail_ = 0;
+  int calls_to_failure_ = 0;
+  std::optional<RuntimeError> call_failure_;
   std::map<std::string, ConnectionRef> replacements_;
   std::function<void(const std::string& operation)> prepare_dialog_;
   bool keep_form_ = false;
