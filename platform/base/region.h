@@ -66,7 +66,8 @@ class Region {
   /// A value as a whole number of 32 bits, halves to the even one. Raises 94 for Null, 13 for a text that is
   /// no number, 6 out of range.
   std::int32_t ToLong(const Value& value) const;
-  /// A value as a date. Raises 94 for Null, 13 for a text that is no date.
+  /// A value as a date. Raises 94 for Null, 13 for a text that is no date, 5 for a number of days beyond the
+  /// calendar.
   Date ToDate(const Value& value) const;
 
   /// A date by a mask of d, dd, m, mm, yyyy, hh, nn, ss; "/" prints the region's date separator, other
