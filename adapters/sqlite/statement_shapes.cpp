@@ -9,6 +9,7 @@ namespace orvendal::sqlite {
 namespace {
 
 constexpr std::size_t kMostShapes = 64;
+constexpr std::size_t kLongestShape = 2000;  // bytes; the screen's own are a third of it
 
 struct PlainText {
   std::string_view text;
@@ -21,15 +22,26 @@ struct Parts {
   std::vector<PlainText> texts;
 };
 
+bool IsAscii(char c) {
+  return static_cast<unsigned char>(c) < 0x80U;
+}
 bool IsPlain(char c) {
-  return c > 0;  // ASCII, and no NUL
+  return IsAscii(c) && c != '\0';
 }
 bool IsWildcard(char c) {
   return c == '%' || c == '_' || c == '[';
 }
 
-// False for a statement that has more in it than names, words and plain texts in single quotes: only the
-// tokenizer knows where its texts end.
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+bool BelongsToWord(char c) {
+  return IsDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || !IsAscii(c);
+}
+
+// False for a statement that has more in it than names, words and plain texts in single quotes, of which only
+// the tokenizer knows where they end, and for one with a number: its values stand in the statement itself,
+// which nobody will need again.
 bool TakeApart(std::string_view source, Parts& parts) {
   parts.key.reserve(source.size());
   for (std::size_t at = 0; at < source.size(); ++at) {
@@ -56,10 +68,11 @@ bool TakeApart(std::string_view source, Parts& parts) {
         break;
       }
       default:
+        if (IsDigit(c) && (at == 0 || !BelongsToWord(source[at - 1]))) return false;
         break;
     }
   }
-  return true;
+  return parts.key.size() <= kLongestShape;
 }
 
 std::string Derived(std::string_view text, ParameterSource::Form form) {

@@ -55,7 +55,8 @@ void TextLikeFunction(sqlite3_context* context, int, sqlite3_value** arguments) 
 
 // Codes are, nearly always: then the range begins with the text itself.
 bool IsPlain(std::string_view text) {
-  return !text.ends_with(' ') && std::all_of(text.begin(), text.end(), [](char c) { return c >= 0; });
+  return !text.ends_with(' ') &&
+         std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80U; });
 }
 
 void RangeLowFunction(sqlite3_context* context, int, sqlite3_value** arguments) {
