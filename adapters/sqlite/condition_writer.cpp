@@ -56,7 +56,7 @@ std::string ConditionWriter::Within(const std::string& key, const IndexRange& ra
 // answers, or with blanks after it, of which there are hardly ever any. Without an exact spelling to look
 // for, the texts near it are looked through.
 Cases ConditionWriter::TextIs(const std::string& column, const std::string& text, const std::string& filter,
-                              ParameterSource source) {
+                              ParameterSource source, bool alone) {
   const std::string key = WithoutCase(column);
   const std::vector<std::string> spellings = CaseVariants(text);
   if (spellings.empty()) {
@@ -69,6 +69,12 @@ Cases ConditionWriter::TextIs(const std::string& column, const std::string& text
                    ? ParameterSource::Form::kAboveItWithoutTrailingBlanks
                    : ParameterSource::Form::kAboveIt;
   const std::string unless_exact = text.find('\0') == std::string::npos ? "" : " AND " + filter;
+  if (alone && spellings.size() == 1 && unless_exact.empty()) {
+    // Nothing but an index on this column is of use, in which the two stand next to one another.
+    const std::string from = Next(spellings[0], source);
+    return {key + " >= " + from + " AND " + key + " < " + Next(AboveTrailingBlanks(spellings[0]), above) +
+            " AND " + filter};
+  }
   Cases exact;
   Cases with_blanks;
   for (const std::string& spelling : spellings) {
@@ -81,23 +87,23 @@ Cases ConditionWriter::TextIs(const std::string& column, const std::string& text
   return exact;
 }
 
-Cases ConditionWriter::TextEquals(const std::string& column, std::string_view text, std::size_t number) {
-  const std::string bare = WithoutTrailingBlanks(text);
-  const ParameterSource source{number, ParameterSource::Form::kWithoutTrailingBlanks};
-  return TextIs(column, bare, Call(function::kTextEquals, column, Next(bare, source)), source);
+Cases ConditionWriter::TextEquals(const std::string& column, const Text& text) {
+  const std::string bare = WithoutTrailingBlanks(text.text);
+  const ParameterSource source{text.number, ParameterSource::Form::kWithoutTrailingBlanks};
+  return TextIs(column, bare, Call(function::kTextEquals, column, Next(bare, source)), source, text.alone);
 }
 
 std::string ConditionWriter::TextDiffers(const std::string& column, std::string_view text) {
   return "NOT " + Call(function::kTextEquals, column, Next(std::string(text)));
 }
 
-Cases ConditionWriter::TextLike(const std::string& column, std::string_view pattern, std::size_t number) {
-  const TextPattern parsed(pattern);
-  const ParameterSource source{number, ParameterSource::Form::kAsItIs, true};
-  const std::string filter = Call(function::kTextLike, column, Next(std::string(pattern), source));
+Cases ConditionWriter::TextLike(const std::string& column, const Text& pattern) {
+  const TextPattern parsed(pattern.text);
+  const ParameterSource source{pattern.number, ParameterSource::Form::kAsItIs, true};
+  const std::string filter = Call(function::kTextLike, column, Next(std::string(pattern.text), source));
   // A wildcard in brackets is none; but a pattern without any is what it says.
-  if (parsed.LiteralPrefix() != pattern) knows_sources_ = false;
-  if (!parsed.HasWildcards()) return TextIs(column, parsed.LiteralPrefix(), filter, source);
+  if (parsed.LiteralPrefix() != pattern.text) knows_sources_ = false;
+  if (!parsed.HasWildcards()) return TextIs(column, parsed.LiteralPrefix(), filter, source, pattern.alone);
   if (parsed.LiteralPrefix().empty()) return {filter};
   return {Within(WithoutCase(column), RangeOfPrefix(parsed.LiteralPrefix())) + " AND " + filter};
 }

@@ -27,10 +27,16 @@ class ConditionWriter {
  public:
   ConditionWriter(Dialect dialect, const Region& region) : dialect_(dialect), region_(region) {}
 
-  // `number` is that of the text among those of the statement.
-  Cases TextEquals(const std::string& column, std::string_view text, std::size_t number);
+  /// A text of the statement: what it says, its number among them, and whether the statement has no other
+  /// condition than that which compares it.
+  struct Text {
+    std::string_view text;
+    std::size_t number = 0;
+    bool alone = false;
+  };
+  Cases TextEquals(const std::string& column, const Text& text);
   std::string TextDiffers(const std::string& column, std::string_view text);
-  Cases TextLike(const std::string& column, std::string_view pattern, std::size_t number);
+  Cases TextLike(const std::string& column, const Text& pattern);
   /// A value of any kind, written as text, against a pattern.
   std::string ValueLike(const std::string& column, std::string_view pattern);
   /// Two text columns; an index on the second one stays of use.
@@ -52,7 +58,7 @@ class ConditionWriter {
   std::string Next(Parameter parameter, ParameterSource source);
   std::string Within(const std::string& key, const IndexRange& range);
   Cases TextIs(const std::string& column, const std::string& text, const std::string& filter,
-               ParameterSource source);
+               ParameterSource source, bool alone);
 
   Dialect dialect_;
   const Region& region_;

@@ -70,11 +70,12 @@ class Rewriter {
     return index < tokens_.size() && tokens_[index].IsWord(word);
   }
 
-  // How many texts stand before the token.
-  std::size_t TextNumber(std::size_t index) const {
-    return static_cast<std::size_t>(
-        std::count_if(tokens_.begin(), tokens_.begin() + static_cast<std::ptrdiff_t>(index),
-                      [](const Token& token) { return token.kind == TokenKind::kText; }));
+  // The text at `index`, which ends a condition from `begin` to `end_`.
+  ConditionWriter::Text TextAt(std::size_t begin, std::size_t index) const {
+    const auto before = std::count_if(tokens_.begin(), tokens_.begin() + static_cast<std::ptrdiff_t>(index),
+                                      [](const Token& token) { return token.kind == TokenKind::kText; });
+    const bool alone = tokens_[begin - 1].IsWord("WHERE") && end_ == tokens_.size();
+    return {tokens_[index].text, static_cast<std::size_t>(before), alone};
   }
 
   // One statement at a time: what stands after a semicolon is refused.
@@ -199,7 +200,7 @@ class Rewriter {
       case ColumnKind::kNumber:
         return Cases{conditions_.ValueLike(column.sql, pattern->text)};
       default:
-        return conditions_.TextLike(column.sql, pattern->text, TextNumber(index));
+        return conditions_.TextLike(column.sql, TextAt(begin, index));
     }
   }
 
@@ -238,7 +239,7 @@ class Rewriter {
     if (const Token* text = Peek(index + 1); text != nullptr && text->kind == TokenKind::kText) {
       end_ = index + 2;
       if (!StandsAlone(begin, end_)) return std::nullopt;
-      if (equality) return conditions_.TextEquals(column.sql, text->text, TextNumber(index + 1));
+      if (equality) return conditions_.TextEquals(column.sql, TextAt(begin, index + 1));
       return Cases{conditions_.TextDiffers(column.sql, text->text)};
     }
     const std::optional<Column> other = ColumnAt(index + 1);
