@@ -4,7 +4,11 @@
 #include <QPainterPath>
 #include <QPolygonF>
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstddef>
+#include <memory>
+#include <utility>
 
 namespace orvendal {
 namespace {
@@ -13,8 +17,11 @@ QColor ColorOf(Rgb color) {
   return QColor(color.red, color.green, color.blue);
 }
 
+// Halves go up. Every edge of every rectangle comes here, and std::floor is a call of the C library.
 int Round(double pixels) {
-  return static_cast<int>(std::floor(pixels + 0.5));
+  const double raised = pixels + 0.5;
+  const int whole = static_cast<int>(raised);
+  return whole - (raised < whole ? 1 : 0);
 }
 
 // Black and white squares of `size` pixels, seen on any background. They hang on the device's corner, so that
@@ -29,22 +36,65 @@ QBrush DottedBrush(int size) {
   return QBrush(pattern);
 }
 
-// The pixels of `bitmap` inside `part`, which lies within it.
-QImage PartOf(const Bitmap& bitmap, const QRect& part) {
-  std::vector<QRgb> palette(256, qRgb(0, 0, 0));
-  for (std::size_t i = 0; i < std::min<std::size_t>(bitmap.palette.size(), palette.size()); ++i) {
-    palette[i] = qRgb(bitmap.palette[i].red, bitmap.palette[i].green, bitmap.palette[i].blue);
+// A bitmap's pixels as Qt wants them. Each tile is turned into them when it is first seen: most of a picture
+// behind panels never is.
+class KeptImage final : public DeviceBitmap {
+ public:
+  explicit KeptImage(const Bitmap& bitmap)
+      : image_(bitmap.width, bitmap.height, QImage::Format_RGB32),
+        bits_(image_.bits()),
+        across_((bitmap.width + kTile - 1) / kTile),
+        made_(static_cast<std::size_t>(across_) *
+              static_cast<std::size_t>((bitmap.height + kTile - 1) / kTile)) {
+    palette_.fill(qRgb(0, 0, 0));
+    for (std::size_t i = 0; i < std::min<std::size_t>(bitmap.palette.size(), palette_.size()); ++i) {
+      palette_[i] = qRgb(bitmap.palette[i].red, bitmap.palette[i].green, bitmap.palette[i].blue);
+    }
   }
-  QImage image(part.size(), QImage::Format_RGB32);
-  for (int y = 0; y < part.height(); ++y) {
-    const std::uint8_t* source =
-        bitmap.pixels.data() +
-        static_cast<std::size_t>(part.y() + y) * static_cast<std::size_t>(bitmap.width) +
-        static_cast<std::size_t>(part.x());
-    QRgb* target = reinterpret_cast<QRgb*>(image.scanLine(y));
-    for (int x = 0; x < part.width(); ++x) target[x] = palette[source[x]];
+
+  // A part, which lies within the bitmap.
+  QImage Part(const Bitmap& bitmap, const QRect& part) {
+    for (int y = part.top() / kTile; y <= part.bottom() / kTile; ++y) {
+      for (int x = part.left() / kTile; x <= part.right() / kTile; ++x) {
+        const auto tile =
+            static_cast<std::size_t>(y) * static_cast<std::size_t>(across_) + static_cast<std::size_t>(x);
+        if (!made_[tile]) Make(bitmap, QRect(x * kTile, y * kTile, kTile, kTile) & image_.rect());
+        made_[tile] = true;
+      }
+    }
+    return QImage(reinterpret_cast<const uchar*>(Pixels(part.y()) + part.x()), part.width(), part.height(),
+                  image_.bytesPerLine(), image_.format());
   }
-  return image;
+
+ private:
+  static constexpr int kTile = 32;
+
+  QRgb* Pixels(int y) { return reinterpret_cast<QRgb*>(bits_ + y * image_.bytesPerLine()); }
+
+  void Make(const Bitmap& bitmap, const QRect& tile) {
+    for (int y = tile.top(); y <= tile.bottom(); ++y) {
+      const std::uint8_t* source =
+          bitmap.pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(bitmap.width);
+      QRgb* const target = Pixels(y);
+      for (int x = tile.left(); x <= tile.right(); ++x) target[x] = palette_[source[x]];
+    }
+  }
+
+  QImage image_;
+  uchar* bits_;
+  int across_;  // tiles
+  std::vector<bool> made_;
+  std::array<QRgb, 256> palette_;
+};
+
+KeptImage& KeptImageOf(const Bitmap& bitmap) {
+  auto* kept = dynamic_cast<KeptImage*>(bitmap.device.kept.get());
+  if (kept == nullptr) {
+    auto made = std::make_unique<KeptImage>(bitmap);
+    kept = made.get();
+    bitmap.device.kept = std::move(made);
+  }
+  return *kept;
 }
 
 }  // namespace
@@ -62,7 +112,6 @@ QtCanvas::QtCanvas(QPainter& painter, QtFonts& fonts, double scale, Point origin
                 static_cast<int>(std::ceil(painter.device()->height() * ratio)));
   painter_.save();
   painter_.setTransform(device_transform_);
-  painter_.setPen(Qt::NoPen);
 }
 
 QtCanvas::~QtCanvas() {
@@ -97,11 +146,35 @@ bool QtCanvas::Limit(const QRect& clip) {
 
 void QtCanvas::Fill(const QRect& pixels, Rgb color) {
   const QRect seen = pixels & clip_;
-  if (!seen.isEmpty() && Limit(clip_)) painter_.fillRect(seen, ColorOf(color));
+  if (seen.isEmpty() || !Limit(clip_)) return;
+  painter_.fillRect(seen, ColorOf(color));
+  RememberGround(seen, ColorOf(color).rgb());
+}
+
+// A line along an edge of the ground makes it smaller.
+void QtCanvas::RememberGround(const QRect& filled, QRgb color) {
+  if (!filled.intersects(ground_) || filled.contains(ground_) ||
+      (filled.width() > 1 && filled.height() > 1)) {
+    ground_ = filled;
+    ground_color_ = color;
+    return;
+  }
+  if (filled.height() == 1 && filled.top() == ground_.top()) {
+    ground_.setTop(filled.top() + 1);
+  } else if (filled.height() == 1 && filled.bottom() == ground_.bottom()) {
+    ground_.setBottom(filled.top() - 1);
+  } else if (filled.width() == 1 && filled.left() == ground_.left()) {
+    ground_.setLeft(filled.left() + 1);
+  } else if (filled.width() == 1 && filled.right() == ground_.right()) {
+    ground_.setRight(filled.left() - 1);
+  } else {
+    ground_ = QRect();
+  }
 }
 
 void QtCanvas::Frame(const QRect& pixels, int width, const QBrush& brush) {
   if (pixels.isEmpty() || !pixels.intersects(clip_) || !Limit(clip_)) return;
+  ground_ = QRect();
   const int across = std::min(width, pixels.width());
   const int down = std::min(width, pixels.height());
   const int between = std::max(0, pixels.height() - 2 * down);
@@ -134,6 +207,7 @@ void QtCanvas::RoundedRectangle(const Rect& rect, double radius, std::optional<R
   const int line = LineWidth(width);
   const QRect outer = edge.adjusted(-(line / 2), -(line / 2), line / 2, line / 2);
   if (outer.isEmpty() || !outer.intersects(clip_) || !Limit(clip_)) return;
+  ground_ = QRect();
   const QRect inner = outer.adjusted(line, line, -line, -line);
 
   if (radius <= 0) {
@@ -169,22 +243,24 @@ void QtCanvas::DrawLine(Point from, Point to, Rgb color, double width) {
   } else if (x1 == x2) {
     Fill(QRect(x1 - line / 2, std::min(y1, y2), line, std::max(std::abs(y2 - y1), 1)), color);
   } else if (Limit(clip_)) {
+    ground_ = QRect();
     painter_.setRenderHint(QPainter::Antialiasing, true);
     painter_.setPen(QPen(ColorOf(color), line, Qt::SolidLine, Qt::FlatCap));
     painter_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
-    painter_.setPen(Qt::NoPen);
     painter_.setRenderHint(QPainter::Antialiasing, false);
   }
 }
 
 void QtCanvas::FillPolygon(const std::vector<Point>& points, Rgb color) {
   if (points.size() < 3 || !Limit(clip_)) return;
+  ground_ = QRect();
   QPolygonF polygon;
   polygon.reserve(static_cast<qsizetype>(points.size()));
   for (const Point& point : points) {
     polygon << QPointF(Pixels(origin_.x + point.x), Pixels(origin_.y + point.y));
   }
   painter_.setRenderHint(QPainter::Antialiasing, true);
+  painter_.setPen(Qt::NoPen);
   painter_.setBrush(ColorOf(color));
   painter_.drawPolygon(polygon);
   painter_.setBrush(Qt::NoBrush);
@@ -193,7 +269,8 @@ void QtCanvas::FillPolygon(const std::vector<Point>& points, Rgb color) {
 
 void QtCanvas::DrawText(const Rect& box, std::string_view text, const FontSpec& font, Rgb color,
                         HorizontalAlign horizontal, VerticalAlign vertical) {
-  if (text.empty() || !Limit(Device(box))) return;
+  const QRect clip = Device(box);
+  if (text.empty() || !clip.intersects(clip_)) return;
   const QString line = SingleLine(text);
   const QtFonts::Measures measures = fonts_.LineMeasures(font);
 
@@ -207,12 +284,48 @@ void QtCanvas::DrawText(const Rect& box, std::string_view text, const FontSpec& 
     const double room = box.height - measures.height * kTwipsPerPixel;
     top += vertical == VerticalAlign::kBottom ? room : room / 2;
   }
-  painter_.setTransform(text_transform_);
-  painter_.setFont(fonts_.Font(font));
+  if (CopyText(line, font, ColorOf(color).rgb(), QPoint(X(left), Y(top)), clip)) return;
+  if (!Limit(clip)) return;
+  ground_ = QRect();
+  const QFont& wanted = fonts_.Font(font);
+  if (font_ != &wanted) painter_.setFont(wanted);
+  font_ = &wanted;
   painter_.setPen(ColorOf(color));
+  const bool is_scaled = text_transform_ != device_transform_;
+  if (is_scaled) painter_.setTransform(text_transform_);
   painter_.drawText(QPointF(X(left) / scale_, Y(top) / scale_ + measures.ascent), line);
-  painter_.setPen(Qt::NoPen);
-  painter_.setTransform(device_transform_);
+  if (is_scaled) painter_.setTransform(device_transform_);
+}
+
+// False if the ground is not of one colour, if letters might come out otherwise at this scale, or if there is
+// no picture. `corner` is that of the line.
+bool QtCanvas::CopyText(const QString& line, const FontSpec& font, QRgb color, QPoint corner,
+                        const QRect& clip) {
+  constexpr qsizetype kLongestText = 100;
+  if (text_transform_ != QTransform() || device_transform_ != QTransform() || line.size() > kLongestText) {
+    return false;
+  }
+  const QRect shown = clip & clip_;
+  if (!ground_.contains(shown)) return false;
+  const QtTextImages::Picture* const picture =
+      fonts_.Images().Of({&fonts_.Font(font), line, color, ground_color_}, [&]() -> QtTextImages::Picture {
+        const QRect ink = fonts_.TextInk(font, line).toAlignedRect().adjusted(-1, -1, 1, 1);
+        QImage image(ink.size(), QImage::Format_RGB32);
+        image.fill(ground_color_);
+        QPainter painter(&image);
+        painter.setFont(fonts_.Font(font));
+        painter.setPen(QColor::fromRgb(color));
+        painter.drawText(QPointF(0, fonts_.LineMeasures(font).ascent) - QPointF(ink.topLeft()), line);
+        return {image, ink.topLeft()};
+      });
+  if (picture == nullptr) return false;
+  const QRect place(corner + picture->corner, picture->image.size());
+  const QRect seen = place & shown;
+  if (!seen.isEmpty() && Limit(clip_)) {
+    painter_.drawImage(seen.topLeft(), picture->image, seen.translated(-place.topLeft()));
+  }
+  ground_ = QRect();
+  return true;
 }
 
 void QtCanvas::DrawBitmap(Point at, const Bitmap& bitmap, const Rect& clip) {
@@ -226,15 +339,16 @@ void QtCanvas::DrawBitmap(Point at, const Bitmap& bitmap, const Rect& clip) {
   const QRect target(left, top, Round(bitmap.width * scale_), Round(bitmap.height * scale_));
   const QRect seen = clip_ & Device(clip) & target;
   if (seen.isEmpty() || !Limit(seen)) return;
-  // Only the part that is seen is turned into an image: a caret that blinks over a large picture costs no
-  // more than the caret. One pixel more at each side lets the smoothing see its neighbours.
+  ground_ = QRect();
+  // Only the part that is seen is drawn: a caret that blinks over a large picture costs no more than the
+  // caret. One pixel more at each side lets the smoothing see its neighbours.
   const int first_x = static_cast<int>(std::floor((seen.left() - left) / scale_)) - 1;
   const int first_y = static_cast<int>(std::floor((seen.top() - top) / scale_)) - 1;
   const int last_x = static_cast<int>(std::ceil((seen.right() + 1 - left) / scale_)) + 1;
   const int last_y = static_cast<int>(std::ceil((seen.bottom() + 1 - top) / scale_)) + 1;
   const QRect part =
       QRect(first_x, first_y, last_x - first_x, last_y - first_y) & QRect(0, 0, bitmap.width, bitmap.height);
-  const QImage image = PartOf(bitmap, part);
+  const QImage image = KeptImageOf(bitmap).Part(bitmap, part);
   painter_.setRenderHint(QPainter::SmoothPixmapTransform, scale_ != std::floor(scale_));
   painter_.drawImage(QRectF(left + part.x() * scale_, top + part.y() * scale_, part.width() * scale_,
                             part.height() * scale_),
@@ -257,6 +371,7 @@ void QtCanvas::Invert(const Rect& rect) {
   QRect pixels = Device(rect);
   pixels.setWidth(std::max(1, pixels.width()));
   if (!Limit(pixels)) return;
+  ground_ = QRect();
   painter_.setCompositionMode(QPainter::CompositionMode_Difference);
   painter_.fillRect(pixels, Qt::white);
   painter_.setCompositionMode(QPainter::CompositionMode_SourceOver);

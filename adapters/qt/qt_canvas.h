@@ -16,6 +16,8 @@ namespace orvendal {
 /// are whole pixels wide at any scale. Texts are laid out once, at the size of scale 1, and drawn larger, so
 /// that they take the same room at any scale.
 ///
+/// A text on a ground of one colour is copied from a picture of it where there is one (QtTextImages).
+///
 /// Invariants: `origin_` is in twips from the device's corner, `clip_` in pixels of the device. The painter
 /// is the canvas's own while the canvas lives; its state is as before afterwards.
 class QtCanvas final : public Canvas {
@@ -38,6 +40,8 @@ class QtCanvas final : public Canvas {
   void DrawBitmap(Point at, const Bitmap& bitmap, const Rect& clip) override;
   void Push(Point origin, const Rect& clip) override;
   void Pop() override;
+  bool ShowsAnyOf(const Rect& rect) const override { return Device(rect).intersects(clip_); }
+  bool IsWithin(const Rect& rect) const override { return Device(rect).contains(clip_); }
 
   /// Turns every colour inside `rect` round; what a caret is made of.
   void Invert(const Rect& rect);
@@ -55,6 +59,8 @@ class QtCanvas final : public Canvas {
   int LineWidth(double twips) const;
   /// Limits the painter to `clip` within the current one; false if nothing is left to paint on.
   bool Limit(const QRect& clip);
+  void RememberGround(const QRect& filled, QRgb color);
+  bool CopyText(const QString& line, const FontSpec& font, QRgb color, QPoint corner, const QRect& clip);
   void Fill(const QRect& pixels, Rgb color);
   void Frame(const QRect& pixels, int width, const QBrush& brush);
 
@@ -64,9 +70,12 @@ class QtCanvas final : public Canvas {
   double pixels_per_twip_;
   QTransform device_transform_;  // painter units are pixels of the device
   QTransform text_transform_;    // painter units are pixels of scale 1
+  const QFont* font_ = nullptr;  // that the painter has
   Point origin_;
   QRect clip_;
   QRect painter_clip_;
+  QRect ground_;  // the pixels that have one colour for sure, since nothing but that was painted there
+  QRgb ground_color_ = 0;
   std::vector<Level> levels_;
 };
 

@@ -12,16 +12,26 @@ namespace {
 constexpr double kPixelsPerPoint = 96.0 / 72.0;
 constexpr int kLightestBold = 600;
 
-QFont MakeFont(const FontSpec& spec) {
-  QFont font(QtFonts::FamilyFor(QString::fromStdString(spec.name)));
-  font.setPixelSize(std::max(1, qRound(spec.size * kPixelsPerPoint)));
+int PixelsOf(const FontSpec& spec) {
+  return std::max(1, qRound(spec.size * kPixelsPerPoint));
+}
+
+QFont MakeFont(const QString& family, int pixels, bool bold, bool italic) {
+  QFont font(family);
+  font.setPixelSize(pixels);
   // Half-bold is the heaviest cut of some families; asking for more would make an artificial one.
-  font.setWeight(spec.weight >= kLightestBold ? QFont::DemiBold : QFont::Normal);
-  font.setItalic(spec.italic);
+  font.setWeight(bold ? QFont::DemiBold : QFont::Normal);
+  font.setItalic(italic);
   font.setKerning(false);
   font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::PreferNoShaping));
   font.setHintingPreference(QFont::PreferVerticalHinting);
   return font;
+}
+
+// A line is as high as the whole pixels that it touches; newer versions of Qt tell parts of them.
+QtFonts::Measures LineOf(const QFontMetricsF& metrics) {
+  const double ascent = std::ceil(metrics.ascent());
+  return {ascent, ascent + std::ceil(metrics.descent())};
 }
 
 QString FirstInstalled(const QStringList& families) {
@@ -57,26 +67,55 @@ QString QtFonts::FamilyFor(const QString& name) {
                          "Arial", "DejaVu Sans"});
 }
 
-const QtFonts::Kept& QtFonts::Entry(const FontSpec& spec) {
-  const auto found = kept_.find(spec);
-  if (found != kept_.end()) return found->second;
-  const QFont font = MakeFont(spec);
-  return kept_.emplace(spec, Kept{font, QFontMetricsF(font)}).first->second;
+const QString& QtFonts::Family(const std::string& name) {
+  const auto found = families_.find(name);
+  if (found != families_.end()) return found->second;
+  return families_.emplace(name, FamilyFor(QString::fromStdString(name))).first->second;
+}
+
+QtFonts::Kept& QtFonts::Entry(const FontSpec& spec) {
+  if (last_ != nullptr && spec == last_spec_) return *last_;
+  auto found = specs_.find(spec);
+  if (found == specs_.end()) {
+    const QString& family = Family(spec.name);
+    const int pixels = PixelsOf(spec);
+    const bool bold = spec.weight >= kLightestBold;
+    const Cut cut(family, pixels, bold, spec.italic);
+    auto kept = kept_.find(cut);
+    if (kept == kept_.end()) {
+      const QFont font = MakeFont(family, pixels, bold, spec.italic);
+      const QFontMetricsF metrics(font);
+      kept = kept_.emplace(cut, Kept{font, metrics, LineOf(metrics), {}}).first;
+    }
+    found = specs_.emplace(spec, &kept->second).first;
+  }
+  last_spec_ = spec;
+  last_ = found->second;
+  return *last_;
+}
+
+QtFonts::TextSize& QtFonts::SizeOf(Kept& kept, const QString& text) {
+  constexpr qsizetype kMostSizes = 1000;
+  constexpr qsizetype kLongestText = 200;
+  const auto found = kept.sizes.find(text);
+  if (found != kept.sizes.end()) return *found;
+  if (kept.sizes.size() >= kMostSizes || text.size() > kLongestText) kept.sizes.clear();
+  return *kept.sizes.insert(text, {kept.metrics.horizontalAdvance(text), std::nullopt});
 }
 
 QtFonts::Measures QtFonts::LineMeasures(const FontSpec& spec) {
-  const QFontMetricsF& metrics = Entry(spec).metrics;
-  // A line is as high as the whole pixels that it touches; newer versions of Qt tell parts of them.
-  const double ascent = std::ceil(metrics.ascent());
-  return {ascent, ascent + std::ceil(metrics.descent())};
+  return Entry(spec).line;
 }
 
 double QtFonts::TextWidth(const FontSpec& spec, const QString& text) {
-  return Entry(spec).metrics.horizontalAdvance(text);
+  return SizeOf(Entry(spec), text).width;
 }
 
 QRectF QtFonts::TextInk(const FontSpec& spec, const QString& text) {
-  return Entry(spec).metrics.tightBoundingRect(text).translated(0, LineMeasures(spec).ascent);
+  Kept& kept = Entry(spec);
+  TextSize& size = SizeOf(kept, text);
+  if (!size.ink) size.ink = kept.metrics.tightBoundingRect(text);
+  return size.ink->translated(0, kept.line.ascent);
 }
 
 }  // namespace orvendal

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -14,12 +15,33 @@ namespace orvendal {
 enum class HorizontalAlign { kLeft, kRight, kCenter };
 enum class VerticalAlign { kTop, kCenter, kBottom };
 
-/// A picture with a palette, one byte a pixel, rows from the top. Lives as long as somebody paints it.
+/// What a canvas made of a bitmap for its device.
+struct DeviceBitmap {
+  virtual ~DeviceBitmap() = default;
+};
+
+/// Keeps it with the bitmap. Not copied: a copy of a bitmap is there to become another one.
+class DeviceBitmapSlot {
+ public:
+  DeviceBitmapSlot() = default;
+  DeviceBitmapSlot(const DeviceBitmapSlot&) {}
+  DeviceBitmapSlot& operator=(const DeviceBitmapSlot&) {
+    kept.reset();
+    return *this;
+  }
+  ~DeviceBitmapSlot() = default;
+
+  std::unique_ptr<DeviceBitmap> kept;
+};
+
+/// A picture with a palette, one byte a pixel, rows from the top. Lives as long as somebody paints it, and is
+/// not changed after it was painted.
 struct Bitmap {
   int width = 0;   // pixels
   int height = 0;  // pixels
   std::vector<Rgb> palette;
   std::vector<std::uint8_t> pixels;
+  mutable DeviceBitmapSlot device;  // a canvas's own; one kind of canvas that keeps something in a process
 };
 
 /// The drawing surface, which each adapter implements. Positions are twips, relative to the origin that Push
@@ -51,6 +73,13 @@ class Canvas {
   /// both given in the coordinates before the call.
   virtual void Push(Point origin, const Rect& clip) = 0;
   virtual void Pop() = 0;
+
+  // What a painter need not paint. To the pixel of the device; a canvas that cannot tell paints everything.
+
+  /// False if nothing within `rect` can be painted, since the clip leaves nothing of it.
+  virtual bool ShowsAnyOf(const Rect& /*rect*/) const { return true; }
+  /// True if whatever can be painted lies within `rect`, so that filling it would hide all that was there.
+  virtual bool IsWithin(const Rect& /*rect*/) const { return false; }
 };
 
 }  // namespace orvendal

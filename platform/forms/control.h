@@ -161,6 +161,9 @@ class Control {
   virtual Point ClientOrigin() const { return {}; }
 
   virtual void Paint(Canvas& canvas) = 0;
+  /// The part, relative to the control, of which Paint leaves nothing to be seen of what lies behind. Empty
+  /// for a control that lets something through.
+  virtual Rect OpaqueArea() const { return {}; }
   /// Clip of the children while painting and in hit tests, relative to the control.
   Rect LocalBounds() const { return {0, 0, Width(), Height()}; }
 

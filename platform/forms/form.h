@@ -164,6 +164,9 @@ class Form : public Object {
   // Painting (form_paint.cpp).
   void InvalidateArea(const Rect& area);
   void PaintChildren(Canvas& canvas, const Control* container, const Rect& area);
+  void PaintControl(Canvas& canvas, Control& control, const Rect& area);
+  void PaintAroundChild(Canvas& canvas, Control& control, const Rect& client) const;
+  const Control* HidingChild(const Canvas& canvas, const Control* container, Point client) const;
   void CollectAt(const Control* container, Point position, std::vector<Control*>& hits) const;
 
   WindowHost& host_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 
 namespace orvendal {
 
@@ -43,6 +44,16 @@ struct Rect {
   Rect Deflated(double margin) const {
     return {left + margin, top + margin, std::max(0.0, width - 2 * margin),
             std::max(0.0, height - 2 * margin)};
+  }
+  /// What is left of it without `hole`: above, below, left and right of it, each perhaps empty. Edges that
+  /// meet are equal.
+  std::array<Rect, 4> Around(const Rect& hole) const {
+    const Rect cut = Intersection(hole);
+    if (cut.IsEmpty()) return {*this};
+    return {Rect{left, top, width, cut.top - top},
+            {left, cut.Bottom(), width, Bottom() - cut.Bottom()},
+            {left, cut.top, cut.left - left, cut.height},
+            {cut.Right(), cut.top, Right() - cut.Right(), cut.height}};
   }
   bool operator==(const Rect&) const = default;
 };

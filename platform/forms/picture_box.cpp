@@ -33,11 +33,17 @@ Point PictureBox::ClientOrigin() const {
 
 void PictureBox::Paint(Canvas& canvas) {
   const Rect bounds = LocalBounds();
-  canvas.FillRectangle(bounds, Resolve(BackColor()));
+  const Point inside = ClientOrigin();
+  // Under the picture the colour is not seen; a pixel more of it leaves no gap at any scale.
+  Rect covered;
   if (picture_) {
-    const Point inside = ClientOrigin();
-    canvas.DrawBitmap(inside, *picture_, bounds.Deflated(inside.x));
+    const Rect place{inside.x, inside.y, picture_->width * kTwipsPerPixel, picture_->height * kTwipsPerPixel};
+    covered = place.Intersection(bounds.Deflated(inside.x)).Deflated(kTwipsPerPixel);
   }
+  for (const Rect& part : bounds.Around(covered)) {
+    if (!part.IsEmpty()) canvas.FillRectangle(part, Resolve(BackColor()));
+  }
+  if (picture_) canvas.DrawBitmap(inside, *picture_, bounds.Deflated(inside.x));
   PaintBorder(canvas, Host(), bounds, BorderStyle(), Appearance());
 }
 

@@ -17,6 +17,7 @@ class PictureBox final : public Control {
 
   void RestoreDefaults() override;
   void Paint(Canvas& canvas) override;
+  Rect OpaqueArea() const override { return LocalBounds(); }
   /// Inside the border of one pixel (flat) or two.
   Point ClientOrigin() const override;
 

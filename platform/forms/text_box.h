@@ -44,6 +44,7 @@ class TextBox final : public Control {
 
   void RestoreDefaults() override;
   void Paint(Canvas& canvas) override;
+  Rect OpaqueArea() const override { return LocalBounds(); }
   void MousePressed(int button, int shift, Point local) override;
   void MouseMoved(int buttons, int shift, Point local) override;
   void MouseDoubleClicked(int button, int shift, Point local) override;

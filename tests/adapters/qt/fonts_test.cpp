@@ -43,6 +43,35 @@ TEST(Fonts, ALargerFontTakesMoreRoom) {
   EXPECT_GT(fonts.TextWidth(larger, text), fonts.TextWidth(kTextFont, text));
 }
 
+// Measures are kept for texts that come again.
+TEST(Fonts, ATextMeasuresTheSameHoweverManyWereMeasuredBefore) {
+  QtFonts fonts;
+  const QFontMetricsF metrics(fonts.Font(kTextFont));
+  FontSpec italic = kTextFont;
+  italic.italic = true;
+  const QFontMetricsF italic_metrics(fonts.Font(italic));
+  for (int round = 0; round < 2; ++round) {
+    for (int i = 0; i < 1500; ++i) {
+      const QString text = "P" + QString::number(i * 7919);
+      ASSERT_EQ(fonts.TextWidth(kTextFont, text), metrics.horizontalAdvance(text));
+      ASSERT_EQ(fonts.TextWidth(italic, text), italic_metrics.horizontalAdvance(text));
+      const double ascent = fonts.LineMeasures(kTextFont).ascent;
+      ASSERT_EQ(fonts.TextInk(kTextFont, text), metrics.tightBoundingRect(text).translated(0, ascent));
+    }
+  }
+  const QString long_text(5000, u'm');
+  EXPECT_EQ(fonts.TextWidth(kTextFont, long_text), metrics.horizontalAdvance(long_text));
+}
+
+TEST(Fonts, SizesThatGiveTheSamePixelsAreOneFont) {
+  QtFonts fonts;
+  FontSpec near = kTextFont;
+  near.size = 10;
+  EXPECT_EQ(&fonts.Font(near), &fonts.Font(kTextFont));
+  near.size = 10.5;
+  EXPECT_NE(&fonts.Font(near), &fonts.Font(kTextFont));
+}
+
 TEST(Fonts, SemiBoldIsHeavierThanNormal) {
   QtFonts fonts;
   FontSpec normal = kTextFont;

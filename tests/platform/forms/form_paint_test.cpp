@@ -127,6 +127,38 @@ TEST_F(FormPaintTest, OneCellOfAGridAsksForThatCell) {
   EXPECT_TRUE(Dirty().empty());
 }
 
+TEST_F(FormPaintTest, TheCellsOfARowAskForOneArea) {
+  MSFlexGrid& grid = stage.Add<MSFlexGrid>("Grid", {1000, 4000, 6000, 3000});
+  form().Unload();
+  stage.Show();
+  grid.Rows(20);
+  grid.Cols(6);
+  Dirty();
+  for (int column = 1; column < 6; ++column) {
+    grid.TextMatrix(2, column, "2");
+    grid.TextMatrix(5, column, "5");
+  }
+  const std::vector<Rect> dirty = Dirty();
+  ASSERT_EQ(dirty.size(), 2U);
+  const Rect of_grid = grid.Bounds();
+  for (std::size_t i = 0; i < 2; ++i) {
+    Rect row = grid.CellRectangle(i == 0 ? 2 : 5, 1);
+    for (int column = 2; column < 6; ++column) {
+      row = row.Union(grid.CellRectangle(i == 0 ? 2 : 5, column));
+    }
+    EXPECT_EQ(dirty[i], row.Moved(of_grid.left, of_grid.top)) << i;
+  }
+}
+
+TEST_F(FormPaintTest, PlacesThatOnlyTouchAtACornerStayTwo) {
+  first.Move(1000, 5000, 300, 300);
+  second.Move(1300, 5300, 300, 300);
+  Dirty();
+  first.ForeColor(0xFF);
+  second.ForeColor(0xFF);
+  EXPECT_EQ(Dirty(), (std::vector<Rect>{first.Bounds(), second.Bounds()}));
+}
+
 TEST_F(FormPaintTest, AFormThatDoesNotShowAsksForNothing) {
   form().Hide();
   first.ForeColor(0xFF);
