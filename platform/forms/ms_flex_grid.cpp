@@ -32,8 +32,11 @@ ControlProperties MSFlexGrid::DefaultProperties() const {
 void MSFlexGrid::RestoreDefaults() {
   Control::RestoreDefaults();
   ++life_;
-  rows_.assign(kNewRows, {});
+  texts_ = {};
+  texts_.Rows(kNewRows);
+  colors_ = {};
   columns_.assign(kNewColumns, NewColumn());
+  MeasureColumns();
   fixed_rows_ = fixed_columns_ = 1;
   row_ = row_selection_ = 1;
   column_ = column_selection_ = 1;
@@ -61,18 +64,20 @@ MSFlexGrid::Column MSFlexGrid::NewColumn() const {
 void MSFlexGrid::Rows(int rows) {
   if (rows < fixed_rows_) throw RuntimeError(error_number::kSubscriptOutOfRange);
   if (rows == Rows()) return;
-  rows_.resize(static_cast<std::size_t>(rows));
+  texts_.Rows(rows);
+  colors_.CutRows(rows);
   StructureChanged();
 }
 
 void MSFlexGrid::Cols(int columns) {
   if (columns < fixed_columns_) throw RuntimeError(error_number::kSubscriptOutOfRange);
   if (columns == Cols()) return;
-  const auto count = static_cast<std::size_t>(columns);
-  columns_.resize(count, NewColumn());
-  for (CellRow& row : rows_) {
-    if (row.size() > count) row.resize(count);
+  if (columns < Cols()) {
+    texts_.Cut(columns);
+    colors_.CutColumns(columns);
   }
+  columns_.resize(static_cast<std::size_t>(columns), NewColumn());
+  MeasureColumns();
   StructureChanged();
 }
 
@@ -178,45 +183,28 @@ void MSFlexGrid::CheckCell(int row, int column) const {
   CheckColumn(column);
 }
 
-const MSFlexGrid::Cell& MSFlexGrid::CellForReading(int row, int column) const {
-  static const Cell kNeverWritten;
+std::string_view MSFlexGrid::TextView(int row, int column) const {
   CheckCell(row, column);
-  const CellRow& cells = rows_[static_cast<std::size_t>(row)];
-  const auto index = static_cast<std::size_t>(column);
-  return index < cells.size() ? cells[index] : kNeverWritten;
-}
-
-MSFlexGrid::Cell& MSFlexGrid::CellForWriting(int row, int column) {
-  CheckCell(row, column);
-  CellRow& cells = rows_[static_cast<std::size_t>(row)];
-  const auto index = static_cast<std::size_t>(column);
-  if (index >= cells.size()) cells.resize(columns_.size());
-  return cells[index];
-}
-
-const std::string& MSFlexGrid::TextMatrix(int row, int column) const {
-  return CellForReading(row, column).text;
+  return texts_.Text(row, column);
 }
 
 void MSFlexGrid::TextMatrix(int row, int column, const std::string& text) {
-  if (CellForReading(row, column).text == text) return;
-  std::string copy = text;  // `text` may be a cell of this row, which moves when the row gets its cells
-  CellForWriting(row, column).text = std::move(copy);
+  if (TextView(row, column) == text) return;
+  texts_.Text(row, column, text);
   InvalidateCell(row, column);
 }
 
-const std::string& MSFlexGrid::Text() const {
-  return TextMatrix(row_, column_);
-}
 void MSFlexGrid::Text(const std::string& text) {
   TextMatrix(row_, column_, text);
 }
 
 ColorWord MSFlexGrid::CellBackColorAt(int row, int column) const {
-  return CellForReading(row, column).back_color;
+  CheckCell(row, column);
+  return colors_.At(row, column).back;
 }
 ColorWord MSFlexGrid::CellForeColorAt(int row, int column) const {
-  return CellForReading(row, column).fore_color;
+  CheckCell(row, column);
+  return colors_.At(row, column).fore;
 }
 ColorWord MSFlexGrid::CellBackColor() const {
   return CellBackColorAt(row_, column_);
@@ -227,13 +215,13 @@ ColorWord MSFlexGrid::CellForeColor() const {
 
 void MSFlexGrid::CellBackColor(ColorWord color) {
   if (color == CellBackColor()) return;
-  CellForWriting(row_, column_).back_color = color;
+  colors_.Back(row_, column_, color);
   InvalidateCell(row_, column_);
 }
 
 void MSFlexGrid::CellForeColor(ColorWord color) {
   if (color == CellForeColor()) return;
-  CellForWriting(row_, column_).fore_color = color;
+  colors_.Fore(row_, column_, color);
   InvalidateCell(row_, column_);
 }
 
@@ -245,18 +233,15 @@ void MSFlexGrid::AddItem(const std::string& text) {
 
 void MSFlexGrid::AddItem(const std::string& text, int row) {
   if (row < fixed_rows_ || row > Rows()) throw RuntimeError(error_number::kSubscriptOutOfRange);
-  CellRow cells;
-  if (!text.empty()) cells.resize(columns_.size());
-  std::size_t start = 0;
-  for (Cell& cell : cells) {
-    const std::size_t tab = text.find('\t', start);
-    cell.text = text.substr(start, tab - start);
-    if (tab == std::string::npos) break;
-    start = tab + 1;
-  }
   const bool showed_bar = Measure().has_vertical_bar;
   const std::optional<Place> left_place = std::exchange(left_place_, std::nullopt);
-  rows_.insert(rows_.begin() + row, std::move(cells));
+  colors_.Insert(row);
+  try {
+    texts_.Insert(row, text, Cols());
+  } catch (...) {
+    colors_.Remove(row);
+    throw;
+  }
   const View view = Measure();
   if (left_place && row + 1 == Rows()) {
     row_ = row_selection_ = left_place->row;
@@ -277,7 +262,8 @@ void MSFlexGrid::RemoveItem(int row) {
   if (row < fixed_rows_ || row >= Rows()) throw RuntimeError(error_number::kSubscriptOutOfRange);
   if (Rows() - fixed_rows_ == 1) throw RuntimeError(error_number::kCannotRemoveLastRow);
   const Place before{row_, top_row_};
-  rows_.erase(rows_.begin() + row);
+  texts_.Remove(row);
+  colors_.Remove(row);
   StructureChanged();
   if (row_ != before.row || top_row_ != before.top_row) left_place_ = before;
 }
@@ -292,6 +278,7 @@ double MSFlexGrid::ColWidth(int column) const {
 void MSFlexGrid::ColWidth(int column, double twips) {
   CheckColumn(column);
   columns_[static_cast<std::size_t>(column)].width = twips < 0 ? kNewColumnWidth : twips;
+  MeasureColumns();
   HoldView();
   Invalidate();
 }
@@ -328,7 +315,7 @@ void MSFlexGrid::RowHeightMin(double twips) {
 
 double MSFlexGrid::RowHeight(int row) const {
   if (row < 0 || row >= Rows()) throw RuntimeError(error_number::kSubscriptOutOfRange);
-  return row_height_;
+  return RowHeightOfAll();
 }
 
 void MSFlexGrid::BackColorFixed(ColorWord color) {

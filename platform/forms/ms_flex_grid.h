@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/forms/cell_colors.h"
+#include "platform/forms/cell_texts.h"
 #include "platform/forms/control.h"
 #include "platform/forms/scroll_track.h"
 
@@ -29,13 +31,14 @@ namespace orvendal {
 /// Col shrinks it to the current cell. Only the user makes it larger, and no event tells.
 ///
 /// Cost: assignments and AddItem take constant time in the rows; RemoveItem is linear in the rows; painting
-/// is linear in the visible cells. Empty rows take no room for cells.
+/// is linear in the visible cells. Empty rows take no room for cells; a row that is written takes the bytes
+/// of its texts and a few more (CellTexts, CellColors).
 class MSFlexGrid final : public Control {
  public:
   MSFlexGrid(Form& form, Control* container, std::string_view name, int index = -1);
   ControlKind Kind() const override { return ControlKind::kMSFlexGrid; }
 
-  int Rows() const { return static_cast<int>(rows_.size()); }
+  int Rows() const { return texts_.Rows(); }
   /// Drops rows at the end or adds empty ones. A cursor below goes to the last row, with no event. Raises 381
   /// below FixedRows.
   void Rows(int rows);
@@ -60,11 +63,13 @@ class MSFlexGrid final : public Control {
   int ColSel() const { return column_selection_; }
 
   /// The current cell. Raises 381 in a grid of titles only, as all that reads or writes the current cell.
-  const std::string& Text() const;
+  std::string Text() const { return TextMatrix(row_, column_); }
   void Text(const std::string& text);
   /// Any cell, with no event. Raises 381 outside the grid.
-  const std::string& TextMatrix(int row, int column) const;
+  std::string TextMatrix(int row, int column) const { return std::string(TextView(row, column)); }
   void TextMatrix(int row, int column, const std::string& text);
+  /// The same text for those who walk over many cells: valid until anything writes to the grid.
+  std::string_view TextView(int row, int column) const;
 
   /// Twips; 0 hides the column, a negative width is that of a new column. Not rescaled when the grid changes
   /// size. Raises 381 outside the grid.
@@ -148,6 +153,7 @@ class MSFlexGrid final : public Control {
 
   void RestoreDefaults() override;
   void Paint(Canvas& canvas) override;
+  Rect OpaqueArea() const override { return Measure().inside; }
   void MousePressing(int button, int shift, Point local) override;
   void MouseMoved(int buttons, int shift, Point local) override;
   void MouseReleased(int button, int shift, Point local) override;
@@ -163,12 +169,6 @@ class MSFlexGrid final : public Control {
   void SizeChanged() override;
 
  private:
-  struct Cell {
-    std::string text;
-    ColorWord back_color = 0;  // 0: the grid's own
-    ColorWord fore_color = 0;
-  };
-  using CellRow = std::vector<Cell>;  // cells at the end that were never written may be missing
   struct Column {
     double width = 0;
     int alignment = 0;
@@ -218,8 +218,6 @@ class MSFlexGrid final : public Control {
   // Cells and cursor (ms_flex_grid.cpp).
   void CheckCell(int row, int column) const;
   void CheckColumn(int column) const;
-  Cell& CellForWriting(int row, int column);
-  const Cell& CellForReading(int row, int column) const;
   void StructureChanged();
   Moment Now() const;
   bool IsStill(const Moment& moment) const;
@@ -230,6 +228,7 @@ class MSFlexGrid final : public Control {
 
   // View (ms_flex_grid_view.cpp).
   View Measure() const;
+  void MeasureColumns();
   double ColumnsWidth(int first, int end) const;
   int PageRows(const View& view) const;
   int LastTopRow(const View& view) const;
@@ -239,6 +238,7 @@ class MSFlexGrid final : public Control {
   int RowAt(const View& view, double y) const;
   int ColumnAt(const View& view, double x) const;
   void MeasureRows();
+  double RowHeightOfAll() const;
   void HoldView();
   void MoveView(int top_row, int left_column);
   void BringIntoView(int row, int column);
@@ -261,8 +261,10 @@ class MSFlexGrid final : public Control {
                   int first_column, int end_column) const;
   void PaintCell(Canvas& canvas, const Rect& place, int row, int column) const;
 
-  std::vector<CellRow> rows_;
+  CellTexts texts_;
+  CellColors colors_;
   std::vector<Column> columns_;
+  std::vector<double> column_ends_;  // of column 0 on, as MeasureColumns added them up
   int fixed_rows_ = 1;
   int fixed_columns_ = 1;
   int row_ = 1;
@@ -274,7 +276,7 @@ class MSFlexGrid final : public Control {
   int top_row_ = 1;
   int left_column_ = 1;
   double row_height_min_ = 0;
-  double row_height_ = 0;
+  mutable std::optional<double> row_height_;  // empty until somebody asks, see RowHeightOfAll
   ColorWord back_color_fixed_ = 0;
   ColorWord fore_color_fixed_ = 0;
   ColorWord back_color_selected_ = 0;

@@ -32,7 +32,12 @@ Rgb Between(Rgb one, Rgb other) {
 void MSFlexGrid::Paint(Canvas& canvas) {
   const View view = Measure();
   PaintBorder(canvas, Host(), LocalBounds(), BorderStyle(), Appearance());
-  canvas.FillRectangle(view.inside, Resolve(back_color_background_));
+  // Under the cells the background is not seen; a pixel more of it leaves no gap at any scale.
+  const Rect cells{view.inside.left, view.inside.top, view.titles_width + ColumnsWidth(left_column_, Cols()),
+                   view.titles_height + (EndOfVisibleRows(view) - top_row_) * RowHeightOfAll()};
+  for (const Rect& part : view.inside.Around(cells.Deflated(kPixel))) {
+    if (!part.IsEmpty()) canvas.FillRectangle(part, Resolve(back_color_background_));
+  }
   PaintCells(canvas, view);
   const std::optional<Bar> vertical = VerticalBar(view);
   const std::optional<Bar> horizontal = HorizontalBar(view);
@@ -65,9 +70,10 @@ void MSFlexGrid::PaintBlock(Canvas& canvas, const View& view, const Rect& clip, 
   canvas.Push({0, 0}, clip);
   for (int row = first_row; row < end_row; ++row) {
     Rect place = CellPlace(view, row, first_column);
+    if (!canvas.ShowsAnyOf({clip.left, place.top, clip.width, place.height})) continue;
     for (int column = first_column; column < end_column && place.left < clip.Right(); ++column) {
       place.width = columns_[static_cast<std::size_t>(column)].width;
-      if (place.width > 0) PaintCell(canvas, place, row, column);
+      if (place.width > 0 && canvas.ShowsAnyOf(place)) PaintCell(canvas, place, row, column);
       place.left += place.width;
     }
   }
@@ -75,15 +81,16 @@ void MSFlexGrid::PaintBlock(Canvas& canvas, const View& view, const Rect& clip, 
 }
 
 void MSFlexGrid::PaintCell(Canvas& canvas, const Rect& place, int row, int column) const {
-  const Cell& cell = CellForReading(row, column);
+  const std::string_view text = texts_.Text(row, column);
+  const CellColors::Colors colors = colors_.At(row, column);
   const Column& format = columns_[static_cast<std::size_t>(column)];
   const bool is_title = row < fixed_rows_ || column < fixed_columns_;
   const bool is_current = row == row_ && column == column_;
 
   ColorWord back = is_title ? back_color_fixed_ : BackColor();
   ColorWord fore = is_title ? fore_color_fixed_ : ForeColor();
-  if (cell.back_color != 0) back = cell.back_color;
-  if (cell.fore_color != 0) fore = cell.fore_color;
+  if (colors.back != 0) back = colors.back;
+  if (colors.fore != 0) fore = colors.fore;
   if (highlight_ && !is_title && !is_current && IsSelected(row, column)) {
     back = back_color_selected_;
     fore = fore_color_selected_;
@@ -96,17 +103,16 @@ void MSFlexGrid::PaintCell(Canvas& canvas, const Rect& place, int row, int colum
     PaintBottomRight(canvas, place, kCellLine);
   }
 
-  if (!cell.text.empty()) {
+  if (!text.empty()) {
     int alignment = is_title ? format.fixed_alignment : format.alignment;
-    if (alignment > 8) alignment = !is_title && Host().UserRegion().ParseNumber(cell.text) ? 7 : 1;
+    if (alignment > 8) alignment = !is_title && Host().UserRegion().ParseNumber(text) ? 7 : 1;
     static constexpr HorizontalAlign kAcross[] = {HorizontalAlign::kLeft, HorizontalAlign::kCenter,
                                                   HorizontalAlign::kRight};
     static constexpr VerticalAlign kDown[] = {VerticalAlign::kTop, VerticalAlign::kCenter,
                                               VerticalAlign::kBottom};
     const Rect box{place.left + kTextMargin, place.top, std::max(0.0, place.width - 2 * kTextMargin),
                    std::max(0.0, place.height - kPixel)};
-    canvas.DrawText(box, cell.text, Font().Spec(), Resolve(fore), kAcross[alignment / 3],
-                    kDown[alignment % 3]);
+    canvas.DrawText(box, text, Font().Spec(), Resolve(fore), kAcross[alignment / 3], kDown[alignment % 3]);
   }
   if (is_current && HasFocus()) {
     canvas.FocusRectangle({place.left, place.top, place.width - kPixel, place.height - kPixel});

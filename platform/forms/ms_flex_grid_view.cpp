@@ -29,14 +29,32 @@ struct ScrollGuard {
 }  // namespace
 
 void MSFlexGrid::MeasureRows() {
-  const double fitting =
-      std::round((Host().LineHeight(Font().Spec()) + kRowPadding) / kTwipsPerPixel) * kTwipsPerPixel;
-  row_height_ = std::max({kRowHeightMinimum, fitting, row_height_min_});
+  row_height_.reset();
   HoldView();
   Invalidate();
 }
 
+// Measured when somebody asks: a grid gets its font after it is made, and loading one that nobody will see
+// takes longer than anything else about a grid.
+double MSFlexGrid::RowHeightOfAll() const {
+  if (!row_height_) {
+    const double fitting =
+        std::round((Host().LineHeight(Font().Spec()) + kRowPadding) / kTwipsPerPixel) * kTwipsPerPixel;
+    row_height_ = std::max({kRowHeightMinimum, fitting, row_height_min_});
+  }
+  return *row_height_;
+}
+
+void MSFlexGrid::MeasureColumns() {
+  column_ends_.clear();
+  double end = 0;
+  for (const Column& column : columns_) column_ends_.push_back(end += column.width);
+}
+
 double MSFlexGrid::ColumnsWidth(int first, int end) const {
+  if (first >= end) return 0;
+  if (first == 0) return column_ends_[static_cast<std::size_t>(end - 1)];
+  // The same sum as if the columns before were not there: a difference of two sums may be a little off.
   double width = 0;
   for (int column = first; column < end; ++column) width += columns_[static_cast<std::size_t>(column)].width;
   return width;
@@ -45,9 +63,9 @@ double MSFlexGrid::ColumnsWidth(int first, int end) const {
 MSFlexGrid::View MSFlexGrid::Measure() const {
   View view;
   view.inside = LocalBounds().Deflated(BorderInset(BorderStyle(), Appearance()));
-  view.titles_height = fixed_rows_ * row_height_;
+  view.titles_height = fixed_rows_ * RowHeightOfAll();
   view.titles_width = ColumnsWidth(0, fixed_columns_);
-  const double height = Rows() * row_height_;
+  const double height = Rows() * RowHeightOfAll();
   const double width = view.titles_width + ColumnsWidth(fixed_columns_, Cols());
   // A bar takes room, which may be what calls for the other one.
   for (int round = 0; round < 2; ++round) {
@@ -65,7 +83,7 @@ MSFlexGrid::View MSFlexGrid::Measure() const {
 
 // Rows below the titles that show wholly, at least one, so that paging always moves.
 int MSFlexGrid::PageRows(const View& view) const {
-  return std::max(1, static_cast<int>((view.Body().height + kSlack) / row_height_));
+  return std::max(1, static_cast<int>((view.Body().height + kSlack) / RowHeightOfAll()));
 }
 
 int MSFlexGrid::LastTopRow(const View& view) const {
@@ -83,14 +101,15 @@ int MSFlexGrid::LastLeftColumn(const View& view) const {
 }
 
 int MSFlexGrid::EndOfVisibleRows(const View& view) const {
-  const double rows = std::ceil((view.Body().height - kSlack) / row_height_);
+  const double rows = std::ceil((view.Body().height - kSlack) / RowHeightOfAll());
   return std::min(Rows(), top_row_ + std::max(0, static_cast<int>(rows)));
 }
 
 // May lie outside the view, and be empty for a hidden column.
 Rect MSFlexGrid::CellPlace(const View& view, int row, int column) const {
-  Rect place{view.inside.left, view.inside.top, 0, row_height_};
-  place.top += row < fixed_rows_ ? row * row_height_ : view.titles_height + (row - top_row_) * row_height_;
+  Rect place{view.inside.left, view.inside.top, 0, RowHeightOfAll()};
+  place.top +=
+      row < fixed_rows_ ? row * RowHeightOfAll() : view.titles_height + (row - top_row_) * RowHeightOfAll();
   if (column < fixed_columns_) {
     place.left += ColumnsWidth(0, column);
   } else {
@@ -126,7 +145,7 @@ Rect MSFlexGrid::CellRectangle(int row, int column) const {
 // The row at that height, or -1.
 int MSFlexGrid::RowAt(const View& view, double y) const {
   if (y < view.inside.top || y >= view.inside.Bottom()) return -1;
-  const int distance = static_cast<int>((y - view.inside.top) / row_height_);
+  const int distance = static_cast<int>((y - view.inside.top) / RowHeightOfAll());
   const int row = distance < fixed_rows_ ? distance : distance - fixed_rows_ + top_row_;
   return row < Rows() ? row : -1;
 }
@@ -161,6 +180,10 @@ bool MSFlexGrid::RowIsVisible(int row) const {
 
 // What no longer can be scrolled to is left, raising nothing.
 void MSFlexGrid::HoldView() {
+  // Where all columns have room beside a bar too, no row has to be measured to know.
+  const double room = Width() - 2 * BorderInset(BorderStyle(), Appearance()) - kBarThickness;
+  if (ColumnsWidth(0, Cols()) <= room) left_column_ = fixed_columns_;
+  if (top_row_ == fixed_rows_ && left_column_ == fixed_columns_) return;
   const View view = Measure();
   top_row_ = std::clamp(top_row_, fixed_rows_, LastTopRow(view));
   left_column_ = std::clamp(left_column_, fixed_columns_, LastLeftColumn(view));
@@ -216,7 +239,7 @@ double MSFlexGrid::CellWidth() const {
 }
 
 double MSFlexGrid::CellHeight() const {
-  return row_height_;
+  return RowHeightOfAll();
 }
 
 // Scroll bars.
@@ -248,7 +271,7 @@ std::optional<MSFlexGrid::Bar> MSFlexGrid::HorizontalBar(const View& view) const
 void MSFlexGrid::InvalidateCell(int row, int column) {
   if (!Parent().Visible() || row >= Rows() || column >= Cols()) return;
   // Loading writes thousands of rows that do not show.
-  const bool is_far = row < top_row_ || (row - top_row_) * row_height_ > Height();
+  const bool is_far = row < top_row_ || (row - top_row_) * RowHeightOfAll() > Height();
   if (row >= fixed_rows_ && is_far) return;
   const Rect shown = CellRectangle(row, column);
   if (!shown.IsEmpty()) Invalidate(shown);
