@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <set>
 
 #include "tests/support/design_form.h"
@@ -54,6 +55,28 @@ TEST_F(ControlLooksTest, TheBackgroundBitmap) {
   std::set<std::array<int, 3>> colors;
   for (const Rgb& color : picture->palette) colors.insert({color.red, color.green, color.blue});
   EXPECT_EQ(colors.size(), 85U);
+}
+
+// The picture is put together from the sines of columns and rows, since that many sines would take longer
+// than all the rest of the start; it shows the waves that it is to show, to the pixel.
+TEST_F(ControlLooksTest, TheBackgroundShowsTheWavesOfEachOfItsPixels) {
+  const Bitmap& picture = *form.PicServicios.Picture();
+  const auto share = [](int from_edge, int fade) {
+    const double part = std::min(1.0, static_cast<double>(from_edge) / fade);
+    return part * part * (3 - 2 * part);
+  };
+  int different = 0;
+  for (int y = 0; y < 770; y += 3) {
+    for (int x = 0; x < 1149; ++x) {
+      const double bend = 60.0 * std::sin(x / 210.0) + 18.0 * std::sin(x / 67.0);
+      const double strand = std::sin((y + bend) / 23.0) * 0.6 + std::sin((y * 0.7 + bend * 1.6) / 71.0) * 0.4;
+      const double shown = share(1148 - x, 380) * share(769 - y, 140);
+      const long level = std::lround((strand + 1.0) / 2.0 * 84 * shown);
+      if (picture.pixels[static_cast<std::size_t>(y) * 1149 + static_cast<std::size_t>(x)] != level)
+        ++different;
+    }
+  }
+  EXPECT_EQ(different, 0);
 }
 
 // Seen: on a wide display the background ended with a hard edge.
