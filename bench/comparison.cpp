@@ -102,7 +102,11 @@ void Comparison::TimeRow(const std::string& what, const std::string& ours, doubl
 }
 void Comparison::FigureRow(const std::string& what, const std::string& unit, std::function<Figures()> figures,
                            double reach) {
-  figures_.push_back({what, unit, std::move(figures), reach});
+  figures_.push_back({what, unit, std::move(figures), reach, false});
+}
+void Comparison::FigureRatioRow(const std::string& what, const std::string& unit,
+                                std::function<Figures()> figures, double reach) {
+  figures_.push_back({what, unit, std::move(figures), reach, true});
 }
 
 void Comparison::Print(const Row& row, double ours, double floor) const {
@@ -149,13 +153,14 @@ int Comparison::Run(int argument_count, char** arguments) {
     const std::optional<double> floor = row.floor.empty() ? 0 : medians.Microseconds(row.floor);
     if (ours && floor) Print(row, *ours, *floor);
   }
-  if (!Has(options, "--benchmark_filter")) {
+  if (!Has(options, "--benchmark_filter") || Has(options, "--benchmark_filter=figures")) {
     for (const RowOfFigures& row : figures_) {
       const Figures figures = row.figures();
       PrintRow(row.what, Number("%.0f", figures.ours) + " " + row.unit,
                figures.floor > 0 ? Number("%.0f", figures.floor) + " " + row.unit : "",
                figures.floor > 0 ? Number("%.2f", figures.ours / figures.floor) : "",
-               Number("%.0f", row.reach) + " " + row.unit, figures.ours <= row.reach);
+               row.of_ratio ? Number("%.2f", row.reach) : Number("%.0f", row.reach) + " " + row.unit,
+               (row.of_ratio ? figures.ours / figures.floor : figures.ours) <= row.reach);
     }
   }
   benchmark::ClearRegisteredBenchmarks();  // screens are among them, which do not outlive the application

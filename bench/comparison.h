@@ -33,8 +33,12 @@ class Comparison {
   };
   void FigureRow(const std::string& what, const std::string& unit, std::function<Figures()> figures,
                  double reach);
+  /// The same where `reach` is the most that the ratio of the two may be.
+  void FigureRatioRow(const std::string& what, const std::string& unit, std::function<Figures()> figures,
+                      double reach);
 
   /// Runs what the options of Google Benchmark in the arguments choose, and prints the table of what was run.
+  /// The filter `figures` chooses the rows of figures alone; any other leaves them out.
   /// The program's exit code.
   int Run(int argument_count, char** arguments);
 
@@ -52,6 +56,7 @@ class Comparison {
     std::string unit;
     std::function<Figures()> figures;
     double reach;
+    bool of_ratio;
   };
   struct Measured {
     std::string name;
@@ -68,5 +73,8 @@ class Comparison {
 void AddLoads(Comparison& comparison);
 void AddSaves(Comparison& comparison);
 void AddEntry(Comparison& comparison);
+void AddPainting(Comparison& comparison);
+void AddMemory(Comparison& comparison);
+void AddStart(Comparison& comparison);
 
 }  // namespace orvendal::bench

@@ -18,5 +18,8 @@ int main(int argument_count, char** arguments) {
   AddLoads(comparison);
   AddSaves(comparison);
   AddEntry(comparison);
+  AddPainting(comparison);
+  AddMemory(comparison);
+  AddStart(comparison);
   return comparison.Run(argument_count, arguments);
 }
