@@ -57,11 +57,8 @@ void FrmOrvendalciales::MSFProductos_RowColChange() {
   if (variables.PintandoFila) return;
   MSFlexGrid& grid = MSFProductos;
   if (grid.TextMatrix(grid.Row(), column::kCode).empty()) {
-    for (int row = 1; row <= grid.Rows() - 1; ++row) {
-      if (!grid.TextMatrix(row, column::kCode).empty()) continue;
-      grid.Row(row);
-      break;
-    }
+    const int free_row = grid.FindRow(column::kCode, "", 1);
+    if (free_row >= 0) grid.Row(free_row);
   }
   PlaceEditorAnew();
   // The last column, which is hidden, is coloured only when the cursor leaves the line.

@@ -46,16 +46,16 @@ std::string FrmOrvendalciales::BuscarReferencia(const std::string& Referencia) {
 }
 
 bool FrmOrvendalciales::ProductoRepetido(const std::string& Codigo) {
-  for (int row = 1; row <= MSFProductos.Rows() - 1; ++row) {
-    const std::string& code = MSFProductos.TextMatrix(row, column::kCode);
-    if (code.empty()) return false;
-    if (code == Codigo && row != MSFProductos.Row()) {
-      Mostrar("El Producto Seleccionado ya se ha Introducido Anteriormente, Imposible Continuar",
-              message::kInformation, "");
-      return true;
-    }
-  }
-  return false;
+  const MSFlexGrid& grid = MSFProductos;
+  int row = grid.FindRow(column::kCode, Codigo, 1);
+  if (row == grid.Row()) row = grid.FindRow(column::kCode, Codigo, row + 1);
+  if (row < 0) return false;
+  // The first line without a code ends the lines.
+  const int free_row = grid.FindRow(column::kCode, "", 1);
+  if (free_row >= 0 && free_row < row) return false;
+  Mostrar("El Producto Seleccionado ya se ha Introducido Anteriormente, Imposible Continuar",
+          message::kInformation, "");
+  return true;
 }
 
 bool FrmOrvendalciales::CargarLinea(const std::string& Codigo) {

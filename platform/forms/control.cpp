@@ -165,13 +165,21 @@ Rect Control::Bounds() const {
 }
 
 void Control::Invalidate() {
-  Invalidate(LocalBounds());
+  if (RequestPaint(LocalBounds())) round_of_whole_ = form_.paint_round_;
 }
 
 void Control::Invalidate(const Rect& local) {
-  if (!form_.Visible() || !IsShown()) return;
+  RequestPaint(local);
+}
+
+bool Control::RequestPaint(const Rect& local) {
+  if (!form_.Visible() || !IsShown()) return false;
   const Rect bounds = Bounds();
-  form_.InvalidateArea(local.Moved(bounds.left, bounds.top));
+  return form_.InvalidateArea(local.Moved(bounds.left, bounds.top));
+}
+
+bool Control::WaitsWhole() const {
+  return round_of_whole_ == form_.paint_round_;
 }
 
 CursorShape Control::Cursor(Point) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -210,17 +211,22 @@ class Control {
   void Invalidate();
   /// Only `local`, relative to the control.
   void Invalidate(const Rect& local);
+  /// Whether all of the control has been asked to be painted and nothing was since then: whoever changes many
+  /// parts of it need not tell of each.
+  bool WaitsWhole() const;
   Rgb Resolve(ColorWord color) const;
   void PlaceAligned(double left, double top, double width);
 
  private:
   friend class Form;
   void SetBounds(const Rect& bounds);
+  bool RequestPaint(const Rect& local);
 
   Form& form_;
   Control* container_;
   std::string name_;
   int index_;
+  std::uint64_t round_of_whole_ = 0;  // of painting, in which all of it was asked for last
   ControlProperties properties_;
   ControlFont font_;
 };

@@ -158,7 +158,7 @@ void Form::Unload() {
   key_target_ = nullptr;
   gesture_ = {};
   wheel_rest_ = {};
-  dirty_.clear();
+  TakeDirtyRectangles();
   ++focus_serial_;
   if (host_.active_form_ == this) host_.active_form_ = nullptr;
   if (host_.input_form_ == this) host_.input_form_ = nullptr;

@@ -162,7 +162,8 @@ class Form : public Object {
   void EndGesture();
 
   // Painting (form_paint.cpp).
-  void InvalidateArea(const Rect& area);
+  /// Whether the area waits to be painted now; false where nothing of it can be.
+  bool InvalidateArea(const Rect& area);
   void PaintChildren(Canvas& canvas, const Control* container, const Rect& area);
   void PaintControl(Canvas& canvas, Control& control, const Rect& area);
   void PaintAroundChild(Canvas& canvas, Control& control, const Rect& client) const;
@@ -196,6 +197,7 @@ class Form : public Object {
   WheelRest wheel_rest_;
   int gesture_events_ = 0;  // events of the gesture that are under way, one inside the other
   std::vector<Rect> dirty_;
+  std::uint64_t paint_round_ = 1;  // changes whenever `dirty_` is taken
 };
 
 /// The platform's global Unload.

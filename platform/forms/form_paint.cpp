@@ -28,12 +28,12 @@ Rect ClientArea(const Control& control) {
 
 }  // namespace
 
-void Form::InvalidateArea(const Rect& area) {
-  if (!visible_ || !window_) return;
+bool Form::InvalidateArea(const Rect& area) {
+  if (!visible_ || !window_) return false;
   Rect seen = area.Intersection({0, 0, Width(), Height()});
-  if (seen.IsEmpty()) return;
+  if (seen.IsEmpty()) return false;
   for (const Rect& dirty : dirty_) {
-    if (dirty.Intersection(seen) == seen) return;
+    if (dirty.Intersection(seen) == seen) return true;
   }
   // The cells of a row are one area.
   for (std::size_t i = 0; i < dirty_.size();) {
@@ -51,11 +51,13 @@ void Form::InvalidateArea(const Rect& area) {
   }
   dirty_.push_back(seen);
   window_->RequestPaint(seen);
+  return true;
 }
 
 std::vector<Rect> Form::TakeDirtyRectangles() {
   std::vector<Rect> taken;
   taken.swap(dirty_);
+  ++paint_round_;
   return taken;
 }
 

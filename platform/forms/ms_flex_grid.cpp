@@ -1,5 +1,6 @@
 #include "platform/forms/ms_flex_grid.h"
 
+#include <new>
 #include <utility>
 
 #include "platform/base/runtime_error.h"
@@ -33,6 +34,7 @@ void MSFlexGrid::RestoreDefaults() {
   Control::RestoreDefaults();
   ++life_;
   texts_ = {};
+  index_.reset();
   texts_.Rows(kNewRows);
   colors_ = {};
   columns_.assign(kNewColumns, NewColumn());
@@ -64,6 +66,7 @@ MSFlexGrid::Column MSFlexGrid::NewColumn() const {
 void MSFlexGrid::Rows(int rows) {
   if (rows < fixed_rows_) throw RuntimeError(error_number::kSubscriptOutOfRange);
   if (rows == Rows()) return;
+  index_.reset();
   texts_.Rows(rows);
   colors_.CutRows(rows);
   StructureChanged();
@@ -73,6 +76,7 @@ void MSFlexGrid::Cols(int columns) {
   if (columns < fixed_columns_) throw RuntimeError(error_number::kSubscriptOutOfRange);
   if (columns == Cols()) return;
   if (columns < Cols()) {
+    index_.reset();
     texts_.Cut(columns);
     colors_.CutColumns(columns);
   }
@@ -191,7 +195,18 @@ std::string_view MSFlexGrid::TextView(int row, int column) const {
 void MSFlexGrid::TextMatrix(int row, int column, const std::string& text) {
   if (TextView(row, column) == text) return;
   texts_.Text(row, column, text);
+  if (index_ && index_->Column() == column) index_->Change(row, text);
   InvalidateCell(row, column);
+}
+
+int MSFlexGrid::FindRow(int column, std::string_view text, int from) const {
+  CheckColumn(column);
+  if (!index_ || index_->Column() != column) {
+    TextIndex index(column);
+    for (int row = 0; row < Rows(); ++row) index.Append(texts_.Text(row, column));
+    index_ = std::move(index);
+  }
+  return index_->Find(text, from, [&](int row) { return texts_.Text(row, column); });
 }
 
 void MSFlexGrid::Text(const std::string& text) {
@@ -242,6 +257,7 @@ void MSFlexGrid::AddItem(const std::string& text, int row) {
     colors_.Remove(row);
     throw;
   }
+  FollowNewRow(row);
   const View view = Measure();
   if (left_place && row + 1 == Rows()) {
     row_ = row_selection_ = left_place->row;
@@ -254,14 +270,27 @@ void MSFlexGrid::AddItem(const std::string& text, int row) {
     return;
   }
   // Nothing but the new row and the bar looks different.
+  if (WaitsWhole()) return;
   for (int column = 0; column < Cols(); ++column) InvalidateCell(row, column);
   if (const std::optional<Bar> bar = VerticalBar(view)) Invalidate(bar->track.Whole());
+}
+
+// An index for which there is no room is made again when somebody asks.
+void MSFlexGrid::FollowNewRow(int row) {
+  if (!index_) return;
+  try {
+    if (row + 1 < Rows()) return index_.reset();
+    index_->Append(texts_.Text(row, index_->Column()));
+  } catch (const std::bad_alloc&) {
+    index_.reset();
+  }
 }
 
 void MSFlexGrid::RemoveItem(int row) {
   if (row < fixed_rows_ || row >= Rows()) throw RuntimeError(error_number::kSubscriptOutOfRange);
   if (Rows() - fixed_rows_ == 1) throw RuntimeError(error_number::kCannotRemoveLastRow);
   const Place before{row_, top_row_};
+  index_.reset();
   texts_.Remove(row);
   colors_.Remove(row);
   StructureChanged();

@@ -10,6 +10,7 @@
 #include "platform/forms/cell_texts.h"
 #include "platform/forms/control.h"
 #include "platform/forms/scroll_track.h"
+#include "platform/forms/text_index.h"
 
 namespace orvendal {
 
@@ -70,6 +71,11 @@ class MSFlexGrid final : public Control {
   void TextMatrix(int row, int column, const std::string& text);
   /// The same text for those who walk over many cells: valid until anything writes to the grid.
   std::string_view TextView(int row, int column) const;
+
+  /// The first row from `from` on whose cell of that column holds the text, to the letter; -1 if none does.
+  /// Takes no longer with many rows, unless many have the text or rows have come and gone elsewhere than at
+  /// the end since the last time. Raises 381 for a column outside the grid.
+  int FindRow(int column, std::string_view text, int from) const;
 
   /// Twips; 0 hides the column, a negative width is that of a new column. Not rescaled when the grid changes
   /// size. Raises 381 outside the grid.
@@ -219,6 +225,7 @@ class MSFlexGrid final : public Control {
   void CheckCell(int row, int column) const;
   void CheckColumn(int column) const;
   void StructureChanged();
+  void FollowNewRow(int row);
   Moment Now() const;
   bool IsStill(const Moment& moment) const;
   void ChangeCursor(std::optional<int> row, std::optional<int> column);
@@ -262,6 +269,7 @@ class MSFlexGrid final : public Control {
   void PaintCell(Canvas& canvas, const Rect& place, int row, int column) const;
 
   CellTexts texts_;
+  mutable std::optional<TextIndex> index_;  // of the column asked for last; true as long as it is there
   CellColors colors_;
   std::vector<Column> columns_;
   std::vector<double> column_ends_;  // of column 0 on, as MeasureColumns added them up

@@ -269,7 +269,7 @@ std::optional<MSFlexGrid::Bar> MSFlexGrid::HorizontalBar(const View& view) const
 // What changed.
 
 void MSFlexGrid::InvalidateCell(int row, int column) {
-  if (!Parent().Visible() || row >= Rows() || column >= Cols()) return;
+  if (WaitsWhole() || !Parent().Visible() || row >= Rows() || column >= Cols()) return;
   // Loading writes thousands of rows that do not show.
   const bool is_far = row < top_row_ || (row - top_row_) * RowHeightOfAll() > Height();
   if (row >= fixed_rows_ && is_far) return;
@@ -278,7 +278,7 @@ void MSFlexGrid::InvalidateCell(int row, int column) {
 }
 
 void MSFlexGrid::InvalidateSelection() {
-  if (!Parent().Visible()) return;
+  if (WaitsWhole() || !Parent().Visible()) return;
   if (row_ == row_selection_ && column_ == column_selection_) {
     InvalidateCell(row_, column_);
     return;

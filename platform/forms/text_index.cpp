@@ -18,7 +18,7 @@ void TextIndex::Change(int row, std::string_view text) {
   rows_[static_cast<std::size_t>(row)].number = NumberOf(text);
   if (!text.empty()) {
     Enter(row);
-  } else if (row < first_empty_) {
+  } else if (row >= looked_from_ && row < first_empty_) {
     first_empty_ = row;
   }
 }

@@ -12,9 +12,9 @@ namespace orvendal {
 /// texts, only numbers made of them; whoever asks gives the means to look at them.
 ///
 /// Invariants: every row with a text is in the list of its number, in any order, and no other row is; no row
-/// before `first_empty_` is empty.
+/// from `looked_from_` to before `first_empty_` is empty.
 /// Cost: finding, writing and appending take constant time as long as few rows have the same text; an empty
-/// one is looked for from the first that there can be.
+/// one is looked for where there can be one, as long as everybody looks from the same row on.
 class TextIndex {
  public:
   explicit TextIndex(int column) : column_(column) {}
@@ -49,11 +49,10 @@ class TextIndex {
 
   template <typename TextAt>
   int FindEmpty(int from, TextAt&& text_at) {
+    if (from != looked_from_) looked_from_ = first_empty_ = from;
     const int count = static_cast<int>(rows_.size());
-    int row = from > first_empty_ ? from : first_empty_;
-    while (row < count && !text_at(row).empty()) ++row;
-    if (from <= first_empty_) first_empty_ = row;
-    return row < count ? row : -1;
+    while (first_empty_ < count && !text_at(first_empty_).empty()) ++first_empty_;
+    return first_empty_ < count ? first_empty_ : -1;
   }
   static std::uint32_t NumberOf(std::string_view text) {
     return static_cast<std::uint32_t>(std::hash<std::string_view>()(text));
@@ -64,6 +63,7 @@ class TextIndex {
   void MakeRoom();
 
   int column_;
+  int looked_from_ = 0;
   int first_empty_ = 0;
   std::vector<Row> rows_;
   std::vector<std::int32_t> lists_;  // the first row of each; a power of two of them

@@ -156,6 +156,24 @@ TEST_F(GridPaintTest, ABarThatAppearsRepaintsTheGrid) {
   EXPECT_EQ(form->TakeDirtyRectangles(), (std::vector<Rect>{Grid().Bounds()}));
 }
 
+TEST_F(GridPaintTest, ACellThatChangesAfterTheWholeGridWasPaintedIsPaintedAgain) {
+  Grid().BackColorFixed(0x102030);
+  Grid().TextMatrix(4, 1, "one");
+  EXPECT_EQ(form->TakeDirtyRectangles(), (std::vector<Rect>{Grid().Bounds()}));
+  Grid().TextMatrix(4, 1, "two");
+  EXPECT_EQ(form->TakeDirtyRectangles(), (std::vector<Rect>{OnFormRect(Grid().CellRectangle(4, 1))}));
+}
+
+TEST_F(GridPaintTest, ACellThatChangesAfterTheGridWasHiddenIsPainted) {
+  Grid().Visible(false);
+  form->TakeDirtyRectangles();
+  Grid().BackColorFixed(0x102030);  // asks for nothing
+  Grid().Visible(true);
+  form->TakeDirtyRectangles();
+  Grid().TextMatrix(4, 1, "two");
+  EXPECT_EQ(form->TakeDirtyRectangles(), (std::vector<Rect>{OnFormRect(Grid().CellRectangle(4, 1))}));
+}
+
 TEST_F(GridPaintTest, LoadingOutOfViewAsksForNoPainting) {
   Grid().Row(20);
   form->TakeDirtyRectangles();

@@ -21,8 +21,10 @@ class TextIndexTest : public ::testing::Test {
     index.Change(row, text);
   }
   int Find(const std::string& text, int from = 0) {
-    return index.Find(text, from,
-                      [this](int row) { return std::string_view(column[static_cast<std::size_t>(row)]); });
+    return index.Find(text, from, [this](int row) {
+      ++looks;
+      return std::string_view(column[static_cast<std::size_t>(row)]);
+    });
   }
   int Walk(const std::string& text, int from) const {
     for (std::size_t row = static_cast<std::size_t>(from); row < column.size(); ++row) {
@@ -33,6 +35,7 @@ class TextIndexTest : public ::testing::Test {
 
   std::vector<std::string> column;
   TextIndex index{0};
+  int looks = 0;  // at texts
 };
 
 TEST_F(TextIndexTest, NothingIsFoundWhereNothingIs) {
@@ -61,6 +64,21 @@ TEST_F(TextIndexTest, ATextThatWasWrittenOverIsNotFoundAnyMore) {
   Change(1, "P1");
   EXPECT_EQ(Find(""), 2);
   EXPECT_EQ(Find("P1"), 1);
+}
+
+// A title, the lines one after the other, and a free one after them.
+TEST_F(TextIndexTest, ACountThatIsTypedInLooksAtFewLinesForEach) {
+  constexpr int kLines = 2000;
+  Append("Code");
+  Append("");
+  for (int line = 1; line <= kLines; ++line) {
+    const std::string code = "P" + std::to_string(line);
+    EXPECT_EQ(Find(code, 1), -1);
+    EXPECT_EQ(Find("", 1), line);
+    Change(line, code);
+    Append("");
+  }
+  EXPECT_LT(looks, 4 * kLines);
 }
 
 TEST_F(TextIndexTest, ItFindsWhatAWalkFindsAfterAnyWriting) {
