@@ -117,7 +117,7 @@ bool Take(std::string_view path) {
 
 int main(int argument_count, char** arguments) {
   if (argument_count == 2 && std::string_view(arguments[1]) == "build") {
-    std::printf("%s, SQLite %s\n", kCompiler, sqlite3_libversion());
+    std::printf("%s, SQLite %s\n", orvendal::kCompiler, sqlite3_libversion());
     return 0;
   }
   if (argument_count == 2 && orvendal::Take(arguments[1])) return 0;
