@@ -25,6 +25,7 @@ class BenchScreen {
 
   FrmOrvendalciales& Form() { return *state_.form; }
   QWidget* Widget() { return host_.WidgetOf(Form()); }
+  SqliteConnection& Store() { return *connection_; }
   /// A save lets the stylist go.
   void ChooseStylist();
   /// Opens the editor on the first free line.

@@ -159,6 +159,88 @@ TEST(CanvasPixels, ATextTakesTheSameRoomAtAnyScale) {
   EXPECT_NEAR(width_at(2.0), width_at(1.0), 1.5);
 }
 
+// Texts that come again are copied; what they lie on is not always of one colour.
+TEST(CanvasPixels, ATextThatIsPaintedAgainLooksTheSameOnAnyGround) {
+  const FontSpec font{"MS Sans Serif", 12, 400, false};
+  Bitmap bitmap;
+  bitmap.width = bitmap.height = 10;
+  bitmap.palette = {kBlue};
+  bitmap.pixels.assign(100, 0);
+  using Paint = std::function<void(QtCanvas&)>;
+  const std::vector<std::pair<const char*, Paint>> grounds = {
+      {"one colour", [](QtCanvas&) {}},
+      {"a line under it",
+       [](QtCanvas& canvas) {
+         canvas.FillRectangle({0, 150, 3000, 15}, kBlue);
+       }},
+      {"half of it",
+       [](QtCanvas& canvas) {
+         canvas.FillRectangle({0, 0, 300, 600}, kBlue);
+       }},
+      {"less high",
+       [](QtCanvas& canvas) {
+         canvas.FillRectangle({0, 0, 3000, 150}, kBlue);
+       }},
+      {"its upper edge",
+       [](QtCanvas& canvas) {
+         canvas.FillRectangle({0, 0, 3000, 15}, kBlue);
+       }},
+      {"a frame",
+       [](QtCanvas& canvas) {
+         canvas.FrameRectangle({150, 75, 600, 150}, kBlue, 15);
+       }},
+      {"dots",
+       [](QtCanvas& canvas) {
+         canvas.FocusRectangle({150, 75, 600, 150});
+       }},
+      {"round corners",
+       [](QtCanvas& canvas) {
+         canvas.RoundedRectangle({150, 75, 600, 150}, 60, kBlue, kBlue, 15);
+       }},
+      {"a slanted line",
+       [](QtCanvas& canvas) {
+         canvas.DrawLine({0, 0}, {900, 300}, kBlue, 15);
+       }},
+      {"an arrow",
+       [](QtCanvas& canvas) {
+         canvas.FillPolygon({{150, 0}, {600, 300}, {150, 300}}, kBlue);
+       }},
+      {"a picture",
+       [&](QtCanvas& canvas) {
+         canvas.DrawBitmap({150, 75}, bitmap, {0, 0, 3000, 600});
+       }},
+      {"another text",
+       [&](QtCanvas& canvas) {
+         canvas.DrawText({60, 0, 3000, 600}, "Wwwww", font, kBlue, HorizontalAlign::kLeft,
+                         VerticalAlign::kTop);
+       }},
+      {"a caret",
+       [](QtCanvas& canvas) {
+         canvas.Invert({300, 0, 15, 300});
+       }},
+  };
+  const auto image_of = [&](QtFonts& fonts, const Paint& ground, double width) {
+    QImage image(220, 50, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QtCanvas canvas(painter, fonts, 1);
+    canvas.FillRectangle({0, 0, 3000, 600}, kRed);
+    ground(canvas);
+    canvas.DrawText({0, 0, width, 600}, "Champú", font, kBlack, HorizontalAlign::kLeft, VerticalAlign::kTop);
+    return image;
+  };
+  QtFonts used;
+  for (int round = 0; round < 3; ++round) {
+    for (const auto& [name, ground] : grounds) {
+      for (const double width : {3000.0, 400.0}) {
+        QtFonts fresh;
+        EXPECT_EQ(image_of(used, ground, width), image_of(fresh, ground, width))
+            << name << ", round " << round;
+      }
+    }
+  }
+}
+
 TEST(CanvasPixels, APictureIsPaintedAtItsOwnSizeInItsPalette) {
   Bitmap bitmap;
   bitmap.width = 3;
