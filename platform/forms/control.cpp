@@ -4,6 +4,18 @@
 #include "platform/forms/form.h"
 
 namespace orvendal {
+namespace {
+
+// A label writes its text anew when the part of it changes that no window in front covers.
+void RefreshLabelsBehind(const Control& window, const Rect& place) {
+  if (window.IsLightweight() || !window.Parent().Visible()) return;
+  for (Control* other : window.Parent().Controls()) {
+    if (other->Kind() != ControlKind::kLabel || other->Container() != window.Container()) continue;
+    if (place.Intersects({other->Left(), other->Top(), other->Width(), other->Height()})) other->Refresh();
+  }
+}
+
+}  // namespace
 
 Control::Control(Form& form, Control* container, std::string_view name, int index)
     : form_(form), container_(container), name_(name), index_(index), font_([this] { FontChanged(); }) {
@@ -83,6 +95,8 @@ void Control::SetBounds(const Rect& bounds) {
   properties_.height = bounds.height;
   if (bounds.width != old.width || bounds.height != old.height) SizeChanged();
   Invalidate();
+  RefreshLabelsBehind(*this, old);
+  RefreshLabelsBehind(*this, bounds);
 }
 
 void Control::Visible(bool visible) {
@@ -90,6 +104,7 @@ void Control::Visible(bool visible) {
   Invalidate();
   properties_.visible = visible;
   Invalidate();
+  RefreshLabelsBehind(*this, {Left(), Top(), Width(), Height()});
   if (properties_.align != AlignMode::kNone) form_.LayOutAligned();
   form_.LeaveIneligible();
 }

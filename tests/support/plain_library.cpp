@@ -5,7 +5,7 @@ namespace {
 
 class PlainHerramientas final : public Herramientas {
  public:
-  PlainHerramientas(WindowHost& host, const std::string& date_mask) : host_(host), date_mask_(date_mask) {}
+  PlainHerramientas(WindowHost& host, const PlainLibrary& library) : host_(host), library_(library) {}
 
   int FiltrarTecla(TextBox& caja, int key_ascii, bool) override {
     const char mark = host_.UserRegion().DecimalMark();
@@ -20,10 +20,11 @@ class PlainHerramientas final : public Herramientas {
   void LiberarForm(ObjectRef& formulario) override { formulario.reset(); }
 
   std::string FormatoFecha(std::string& fecha, std::uint8_t, std::string&, std::string&) override {
+    if (library_.date_text) return *library_.date_text;
     const std::optional<Date> date = host_.UserRegion().ParseDate(fecha);
     if (!date) return fecha;
-    return date_mask_.empty() ? host_.UserRegion().ToText(date->DayOnly())
-                              : host_.UserRegion().Format(*date, date_mask_);
+    return library_.date_mask.empty() ? host_.UserRegion().ToText(date->DayOnly())
+                                      : host_.UserRegion().Format(*date, library_.date_mask);
   }
 
   void RegistrarSentencia(std::string&, ConnectionRef&, std::string&) override {}
@@ -31,7 +32,7 @@ class PlainHerramientas final : public Herramientas {
 
  private:
   WindowHost& host_;
-  const std::string& date_mask_;
+  const PlainLibrary& library_;
 };
 
 class PlainRecalculo final : public Recalculo {
@@ -42,7 +43,7 @@ class PlainRecalculo final : public Recalculo {
 }  // namespace
 
 std::unique_ptr<Herramientas> PlainLibrary::NewHerramientas() {
-  return std::make_unique<PlainHerramientas>(host_, date_mask);
+  return std::make_unique<PlainHerramientas>(host_, *this);
 }
 std::unique_ptr<Recalculo> PlainLibrary::NewRecalculo() {
   return std::make_unique<PlainRecalculo>();

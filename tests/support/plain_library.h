@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/forms/window_host.h"
@@ -17,6 +18,8 @@ class PlainLibrary final : public Library {
 
   /// The form of dates, such as "yyyy-mm-dd"; empty for the region's short one.
   std::string date_mask;
+  /// What every date is written as instead, if anything.
+  std::optional<std::string> date_text;
 
   std::unique_ptr<Herramientas> NewHerramientas() override;
   std::unique_ptr<Mensajes> NewMensajes() override { return nullptr; }

@@ -231,6 +231,32 @@ TEST_F(CaptionTest, WhatAWindowInFrontCoversOfALabelIsNoRoomForItsText) {
   EXPECT_EQ(Painted().clip.width, 1500);
 }
 
+TEST_F(CaptionTest, ALabelIsPaintedWholeWhenAWindowComesOverPartOfItMovesOrGoes) {
+  Control& cover = form->Add<CommandButton>("Cover", {9000, 300, 900, 900});
+  form->Unload();
+  form->Show();
+  label.Design("Página", false, false);
+  const auto label_waits = [&] {
+    for (const Rect& area : form->TakeDirtyRectangles()) {
+      if (area.Intersection(label.Bounds()) == label.Bounds()) return true;
+    }
+    return false;
+  };
+  form->TakeDirtyRectangles();
+  cover.Left(100);
+  EXPECT_TRUE(label_waits());
+  cover.Top(400);
+  EXPECT_TRUE(label_waits());
+  cover.Visible(false);
+  EXPECT_TRUE(label_waits());
+  cover.Visible(true);
+  EXPECT_TRUE(label_waits());
+  cover.Left(9000);
+  EXPECT_TRUE(label_waits());
+  cover.Left(9100);
+  EXPECT_FALSE(label_waits());
+}
+
 TEST_F(CaptionTest, TheMarkUnderALetterIsAsWideAsTheFontThatIsWritten) {
   label.Design("&Cancelar", false, false);
   label.Width(WidthOf(kFont) - 1);
