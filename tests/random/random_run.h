@@ -9,7 +9,7 @@ namespace orvendal {
 /// What came of a random user's day.
 struct RandomRun {
   std::string broken;  // what holds no longer; "" if all is well
-  std::string script;  // what was done until then
+  std::string script;  // what was done until then; at the end of a day, what the screen shows
   int events = 0;
   int loads = 0;     // that were compared with the store
   int pictures = 0;  // that were compared with the one before

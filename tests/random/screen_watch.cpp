@@ -111,10 +111,10 @@ void ScreenWatch::LookAtLines(const FrmOrvendalciales& screen) {
     Broken("the snapshot has ", screen.MSFProductos1.Cols(), " columns");
   }
   if (grid.Rows() < kFewestRows) Broken("the grid has only ", grid.Rows(), " rows");
-  std::set<std::string_view> codes;
+  std::set<std::string> codes;
   int first_free = 0;
   for (int row = 1; row < grid.Rows(); ++row) {
-    const std::string& code = grid.TextMatrix(row, column::kCode);
+    const std::string code = grid.TextMatrix(row, column::kCode);
     if (code.empty()) {
       if (first_free == 0) first_free = row;
       continue;
