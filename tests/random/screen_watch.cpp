@@ -211,12 +211,18 @@ void ScreenWatch::LookAtLoad(const FrmOrvendalciales& screen) {
 // Whatever looks different now has to wait for painting, or it never shows; what waits lies on the screen.
 void ScreenWatch::LookAtPaint(FrmOrvendalciales& screen, bool moves_only) {
   const std::vector<Rect> dirty = screen.TakeDirtyRectangles();
+  if (screen.WindowState() == WindowState::kMinimized) {  // nothing shows, and all comes back at once
+    painted_screen_ = nullptr;
+    return;
+  }
   const Rect whole{0, 0, screen.Width(), screen.Height()};
   for (const Rect& area : dirty) {
     if (area.IsEmpty()) Broken("an empty area waits to be painted");
     const bool is_inside = area.left > -kNear && area.top > -kNear && area.Right() < whole.width + kNear &&
                            area.Bottom() < whole.height + kNear;
-    if (!is_inside) Broken("what waits to be painted lies beyond the screen");
+    if (!is_inside)
+      Broken("what waits to be painted lies beyond the screen: ", area.left, " ", area.top, " ", area.width,
+             " ", area.height, " of ", whole.width, " ", whole.height);
   }
   if (moves_only && !dirty.empty()) Broken("the mouse came by, and something waits to be painted");
 
