@@ -10,7 +10,7 @@ target_compile_options(gtest PRIVATE -O2)
 set(ORVENDAL_WINE_ENVIRONMENT ORVENDAL_WINEPREFIX=${ORVENDAL_WINEPREFIX})
 add_test(NAME wine_prefix COMMAND ${CMAKE_CROSSCOMPILING_EMULATOR} wineboot --init)
 set_tests_properties(wine_prefix PROPERTIES
-  FIXTURES_SETUP wine_prefix ENVIRONMENT "${ORVENDAL_WINE_ENVIRONMENT}" TIMEOUT 180)
+  FIXTURES_SETUP wine_prefix RESOURCE_LOCK wine_display ENVIRONMENT "${ORVENDAL_WINE_ENVIRONMENT}" TIMEOUT 180)
 
 # Windows are tested on a display of their own, in a prefix of their own, since a desktop of Wine that was started
 # without a display refuses windows; and one program at a time, since they all want the keyboard.
