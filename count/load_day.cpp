@@ -9,7 +9,7 @@
 namespace orvendal {
 namespace {
 
-// The floor of the grid: the title row and 12 lines.
+// The grid never has fewer rows: the title row and 12 lines.
 constexpr int kFloorRows = 13;
 constexpr int kFloorLines = 12;
 

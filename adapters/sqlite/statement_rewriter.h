@@ -35,9 +35,9 @@ struct RewrittenStatement {
   std::string sql;
   std::vector<Parameter> parameters;
   std::vector<std::string> tables;  // those it reads or writes, in the order of the text
-  /// One for each parameter. With other texts of ASCII in the statement, patterns without wildcards among
-  /// them, `sql` would be the same and the parameters come of them in this way; nothing of that holds unless
-  /// `depends_on_values_alone`.
+  /// Where each parameter comes from. Meaningful only if `depends_on_values_alone`: then a statement that
+  /// differs only in its texts (ASCII, patterns without wildcards) has the same `sql`, and its parameters are
+  /// made from its own texts by these sources.
   std::vector<ParameterSource> sources;
   bool depends_on_values_alone = false;
 };

@@ -39,8 +39,8 @@ class Recordset;
 class Field {
  public:
   Field(const Recordset& recordset, std::size_t index) : recordset_(&recordset), index_(index) {}
-  /// Raises 3021 where there is no current row, 6 for what is no number of this world: infinity, and what is
-  /// not a number.
+  /// Raises 3021 where there is no current row, 6 where the stored number is
+  /// infinite or not a number (NaN).
   class Value Value() const;
 
  private:
