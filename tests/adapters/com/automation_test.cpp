@@ -1,4 +1,5 @@
 #include "adapters/com/identity.h"
+#include "form/columns.h"
 #include "tests/adapters/com/com_world.h"
 #include "tests/adapters/com/invoke_client.h"
 
@@ -36,8 +37,8 @@ class AutomationTest : public ComWorld {
   }
   void OpenEditor() {
     if (form().TxtMSF.Visible()) return;
-    hands().ClickCell(form().MSFProductos, 1, 0);
-    hands().DoubleClickCell(form().MSFProductos, 1, 0);
+    hands().ClickCell(form().MSFProductos, 1, column::kCode);
+    hands().DoubleClickCell(form().MSFProductos, 1, column::kCode);
   }
   void TearDown() override {
     text_.clear();

@@ -5,6 +5,7 @@
 #include "adapters/com/component_module.h"
 #include "adapters/com/identity.h"
 #include "adapters/com/module_parts.h"
+#include "form/columns.h"
 #include "tests/adapters/com/text_balance.h"
 
 namespace orvendal {
@@ -118,8 +119,8 @@ void ComWorld::CloseForm() const {
 void ComWorld::EnterLine(const std::string& code, const std::string& quantity) const {
   Robot robot = hands();
   if (!form().TxtMSF.Visible()) {
-    robot.ClickCell(form().MSFProductos, 1, 0);
-    robot.DoubleClickCell(form().MSFProductos, 1, 0);
+    robot.ClickCell(form().MSFProductos, 1, column::kCode);
+    robot.DoubleClickCell(form().MSFProductos, 1, column::kCode);
   }
   robot.Type(code + "\n" + quantity + "\n");
 }

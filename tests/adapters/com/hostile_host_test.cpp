@@ -4,6 +4,7 @@
 #include "adapters/automation/bstr.h"
 #include "adapters/com/component_factory.h"
 #include "adapters/com/identity.h"
+#include "form/columns.h"
 #include "tests/adapters/com/com_world.h"
 #include "tests/adapters/com/invoke_client.h"
 
@@ -24,8 +25,8 @@ class HostileHostTest : public ComWorld {
   }
   void OpenEditor() const {
     if (form().TxtMSF.Visible()) return;
-    hands().ClickCell(form().MSFProductos, 1, 0);
-    hands().DoubleClickCell(form().MSFProductos, 1, 0);
+    hands().ClickCell(form().MSFProductos, 1, column::kCode);
+    hands().DoubleClickCell(form().MSFProductos, 1, column::kCode);
   }
   /// The form as the library gets it.
   ComPtr<IDispatch> FormObject() {
@@ -183,7 +184,7 @@ TEST_F(HostileHostTest, AClassOfTheLibraryThatCannotMakeItsObjectIsError429WhenI
   hands().Key(key::kF2);
   EXPECT_EQ(Reported(), 429);
   windows->ForgetErrors();
-  hands().ClickCell(form().MSFProductos, 1, 0);
+  hands().ClickCell(form().MSFProductos, 1, column::kCode);
   EXPECT_EQ(Reported(), 429) << "the message asking for a stylist";
   behaviour.creation = S_OK;
   windows->ForgetErrors();
@@ -213,7 +214,7 @@ TEST_F(HostileHostTest, EveryOperationOfTheLibraryMayFail) {
   expect_reported("AbrirCambio");
 
   behaviour.show = [](BSTR*, LONG*, BSTR*, LONG*) { return kFailure; };
-  hands().ClickCell(form().MSFProductos, 1, 0);
+  hands().ClickCell(form().MSFProductos, 1, column::kCode);
   expect_reported("Mostrar");
   behaviour.show = nullptr;
 
@@ -229,7 +230,7 @@ TEST_F(HostileHostTest, EveryOperationOfTheLibraryMayFail) {
   };
   hands().Type("NADA\n");
   expect_reported("Buscar");
-  EXPECT_EQ(form().MSFProductos.TextMatrix(1, 0), "");
+  EXPECT_EQ(form().MSFProductos.TextMatrix(1, column::kCode), "");
 
   form().TxtMSF.Text("");
   hands().Type("P1\n");
@@ -281,7 +282,7 @@ TEST_F(HostileHostTest, ASearchThatClearsTheFormLeavesTheScreenUsable) {
   EXPECT_EQ(Reported(), 0);
   form().TxtMSF.Text("");
   hands().Type("P1\n5\n");
-  EXPECT_EQ(form().MSFProductos.TextMatrix(1, 3), "5");
+  EXPECT_EQ(form().MSFProductos.TextMatrix(1, column::kQuantity), "5");
   component.Reset();
   EXPECT_FALSE(CanModuleGo()) << "its window is still there";
 }

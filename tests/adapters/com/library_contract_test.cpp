@@ -1,4 +1,5 @@
 #include "adapters/automation/bstr.h"
+#include "form/columns.h"
 #include "tests/adapters/com/com_world.h"
 
 namespace orvendal {
@@ -87,8 +88,8 @@ TEST_F(LibraryContractTest, TheKeyThatTheFilterAnswersIsUsed) {
     return S_OK;
   };
   Open();
-  hands().ClickCell(form().MSFProductos, 1, 0);
-  hands().DoubleClickCell(form().MSFProductos, 1, 0);
+  hands().ClickCell(form().MSFProductos, 1, column::kCode);
+  hands().DoubleClickCell(form().MSFProductos, 1, column::kCode);
   hands().Type("P1\n1x2");
   EXPECT_EQ(form().TxtMSF.Text(), "92");
 }
@@ -128,8 +129,8 @@ TEST_F(LibraryContractTest, EachDialogKeepsTheScreenFromInputWhileItIsUp) {
   Open();
   hands().Key(key::kF1);
   hands().Key(key::kF2);
-  hands().ClickCell(form().MSFProductos, 1, 0);
-  hands().DoubleClickCell(form().MSFProductos, 1, 0);
+  hands().ClickCell(form().MSFProductos, 1, column::kCode);
+  hands().DoubleClickCell(form().MSFProductos, 1, column::kCode);
   hands().Type("NADA\n");
   EXPECT_EQ(open, (Texts{"AccionPuesto", "AbrirCambio", "Mostrar", "Elegir", "Buscar"}));
   EXPECT_TRUE(ScreenTakesInput());
@@ -145,11 +146,11 @@ TEST_F(LibraryContractTest, TheSearchGetsSessionFormAndTextsAndItsCodeIsTaken) {
     return S_OK;
   };
   Open();
-  hands().ClickCell(form().MSFProductos, 1, 0);
-  hands().DoubleClickCell(form().MSFProductos, 1, 0);
+  hands().ClickCell(form().MSFProductos, 1, column::kCode);
+  hands().DoubleClickCell(form().MSFProductos, 1, column::kCode);
   hands().Type("CRE\n");
   EXPECT_EQ(CallsOf("Buscar"), Texts{"Buscar 'Orvendalcial' 'Codigo' 'CRE' 'Modal' 0"});
-  EXPECT_EQ(form().MSFProductos.TextMatrix(1, 0), "P2");
+  EXPECT_EQ(form().MSFProductos.TextMatrix(1, column::kCode), "P2");
 }
 
 TEST_F(LibraryContractTest, ASearchMayReplaceTheSessionObject) {
@@ -161,8 +162,8 @@ TEST_F(LibraryContractTest, ASearchMayReplaceTheSessionObject) {
   };
   Open();
   const ULONG before = host->References();
-  hands().ClickCell(form().MSFProductos, 1, 0);
-  hands().DoubleClickCell(form().MSFProductos, 1, 0);
+  hands().ClickCell(form().MSFProductos, 1, column::kCode);
+  hands().DoubleClickCell(form().MSFProductos, 1, column::kCode);
   hands().Type("CRE\n");
   EXPECT_EQ(other->References(), 2U);
   EXPECT_EQ(host->References(), before - 1);

@@ -1,3 +1,4 @@
+#include "form/columns.h"
 #include "tests/adapters/com/com_world.h"
 #include "tests/adapters/com/script_engine.h"
 #include "tests/adapters/com/text_balance.h"
@@ -119,7 +120,7 @@ TEST_F(ScriptClientTest, ALibraryInScriptMayTouchTheBox) {
   Open();
   EnterLine("P1", "57");
   EXPECT_EQ(notes->lines, (Lines{"TxtMSF 5 1 0", "46 Ana 46"}));
-  EXPECT_EQ(form().MSFProductos.TextMatrix(1, 3), "337");
+  EXPECT_EQ(form().MSFProductos.TextMatrix(1, column::kQuantity), "337");
 }
 
 }  // namespace

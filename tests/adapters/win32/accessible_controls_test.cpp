@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "adapters/win32/form_accessible.h"
+#include "form/columns.h"
 #include "tests/adapters/win32/accessible_client.h"
 #include "tests/adapters/win32/real_screen.h"
 
@@ -20,8 +21,8 @@ class AccessibleControls : public ::testing::Test {
   }
   void OpenEditor() {
     screen.library.QueueEmployee({true, "E1", "Ana"});
-    screen.ClickCell(1, 0);
-    screen.DoubleClickCell(1, 0);
+    screen.ClickCell(1, column::kCode);
+    screen.DoubleClickCell(1, column::kCode);
   }
   void EnterSupervisorMode() {
     screen.library.QueueEmployee({true, "E2", "Berta"});

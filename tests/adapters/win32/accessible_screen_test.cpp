@@ -6,6 +6,7 @@
 #include "adapters/automation/module_lifetime.h"
 #include "adapters/win32/form_accessible.h"
 #include "adapters/win32/module_use.h"
+#include "form/columns.h"
 #include "tests/adapters/win32/accessible_client.h"
 
 namespace orvendal {
@@ -30,8 +31,8 @@ class AccessibleScreen : public ::testing::Test {
     MSFlexGrid& grid = screen.form().MSFProductos;
     grid.Rows(count + 1);
     for (int row = 1; row <= count; ++row) {
-      grid.TextMatrix(row, 0, "P" + std::to_string(row));
-      grid.TextMatrix(row, 1, "Producto " + std::to_string(row));
+      grid.TextMatrix(row, column::kCode, "P" + std::to_string(row));
+      grid.TextMatrix(row, column::kDescription, "Producto " + std::to_string(row));
     }
     Pump();
   }
@@ -93,13 +94,13 @@ TEST_F(AccessibleScreen, TheCellsOfTheGridHaveTheTitlesOfTheirColumns) {
   AddLines(3);
   const Seen grid = Grid();
   ASSERT_TRUE(grid.Exists());
-  EXPECT_EQ(Cell(0, 1).Role(), ROLE_SYSTEM_COLUMNHEADER);
-  EXPECT_EQ(Cell(0, 1).Value(), L"Descripción");
-  EXPECT_EQ(Cell(2, 1).Role(), ROLE_SYSTEM_CELL);
-  EXPECT_EQ(Cell(2, 1).Name(), L"Descripción");
-  EXPECT_EQ(Cell(2, 1).Value(), L"Producto 2");
-  EXPECT_EQ(Cell(2, 0).Name(), L"Código");
-  EXPECT_TRUE(Cell(2, 8).Is(STATE_SYSTEM_INVISIBLE)) << "a hidden column";
+  EXPECT_EQ(Cell(0, column::kDescription).Role(), ROLE_SYSTEM_COLUMNHEADER);
+  EXPECT_EQ(Cell(0, column::kDescription).Value(), L"Descripción");
+  EXPECT_EQ(Cell(2, column::kDescription).Role(), ROLE_SYSTEM_CELL);
+  EXPECT_EQ(Cell(2, column::kDescription).Name(), L"Descripción");
+  EXPECT_EQ(Cell(2, column::kDescription).Value(), L"Producto 2");
+  EXPECT_EQ(Cell(2, column::kCode).Name(), L"Código");
+  EXPECT_TRUE(Cell(2, column::kStoredQuantity).Is(STATE_SYSTEM_INVISIBLE)) << "a hidden column";
 }
 
 TEST_F(AccessibleScreen, ALongGridListsWhatShowsAndAnswersForEveryCell) {
@@ -107,9 +108,9 @@ TEST_F(AccessibleScreen, ALongGridListsWhatShowsAndAnswersForEveryCell) {
   const std::size_t listed = Grid().Children().size();
   EXPECT_GT(listed, 50U);
   EXPECT_LT(listed, 500U);
-  EXPECT_EQ(Cell(3000, 1).Value(), L"Producto 3000");
-  EXPECT_TRUE(Cell(3000, 1).Is(STATE_SYSTEM_OFFSCREEN));
-  EXPECT_FALSE(Cell(1, 1).Is(STATE_SYSTEM_OFFSCREEN));
+  EXPECT_EQ(Cell(3000, column::kDescription).Value(), L"Producto 3000");
+  EXPECT_TRUE(Cell(3000, column::kDescription).Is(STATE_SYSTEM_OFFSCREEN));
+  EXPECT_FALSE(Cell(1, column::kDescription).Is(STATE_SYSTEM_OFFSCREEN));
   VARIANT role;
   EXPECT_EQ(Grid().Object()->get_accRole(Child(3001 * 9 + 1), &role), E_INVALIDARG);
   EXPECT_EQ(Grid().Object()->get_accRole(Child(-1), &role), E_INVALIDARG);
@@ -117,12 +118,12 @@ TEST_F(AccessibleScreen, ALongGridListsWhatShowsAndAnswersForEveryCell) {
 
 TEST_F(AccessibleScreen, TheArrowsOfTheReaderGoFromCellToCell) {
   AddLines(3);
-  EXPECT_EQ(Cell(1, 1).Go(NAVDIR_DOWN).Value(), L"Producto 2");
-  EXPECT_EQ(Cell(2, 1).Go(NAVDIR_UP).Value(), L"Producto 1");
-  EXPECT_EQ(Cell(2, 1).Go(NAVDIR_LEFT).Value(), L"P2");
-  EXPECT_EQ(Cell(2, 0).Go(NAVDIR_RIGHT).Value(), L"Producto 2");
-  EXPECT_FALSE(Cell(2, 0).Go(NAVDIR_LEFT).Exists());
-  EXPECT_FALSE(Cell(0, 0).Go(NAVDIR_UP).Exists());
+  EXPECT_EQ(Cell(1, column::kDescription).Go(NAVDIR_DOWN).Value(), L"Producto 2");
+  EXPECT_EQ(Cell(2, column::kDescription).Go(NAVDIR_UP).Value(), L"Producto 1");
+  EXPECT_EQ(Cell(2, column::kDescription).Go(NAVDIR_LEFT).Value(), L"P2");
+  EXPECT_EQ(Cell(2, column::kCode).Go(NAVDIR_RIGHT).Value(), L"Producto 2");
+  EXPECT_FALSE(Cell(2, column::kCode).Go(NAVDIR_LEFT).Exists());
+  EXPECT_FALSE(Cell(0, column::kCode).Go(NAVDIR_UP).Exists());
   EXPECT_EQ(Grid().Go(NAVDIR_FIRSTCHILD).Value(), L"Código");
 }
 
@@ -142,8 +143,8 @@ TEST_F(AccessibleScreen, NextAndPreviousGoThroughTheControlsAndTheirObjects) {
 
 TEST_F(AccessibleScreen, WhatLiesUnderAPointIsFoundThere) {
   AddLines(3);
-  for (const Seen& wanted :
-       {Control(L"Fecha", ROLE_SYSTEM_TEXT), Cell(2, 1), Control(L"Supervisor", ROLE_SYSTEM_PUSHBUTTON)}) {
+  for (const Seen& wanted : {Control(L"Fecha", ROLE_SYSTEM_TEXT), Cell(2, column::kDescription),
+                             Control(L"Supervisor", ROLE_SYSTEM_PUSHBUTTON)}) {
     const RECT place = wanted.Place();
     ASSERT_GT(place.right, place.left) << Utf8(wanted.Name());
     const Seen found = inside.At({(place.left + place.right) / 2, (place.top + place.bottom) / 2});
@@ -167,8 +168,8 @@ TEST_F(AccessibleScreen, AReaderCanDoAWholeCount) {
   EXPECT_EQ(Control(L"Estilista", ROLE_SYSTEM_PUSHBUTTON).Press(), S_OK);
   Pump();
   EXPECT_EQ(Control(L"Estilista", ROLE_SYSTEM_TEXT).Value(), L"Ana");
-  EXPECT_EQ(Cell(1, 0).Action(), L"Editar");
-  EXPECT_EQ(Cell(1, 0).Press(), S_OK);
+  EXPECT_EQ(Cell(1, column::kCode).Action(), L"Editar");
+  EXPECT_EQ(Cell(1, column::kCode).Press(), S_OK);
   Pump();
   const Seen editor = inside.Focus();
   ASSERT_TRUE(editor.Exists());
@@ -178,7 +179,7 @@ TEST_F(AccessibleScreen, AReaderCanDoAWholeCount) {
   screen.Type("P17\n");
   EXPECT_EQ(inside.Focus().Value(), L"17");
   screen.Type("12\n");
-  EXPECT_EQ(Cell(1, 1).Value(), L"Producto 17");
+  EXPECT_EQ(Cell(1, column::kDescription).Value(), L"Producto 17");
   EXPECT_EQ(Control(L"Guardar", ROLE_SYSTEM_PUSHBUTTON).Press(), S_OK);
   Pump();
   EXPECT_EQ(screen.Sql("SELECT COUNT(*) FROM HistOrvendalcial"), "1");
@@ -187,10 +188,10 @@ TEST_F(AccessibleScreen, AReaderCanDoAWholeCount) {
 TEST_F(AccessibleScreen, TheFocusIsTheCellWhileTheGridHasIt) {
   AddLines(3);
   screen.library.QueueEmployee({true, "E1", "Ana"});
-  EXPECT_EQ(Cell(3, 1).TakeFocus(), S_OK);
+  EXPECT_EQ(Cell(3, column::kDescription).TakeFocus(), S_OK);
   Pump();
   screen.library.QueueEmployee({true, "E1", "Ana"});
-  EXPECT_EQ(Cell(2, 1).TakeFocus(), S_OK);
+  EXPECT_EQ(Cell(2, column::kDescription).TakeFocus(), S_OK);
   Pump();
   const Seen focus = inside.Focus();
   ASSERT_TRUE(focus.Exists());
@@ -231,7 +232,7 @@ TEST_F(AccessibleScreen, QuestionsThatMakeNoSenseAreRefused) {
 
 TEST_F(AccessibleScreen, AnObjectThatSomebodyKeepsIsNotConnectedAfterTheFormIsGone) {
   const Seen grid = Grid();
-  const Seen cell = Cell(0, 0);
+  const Seen cell = Cell(0, column::kCode);
   screen.form().OnUnload = nullptr;
   screen.form().Unload();
   BSTR name = nullptr;
@@ -291,8 +292,8 @@ TEST_F(AccessibleScreen, TheFocusIsAnnouncedWhereverItGoes) {
   SendMessageW(window, WM_NULL, 0, 0);
   EXPECT_TRUE(listener.Take(EVENT_OBJECT_FOCUS).empty()) << "no news, no event";
   screen.library.QueueEmployee({true, "E1", "Ana"});
-  screen.ClickCell(1, 1);
-  screen.ClickCell(1, 1);
+  screen.ClickCell(1, column::kDescription);
+  screen.ClickCell(1, column::kDescription);
   const LONG grid = AccessibleNumber(screen.form().MSFProductos);
   const auto events = listener.Take(EVENT_OBJECT_FOCUS);
   ASSERT_FALSE(events.empty());

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <fstream>
 
+#include "form/columns.h"
 #include "tests/adapters/win32/real_screen.h"
 #include "tests/support/form_driver.h"
 #include "tests/support/recording_canvas.h"
@@ -232,8 +233,8 @@ TEST_F(PicturesOnWindows, TheScreenOfEachStateIsShownInFullAndLikeTheOneWithoutA
 
   PickStylist();
   OnBoth([](ScreenDriver& screen) {
-    screen.ClickCell(1, 0);
-    screen.DoubleClickCell(1, 0);
+    screen.ClickCell(1, column::kCode);
+    screen.DoubleClickCell(1, column::kCode);
   });
   Type("P10\n12\nP11\n");
   ASSERT_EQ(real.form().TxtMSF.Text(), "11");

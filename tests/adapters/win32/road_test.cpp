@@ -1,3 +1,4 @@
+#include "form/columns.h"
 #include "platform/base/date.h"
 #include "platform/forms/keys.h"
 #include "tests/adapters/win32/real_screen.h"
@@ -14,7 +15,9 @@ class RoadOnWindows : public ::testing::Test {
   MSFlexGrid& grid() { return form().MSFProductos; }
   std::vector<std::string> Line(int row) {
     std::vector<std::string> texts;
-    for (const int column : {0, 1, 2, 3, 5}) texts.push_back(grid().TextMatrix(row, column));
+    for (const int shown : {column::kCode, column::kDescription, column::kPreviousQuantity, column::kQuantity,
+                            column::kStylist})
+      texts.push_back(grid().TextMatrix(row, shown));
     return texts;
   }
   std::string Counted(const std::string& product, const std::string& day = "2026-11-16") {
@@ -23,7 +26,7 @@ class RoadOnWindows : public ::testing::Test {
   }
   void EnterThreeLines() {
     screen.ChooseStylist("E1", "Ana");
-    screen.DoubleClickCell(1, 0);
+    screen.DoubleClickCell(1, column::kCode);
     screen.Type("P17\n12\n");
     screen.Type("P18\n");  // its stock stands there, selected
     screen.Enter();
@@ -52,7 +55,7 @@ TEST_F(RoadOnWindows, LinesAreEnteredOneAfterTheOtherAndSaved) {
 
 TEST_F(RoadOnWindows, ArrowsEscAndTheMouseLeaveAQuantityAsTheyShould) {
   EnterThreeLines();
-  screen.ClickCell(1, 3);
+  screen.ClickCell(1, column::kQuantity);
   screen.Type("5");
   screen.Key(key::kDown);
   EXPECT_EQ(Line(1)[3], "5") << "an arrow keeps it";
@@ -61,9 +64,9 @@ TEST_F(RoadOnWindows, ArrowsEscAndTheMouseLeaveAQuantityAsTheyShould) {
   screen.Key(key::kEscape);
   EXPECT_EQ(Line(2)[3], "18") << "Esc drops it";
   EXPECT_FALSE(form().TxtMSF.Visible());
-  screen.DoubleClickCell(2, 3);
+  screen.DoubleClickCell(2, column::kQuantity);
   screen.Type("9");
-  screen.ClickCell(3, 0);
+  screen.ClickCell(3, column::kCode);
   EXPECT_EQ(Line(2)[3], "9") << "a click elsewhere keeps it";
   EXPECT_TRUE(screen.errors.empty());
 }
@@ -74,7 +77,7 @@ TEST_F(RoadOnWindows, TheSearchBringsAProductAndALineCanBeDeleted) {
   screen.Click(form().LblBuscar_1);
   EXPECT_EQ(Line(4)[1], "Producto 30");
   screen.Type("2\n");
-  screen.ClickCell(2, 0);
+  screen.ClickCell(2, column::kCode);
   screen.Click(form().LblBorrar_1);
   EXPECT_EQ(Line(2)[0], "P19");
   EXPECT_EQ(Line(3)[0], "P30");
@@ -95,7 +98,7 @@ TEST_F(RoadOnWindows, ASupervisorPutsAnotherDayRight) {
   screen.robot().ClickDay(form().Calendario, Date(2026, 11, 13));
   screen.Key(key::kEscape);
   EXPECT_EQ(form().MkFecha.Text(), "13/11/2026");
-  screen.DoubleClickCell(1, 0);
+  screen.DoubleClickCell(1, column::kCode);
   screen.Type("P5\n4\n");
   screen.Click(form().LblGuardar_1);
   EXPECT_EQ(Counted("P5", "2026-11-13"), "4");

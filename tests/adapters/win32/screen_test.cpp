@@ -1,3 +1,4 @@
+#include "form/columns.h"
 #include "tests/adapters/win32/real_screen.h"
 
 namespace orvendal {
@@ -8,12 +9,12 @@ TEST(ScreenOnWindows, ACountTypedInTheWindowEndsInTheStore) {
   screen.Open();
   ASSERT_TRUE(IsWindowVisible(screen.Window()));
   screen.library.QueueEmployee({true, "E1", "Ana"});
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   EXPECT_EQ(screen.form().TxtEmpleado.Text(), "Ana");
-  screen.DoubleClickCell(1, 0);
+  screen.DoubleClickCell(1, column::kCode);
   EXPECT_TRUE(screen.form().TxtMSF.Visible());
   screen.Type("P17\n");
-  EXPECT_EQ(screen.form().MSFProductos.TextMatrix(1, 1), "Producto 17");
+  EXPECT_EQ(screen.form().MSFProductos.TextMatrix(1, column::kDescription), "Producto 17");
   screen.Type("12\n");
   screen.Click(screen.form().LblGuardar_1);
   EXPECT_EQ(screen.Sql("SELECT COUNT(*) FROM HistOrvendalcial"), "1");
