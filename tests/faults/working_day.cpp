@@ -29,7 +29,7 @@ WorkingDay::WorkingDay(Dialect dialect) : screen(dialect) {
   }
 
   Add(Step::kDrops, "call", [this] { Call(); });
-  Add(Step::kTypes, "choose the stylist", [this] { screen.ClickCell(1, 0); });
+  Add(Step::kTypes, "choose the stylist", [this] { screen.ClickCell(1, column::kCode); });
   Add(Step::kTypes, "enter a line by code", [this] { screen.EnterLine("P1", "12"); });
   Add(Step::kTypes, "scan a bar code", [this] { screen.EnterLine("8400000000024", "3,5"); });
   Add(Step::kTypes, "enter a line by description", [this] { screen.EnterLine("Crema f", "4"); });
@@ -47,11 +47,11 @@ WorkingDay::WorkingDay(Dialect dialect) : screen(dialect) {
   Add(Step::kMaySave, "save", [this] { screen.Click("LblGuardar"); });
   Add(Step::kTypes, "choose the stylist by the button", [this] { screen.Click("CmdEmpl"); });
   Add(Step::kDeletes, "delete a line", [this] {
-    screen.ClickCell(1, 0);
+    screen.ClickCell(1, column::kCode);
     screen.Click("LblBorrar");
   });
   Add(Step::kTypes, "search by the button", [this] {
-    screen.ClickCell(static_cast<int>(screen.Codes().size()) + 1, 0);
+    screen.ClickCell(static_cast<int>(screen.Codes().size()) + 1, column::kCode);
     screen.Click("LblBuscar");
   });
   Add(Step::kMaySave, "save again", [this] { screen.Click("LblGuardar"); });
@@ -65,7 +65,7 @@ WorkingDay::WorkingDay(Dialect dialect) : screen(dialect) {
   });
   Add(Step::kMaySave, "change back and save on the way", [this] { PickDay(screen, Date(2026, 11, 16)); });
   Add(Step::kMaySave, "leave supervisor mode", [this] { screen.Click("BtnAnuloSuper"); });
-  Add(Step::kTypes, "choose the stylist once more", [this] { screen.ClickCell(1, 0); });
+  Add(Step::kTypes, "choose the stylist once more", [this] { screen.ClickCell(1, column::kCode); });
   Add(Step::kTypes, "enter a line in vain", [this] { screen.EnterLine("P4", "1"); });
   Add(Step::kMaySave, "cancel", [this] { screen.Click("LblCancelar"); });
   Add(Step::kMaySave, "close", [this] { testing_support::ClickClose(screen); });
@@ -128,7 +128,7 @@ std::vector<std::string> WorkingDay::Lines() {
 void WorkingDay::StartAfresh() {
   if (screen.HasForm()) screen.form().Unload();
   Call();
-  screen.ClickCell(1, 0);
+  screen.ClickCell(1, column::kCode);
   screen.EnterLine("P30", "3");
   screen.Key(key::kEscape);
   screen.Click("LblGuardar");

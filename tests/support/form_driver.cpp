@@ -1,5 +1,6 @@
 #include "tests/support/form_driver.h"
 
+#include "form/columns.h"
 #include "host/store/schema.h"
 
 namespace orvendal {
@@ -77,7 +78,7 @@ bool ScreenDriver::Open(const std::string& branch, const std::string& station, c
 void ScreenDriver::OpenWithStylist(const std::string& branch) {
   Open(branch);
   library.QueueEmployee({true, "E1", "Ana"});
-  ClickCell(1, 0);
+  ClickCell(1, column::kCode);
 }
 
 void ScreenDriver::ChooseStylist(const std::string& code, const std::string& name) {
@@ -104,8 +105,9 @@ void ScreenDriver::DoubleClickCell(int row, int column) {
 
 void ScreenDriver::EnterLine(const std::string& code, const std::string& quantity) {
   const int free_row = static_cast<int>(Codes().size()) + 1;
-  if (!form().TxtMSF.Visible() || form().MSFProductos.Row() != free_row || form().MSFProductos.Col() != 0) {
-    DoubleClickCell(free_row, 0);
+  if (!form().TxtMSF.Visible() || form().MSFProductos.Row() != free_row ||
+      form().MSFProductos.Col() != column::kCode) {
+    DoubleClickCell(free_row, column::kCode);
   }
   Type(code);
   Enter();
@@ -121,8 +123,8 @@ std::vector<std::string> ScreenDriver::Line(int row) {
 
 std::vector<std::string> ScreenDriver::Codes() {
   std::vector<std::string> codes;
-  for (int row = 1; row < form().MSFProductos.Rows() && !Cell(row, 0).empty(); ++row)
-    codes.push_back(Cell(row, 0));
+  for (int row = 1; row < form().MSFProductos.Rows() && !Cell(row, column::kCode).empty(); ++row)
+    codes.push_back(Cell(row, column::kCode));
   return codes;
 }
 
