@@ -11,6 +11,7 @@
 #include "host/script/parser.h"
 #include "host/script/qt_pictures.h"
 #include "host/script/runner.h"
+#include "host/script/script_options.h"
 
 namespace {
 
@@ -28,7 +29,13 @@ int Run(const std::vector<std::string>& words, const char* name) {
   const std::vector<Command> commands = {{"guion", &Words::value_file, &Words::help_script_file,
                                           &Words::help_script, &Words::help_exit_codes_of_script,
                                           run_script}};
-  const CommandLine line = ReadCommandLine(words, LanguageOfEnvironment(), commands);
+  CommandLine line = ReadCommandLine(words, LanguageOfEnvironment(), commands);
+  if (line.command != nullptr && !line.exit_code) {
+    // What was typed counts more than what the script says of itself.
+    std::vector<std::string> with_own = OptionsOfScript(line.argument);
+    with_own.insert(with_own.end(), words.begin(), words.end());
+    line = ReadCommandLine(with_own, LanguageOfEnvironment(), commands);
+  }
   std::cout << line.output;
   if (line.command != nullptr) {
     std::cerr << line.errors;  // whoever runs scripts reads them

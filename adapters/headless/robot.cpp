@@ -164,36 +164,43 @@ void Robot::Wait(int milliseconds) const {
   host.InputTime(host.InputTime() + static_cast<std::uint64_t>(milliseconds));
 }
 
-void Robot::Key(int key_code, int shift) {
-  Wait(kPause);
-  PressKey(key_code, shift);
+char32_t Robot::CharacterOf(int key_code, int shift) {
+  if (key_code == key::kReturn || key_code == key::kEscape || key_code == key::kBack) {
+    return static_cast<char32_t>(key_code);
+  }
+  const bool control = (shift & shift_mask::kControl) != 0;
+  if (control && key_code >= 'A' && key_code <= 'Z') return static_cast<char32_t>(key_code - 'A' + 1);
+  return 0;
 }
 
-void Robot::PressKey(int key_code, int shift) const {
-  const bool control = (shift & shift_mask::kControl) != 0;
-  char32_t character = 0;
-  if (key_code == key::kReturn || key_code == key::kEscape || key_code == key::kBack) {
-    character = static_cast<char32_t>(key_code);
-  } else if (control && key_code >= 'A' && key_code <= 'Z') {
-    character = static_cast<char32_t>(key_code - 'A' + 1);
-  }
-  input_.Key(form_, key_code, shift, character);
+void Robot::Key(int key_code, int shift) {
+  KeyAfter(kPause, key_code, shift);
+}
+
+void Robot::KeyAfter(int milliseconds, int key_code, int shift, std::optional<char32_t> character) {
+  Wait(milliseconds);
+  input_.Key(form_, key_code, shift, character.value_or(CharacterOf(key_code, shift)));
 }
 
 void Robot::Type(std::string_view text) {
-  Wait(kPause);
-  for (std::size_t offset = 0; offset < text.size();) {
+  TypeAfter(kPause + kBetweenKeys, kBetweenKeys, text);
+}
+
+void Robot::Write(std::string_view text) {
+  TypeAfter(kPause, kPause, text);
+}
+
+void Robot::TypeAfter(int first, int between, std::string_view text) {
+  int pause = first;
+  for (std::size_t offset = 0; offset < text.size(); pause = between) {
     const char32_t character = NextCharacter(text, offset);
-    Wait(kBetweenKeys);
     if (character == U'\n') {
-      PressKey(key::kReturn, 0);
-      continue;
+      KeyAfter(pause, key::kReturn, 0);
+    } else if (character == U'\t') {
+      KeyAfter(pause, key::kTab, 0);
+    } else {
+      KeyAfter(pause, KeyCodeOf(character), 0, character);
     }
-    if (character == U'\t') {
-      PressKey(key::kTab, 0);
-      continue;
-    }
-    input_.Key(form_, KeyCodeOf(character), 0, character);
   }
 }
 

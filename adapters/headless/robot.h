@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -47,8 +48,17 @@ class Robot {
 
   /// One key by its code, with the character that it stands for, after a pause.
   void Key(int key_code, int shift = 0);
+  /// The same so many milliseconds after the key before; `character` in place of the one it stands for, 0 for
+  /// none.
+  void KeyAfter(int milliseconds, int key_code, int shift, std::optional<char32_t> character = std::nullopt);
   /// Types a text after a pause, one key after the other as fast as a bar-code reader; a line break is Enter.
   void Type(std::string_view text);
+  /// The same with a pause before each key, as a hand does.
+  void Write(std::string_view text);
+  /// The same with the first key so many milliseconds after the one before, and so many between the others.
+  void TypeAfter(int first, int between, std::string_view text);
+  /// The character that a key stands for by itself; 0 for none.
+  static char32_t CharacterOf(int key_code, int shift);
 
   Point MiddleOf(const Control& control) const;
   /// The middle of what shows of a cell, scrolled to if it is out of view.
@@ -56,7 +66,6 @@ class Robot {
 
  private:
   void Wait(int milliseconds) const;
-  void PressKey(int key_code, int shift) const;
 
   Form& form_;
   FormInput& input_;

@@ -1,12 +1,13 @@
 #include "host/script/commands.h"
 
 #include <algorithm>
-#include <charconv>
 #include <map>
 
 #include "host/script/day_lines.h"
 #include "host/script/parser.h"
 #include "host/script/picture_place.h"
+#include "host/script/screen_state.h"
+#include "host/script/script_values.h"
 #include "host/script/show.h"
 #include "host/text/printed_text.h"
 
@@ -14,49 +15,6 @@ namespace orvendal {
 namespace {
 
 constexpr int kMostPixels = 16384;
-
-int WholeNumber(const std::string& text) {
-  int number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) {
-    throw ScriptStop("«" + text + "» no es un número entero");
-  }
-  return number;
-}
-
-int PositiveNumber(const std::string& text) {
-  const int number = WholeNumber(text);
-  if (number < 1) throw ScriptStop("«" + text + "» no es un número mayor que cero");
-  return number;
-}
-
-// Numbers of a fixed form such as "yyyy-mm-dd"; every other character of the form stands for itself.
-bool MatchForm(const std::string& text, std::string_view form, std::map<char, int>& numbers) {
-  if (text.size() != form.size()) return false;
-  for (std::size_t i = 0; i < form.size(); ++i) {
-    const bool is_letter = form[i] >= 'a' && form[i] <= 'z';
-    if (!is_letter) {
-      if (text[i] != form[i]) return false;
-      continue;
-    }
-    if (text[i] < '0' || text[i] > '9') return false;
-    numbers[form[i]] = numbers[form[i]] * 10 + (text[i] - '0');
-  }
-  return true;
-}
-
-Date MomentOf(const std::string& text) {
-  for (const char* form : {"yyyy-mm-dd", "yyyy-mm-dd hh:nn", "yyyy-mm-dd hh:nn:ss"}) {
-    std::map<char, int> numbers;
-    if (!MatchForm(text, form, numbers)) continue;
-    try {
-      return {numbers['y'], numbers['m'], numbers['d'], numbers['h'], numbers['n'], numbers['s']};
-    } catch (const RuntimeError&) {
-      break;  // no such day or time
-    }
-  }
-  throw ScriptStop("«" + text + "» no es una fecha como 2026-11-16 10:30:00");
-}
 
 std::string JoinedRow(SqliteStatement& statement) {
   std::string row;
@@ -71,7 +29,7 @@ std::string JoinedRow(SqliteStatement& statement) {
 
 const std::vector<ScriptCommands::Command>& ScriptCommands::Commands() {
   static const std::vector<Command> commands = {
-      {"reloj", "reloj 2026-11-16 10:30:00", 1, 2, &ScriptCommands::SetClock},
+      {"reloj", "reloj 2026-11-16 10:30:00 [tras LECTURAS]", 1, 4, &ScriptCommands::SetClock},
       {"pantalla", "pantalla ANCHO ALTO", 2, 2, &ScriptCommands::SetDisplay},
       {"base", "base ANCHO ALTO", 2, 2, &ScriptCommands::SetBase},
       {"sql", "sql \"...\"", 1, 1, &ScriptCommands::RunSql},
@@ -81,12 +39,6 @@ const std::vector<ScriptCommands::Command>& ScriptCommands::Commands() {
       {"respuesta", "respuesta aceptar|si|no|cancelar", 1, 1, &ScriptCommands::QueueAnswer},
       {"puesto", "puesto reconectar|cerrar", 1, 1, &ScriptCommands::QueuePanel},
       {"sesion", "sesion SUC PUESTO TURNO o sesion cancelar", 1, 3, &ScriptCommands::QueueSession},
-      {"clic", "clic CONTROL [FILA COL] o clic Barra1 minimizar|cerrar", 1, 3, &ScriptCommands::Click},
-      {"dobleclic", "dobleclic CONTROL [FILA COL]", 1, 3, &ScriptCommands::DoubleClick},
-      {"dia", "dia 2026-11-20", 1, 1, &ScriptCommands::ClickDay},
-      {"teclas", "teclas \"texto\"", 1, 1, &ScriptCommands::Type},
-      {"tecla", "tecla NOMBRE", 1, 1, &ScriptCommands::Key},
-      {"foco", "foco CONTROL", 1, 1, &ScriptCommands::Focus},
       {"fallo", "fallo update|open N NUMERO \"texto\"", 4, 4, &ScriptCommands::Fail},
       {"mostrar", "mostrar lineas|foto|foco|mensajes|sentencias|biblioteca|CONTROL.PROPIEDAD", 1, 1,
        &ScriptCommands::Show},
@@ -97,22 +49,24 @@ const std::vector<ScriptCommands::Command>& ScriptCommands::Commands() {
 }
 
 ScriptCommands::ScriptCommands(const Options& options, std::ostream& output, SavePicture save_picture,
-                               std::filesystem::path folder, const MakeScriptWindows& make_windows)
+                               std::filesystem::path folder, const MakeScriptWindows& make_windows,
+                               const WrapScriptLibrary& wrap_library)
     : output_(output),
       save_picture_(std::move(save_picture)),
       folder_(std::move(folder)),
-      world_(options, make_windows) {
+      world_(options, make_windows, wrap_library) {
+  world_.windows->Host().Replay(&desktop_);
   world_.windows->OnReport([this](const RuntimeError& error) { PrintError(error); });
 }
 
 void ScriptCommands::Execute(const std::vector<std::string>& words) {
-  if (words.empty()) return;
+  if (words.empty() || actions_.Execute(words)) return;
+  const std::shared_ptr<FrmOrvendalciales> open_screen = world_.Screen();
+  if (open_screen && PutScreenState(*open_screen, world_.Session(), words)) return;
   for (const Command& command : Commands()) {
     if (command.name != words.front()) continue;
     const Words arguments(words.begin() + 1, words.end());
-    if (arguments.size() < command.least || arguments.size() > command.most) {
-      throw ScriptStop(std::string("se escribe: ") + command.usage);
-    }
+    CheckWords(arguments, command.least, command.most, command.usage);
     (this->*command.run)(arguments);
     return;
   }
@@ -120,7 +74,14 @@ void ScriptCommands::Execute(const std::vector<std::string>& words) {
 }
 
 void ScriptCommands::SetClock(const Words& words) {
-  world_.clock.Set(MomentOf(words.size() == 2 ? words[0] + " " + words[1] : words[0]));
+  Words moment = words;
+  int readings = 0;
+  if (moment.size() > 2) {
+    if (moment[moment.size() - 2] != "tras") throw ScriptStop("se escribe: reloj 2026-11-16 10:30:00 tras 3");
+    readings = PositiveNumber(moment.back());
+    moment.resize(moment.size() - 2);
+  }
+  world_.clock.SetAfter(readings, MomentOf(moment.size() == 2 ? moment[0] + " " + moment[1] : moment[0]));
 }
 
 void ScriptCommands::CheckNoScreen(const char* command) const {
@@ -222,47 +183,13 @@ void ScriptCommands::QueueSession(const Words& words) {
   }
 }
 
-void ScriptCommands::Click(const Words& words) {
-  ClickPlace(words, ScriptHands::Clicks::kOne);
-}
-void ScriptCommands::DoubleClick(const Words& words) {
-  ClickPlace(words, ScriptHands::Clicks::kTwo);
-}
-
-void ScriptCommands::ClickPlace(const Words& words, ScriptHands::Clicks clicks) {
-  UseHands([&](ScriptHands& hands) {
-    if (words.size() == 1) {
-      hands.Click(words[0], clicks);
-    } else if (words.size() == 3) {
-      hands.ClickCell(words[0], WholeNumber(words[1]), WholeNumber(words[2]), clicks);
-    } else if (clicks == ScriptHands::Clicks::kOne) {
-      hands.ClickButtonOf(words[0], words[1]);
-    } else {
-      throw ScriptStop("se escribe: dobleclic CONTROL [FILA COL]");
-    }
-  });
-}
-
-void ScriptCommands::ClickDay(const Words& words) {
-  const Date day = MomentOf(words[0]).DayOnly();
-  UseHands([day](ScriptHands& hands) { hands.ClickDay(day); });
-}
-
-void ScriptCommands::Type(const Words& words) {
-  UseHands([&](ScriptHands& hands) { hands.Type(words[0]); });
-}
-
-void ScriptCommands::Key(const Words& words) {
-  UseHands([&](ScriptHands& hands) { hands.Key(words[0]); });
-}
-
-void ScriptCommands::Focus(const Words& words) {
-  UseHands([&](ScriptHands& hands) { hands.Focus(words[0]); });
-}
-
 void ScriptCommands::Fail(const Words& words) {
-  const int nth = PositiveNumber(words[1]);
   const int number = WholeNumber(words[2]);
+  if (words[0] == "biblioteca") {
+    world_.Dialogs().FailNext(words[1], RuntimeError(number, words[3]));
+    return;
+  }
+  const int nth = PositiveNumber(words[1]);
   if (words[0] == "update") {
     world_.recordsets.FailUpdate(nth, number, words[3]);
   } else if (words[0] == "open") {
@@ -311,13 +238,6 @@ void ScriptCommands::TakePicture(const Words& words) {
   } catch (const NoPlaceForPicture& reason) {
     throw ScriptStop(reason.what());
   }
-}
-
-// The screen may unload itself in the middle of a gesture; it lives to its end.
-void ScriptCommands::UseHands(const std::function<void(ScriptHands& hands)>& act) {
-  const std::shared_ptr<FrmOrvendalciales> screen = Screen();
-  ScriptHands hands(*screen, world_.windows->Input());
-  act(hands);
 }
 
 std::shared_ptr<FrmOrvendalciales> ScriptCommands::Screen() const {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "host/script/hands.h"
+#include "host/script/script_actions.h"
 #include "host/script/world.h"
 
 namespace orvendal {
@@ -20,11 +20,14 @@ class ScriptCommands {
   /// `options` and `output` outlive the object. An empty `save_picture` refuses pictures; `folder` is the
   /// script's own, empty for none.
   ScriptCommands(const Options& options, std::ostream& output, SavePicture save_picture,
-                 std::filesystem::path folder, const MakeScriptWindows& make_windows = MakeHeadlessWindows);
+                 std::filesystem::path folder, const MakeScriptWindows& make_windows = MakeHeadlessWindows,
+                 const WrapScriptLibrary& wrap_library = {});
 
   /// Runs one line's words; none do nothing. Raises ScriptStop, and what comes out of a dialog that nobody
   /// answers.
   void Execute(const std::vector<std::string>& words);
+
+  ScriptWorld& World() { return world_; }
 
  private:
   using Words = std::vector<std::string>;  // without the command
@@ -47,19 +50,11 @@ class ScriptCommands {
   void QueueAnswer(const Words& words);
   void QueuePanel(const Words& words);
   void QueueSession(const Words& words);
-  void Click(const Words& words);
-  void DoubleClick(const Words& words);
-  void ClickDay(const Words& words);
-  void Type(const Words& words);
-  void Key(const Words& words);
-  void Focus(const Words& words);
   void Fail(const Words& words);
   void Show(const Words& words);
   void Expect(const Words& words);
   void TakePicture(const Words& words);
 
-  void ClickPlace(const Words& words, ScriptHands::Clicks clicks);
-  void UseHands(const std::function<void(ScriptHands& hands)>& act);
   std::shared_ptr<FrmOrvendalciales> Screen() const;
   void CheckNoScreen(const char* command) const;
   void Print(const std::string& line) { output_ << line << '\n'; }
@@ -70,7 +65,9 @@ class ScriptCommands {
   std::ostream& output_;
   SavePicture save_picture_;
   std::filesystem::path folder_;
+  ScriptDesktop desktop_;
   ScriptWorld world_;
+  ScriptActions actions_{[this] { return Screen(); }, world_.windows->Input(), desktop_};
 };
 
 }  // namespace orvendal

@@ -1,7 +1,6 @@
 #include "host/script/hands.h"
 
-#include <map>
-
+#include "host/script/key_names.h"
 #include "host/script/parser.h"
 #include "host/script/show.h"
 #include "platform/base/text.h"
@@ -10,39 +9,9 @@
 namespace orvendal {
 namespace {
 
-constexpr int kEndOfNames = -1;
-
-int KeyNamed(const std::string& name) {
-  static const std::map<std::string, int> keys = {
-      {"Enter", key::kReturn},   {"Esc", key::kEscape},     {"Tab", key::kTab},
-      {"Retroceso", key::kBack}, {"Supr", key::kDelete},    {"Insertar", key::kInsert},
-      {"Izquierda", key::kLeft}, {"Derecha", key::kRight},  {"Arriba", key::kUp},
-      {"Abajo", key::kDown},     {"Inicio", key::kHome},    {"Fin", key::kEnd},
-      {"RePag", key::kPageUp},   {"AvPag", key::kPageDown},
-  };
-  const auto found = keys.find(name);
-  if (found != keys.end()) return found->second;
-  for (int number = 1; number <= key::kF12 - key::kF1 + 1; ++number) {
-    if (name == "F" + std::to_string(number)) return key::kF1 + number - 1;
-  }
-  return kEndOfNames;
-}
-
-int TakeModifiers(std::string& name) {
-  static const std::map<std::string, int> modifiers = {
-      {"Mayus+", shift_mask::kShift}, {"Ctrl+", shift_mask::kControl}, {"Alt+", shift_mask::kAlt}};
-  int shift = 0;
-  for (bool found = true; found;) {
-    found = false;
-    for (const auto& [modifier, mask] : modifiers) {
-      if (!name.starts_with(modifier)) continue;
-      shift |= mask;
-      name.erase(0, modifier.size());
-      found = true;
-    }
-  }
-  return shift;
-}
+// Milliseconds between two keys of a hand, and of a bar-code reader.
+constexpr int kPause = 500;
+constexpr int kReader = 10;
 
 Point MiddleOf(const Control& control, const Rect& part) {
   const Rect bounds = control.Bounds();
@@ -107,27 +76,40 @@ void ScriptHands::ClickDay(Date day) {
   robot_.ClickDay(calendar, day);
 }
 
-void ScriptHands::Type(const std::string& text) {
-  CheckWindow();
-  CheckFocus();
-  robot_.Type(text);
+void ScriptHands::ClickLetter(const std::string& name, int position, Clicks clicks) {
+  const Control& control = Usable(name);
+  const auto* box = dynamic_cast<const TextBox*>(&control);
+  if (box == nullptr) throw ScriptStop(control.FullName() + " no tiene letras");
+  const Rect bounds = box->Bounds();
+  const Point local = box->PlaceOf(position);
+  const Point place{bounds.left + local.x, bounds.top + local.y};
+  CheckReach(control, place);
+  if (clicks == Clicks::kOne) {
+    robot_.ClickAt(place);
+  } else {
+    robot_.DoubleClickAt(place);
+  }
 }
 
-void ScriptHands::Key(const std::string& name) {
-  std::string plain = name;
-  const int shift = TakeModifiers(plain);
-  const bool is_character = Len(plain) == 1;
-  int code = KeyNamed(plain);
-  if (code == kEndOfNames && is_character && plain[0] > ' ') {
-    const char upper =
-        plain[0] >= 'a' && plain[0] <= 'z' ? static_cast<char>(plain[0] - 'a' + 'A') : plain[0];
-    const bool has_letter = upper >= 'A' && upper <= 'Z';
-    if ((shift & (shift_mask::kControl | shift_mask::kAlt)) != 0 && has_letter) code = upper;
-  }
-  if (code == kEndOfNames) throw ScriptStop("no existe la tecla " + name);
+void ScriptHands::Type(const std::string& text, std::optional<int> milliseconds) {
   CheckWindow();
   CheckFocus();
-  robot_.Key(code, shift);
+  robot_.TypeAfter(milliseconds.value_or(kPause), kReader, text);
+}
+
+void ScriptHands::Write(const std::string& text) {
+  CheckWindow();
+  CheckFocus();
+  robot_.TypeAfter(kPause, kPause, text);
+}
+
+void ScriptHands::Key(const std::string& name, std::optional<int> milliseconds,
+                      std::optional<char32_t> character) {
+  const std::optional<NamedKey> key = KeyNamed(name);
+  if (!key) throw ScriptStop("no existe la tecla " + name);
+  CheckWindow();
+  CheckFocus();
+  robot_.KeyAfter(milliseconds.value_or(kPause), key->code, key->shift, character);
 }
 
 void ScriptHands::Focus(const std::string& name) {

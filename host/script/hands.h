@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "adapters/headless/robot.h"
@@ -25,9 +26,16 @@ class ScriptHands {
   void ClickButtonOf(const std::string& name, const std::string& button);
   /// That day in the open calendar, turning months as needed.
   void ClickDay(Date day);
-  void Type(const std::string& text);
-  /// One key by its name in the script, such as "Ctrl+Inicio".
-  void Key(const std::string& name);
+  /// Where a press on a text box leaves the caret, counted in characters from 0.
+  void ClickLetter(const std::string& name, int position, Clicks clicks);
+  /// As fast as a bar-code reader, after a pause or so many milliseconds after the key before.
+  void Type(const std::string& text, std::optional<int> milliseconds = std::nullopt);
+  /// As a hand does, with a pause before each key.
+  void Write(const std::string& text);
+  /// One key by its name in the script, such as "Ctrl+Inicio", after a pause or so many milliseconds after
+  /// the key before. `character` in place of the one that the key stands for, 0 for none.
+  void Key(const std::string& name, std::optional<int> milliseconds = std::nullopt,
+           std::optional<char32_t> character = std::nullopt);
   /// The focus goes there as by the Tab key, whether or not Tab stops there.
   void Focus(const std::string& name);
 

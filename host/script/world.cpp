@@ -45,12 +45,15 @@ class ScriptWorld::Messages final : public MessagePresenter {
   ScriptWorld& world_;
 };
 
-ScriptWorld::ScriptWorld(const Options& options, const MakeScriptWindows& make_windows)
+ScriptWorld::ScriptWorld(const Options& options, const MakeScriptWindows& make_windows,
+                         const WrapScriptLibrary& wrap_library)
     : windows(make_windows(*options.region, clock)),
       options_(options),
       messages_(std::make_unique<Messages>(*this)),
       context_(ContextFor(options, windows->Host(), *messages_, library_recordsets_)),
-      dictionaries_(MakeDictionaries(options.language)) {
+      dictionaries_(MakeDictionaries(options.language)),
+      wrapped_library_(wrap_library ? wrap_library(library_, windows->Host(), clock) : nullptr),
+      state_(Environment{windows->Host(), recordsets, wrapped_library_ ? *wrapped_library_ : library_}) {
   context_.store_name = options.store.value_or(kStoreInMemory);
   if (options.display) windows->SetScreen(options.display->width, options.display->height);
   library_.OpenOwnDialogs([this](const std::string& operation) { AnswerDialog(operation); });

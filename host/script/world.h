@@ -12,11 +12,16 @@
 #include "host/library/stand_in_library.h"
 #include "host/sample/session.h"
 #include "host/script/observed_recordsets.h"
+#include "host/script/script_clock.h"
 #include "host/script/script_windows.h"
 #include "host/script/scripted_library.h"
 #include "host/store/host_store.h"
 
 namespace orvendal {
+
+/// Something around the library of a script, on the script's host and clock.
+using WrapScriptLibrary =
+    std::function<std::unique_ptr<Library>(Library& library, WindowHost& host, Clock& clock)>;
 
 /// Everything around the component that a script drives: windows, a clock that stands, the store, and the
 /// stand-in library with its dialogs answered beforehand.
@@ -26,7 +31,10 @@ namespace orvendal {
 class ScriptWorld {
  public:
   /// `options` outlives the object.
-  ScriptWorld(const Options& options, const MakeScriptWindows& make_windows);
+  /// `wrap_library`, if there is one, gives what the component uses in place of the library that it is
+  /// handed; both outlive the world's component.
+  ScriptWorld(const Options& options, const MakeScriptWindows& make_windows,
+              const WrapScriptLibrary& wrap_library = {});
   ~ScriptWorld();
   ScriptWorld(const ScriptWorld&) = delete;
   ScriptWorld& operator=(const ScriptWorld&) = delete;
@@ -50,11 +58,12 @@ class ScriptWorld {
     session_answers_.push_back(std::move(choice));
   }
 
-  const DatosComunes& Session() const { return state_.session; }
+  DatosComunes& Session() { return state_.session; }
+  ComponentState& State() { return state_; }
   HostContext& Context() { return context_; }
   ScriptedLibrary& Dialogs() { return library_; }
 
-  FixedClock clock{Date(2026, 11, 16, 10, 30, 0)};
+  ScriptClock clock{Date(2026, 11, 16, 10, 30, 0)};
   const std::unique_ptr<ScriptWindows> windows;
   ObservedRecordsetFactory recordsets{std::make_shared<SqliteRecordsetFactory>()};
 
@@ -72,7 +81,8 @@ class ScriptWorld {
   const Dictionaries dictionaries_;
   StandInLibrary stand_in_{context_};
   ScriptedLibrary library_{stand_in_, windows->Host()};
-  ComponentState state_{Environment{windows->Host(), recordsets, library_}};
+  std::unique_ptr<Library> wrapped_library_;
+  ComponentState state_;
   std::deque<bool> panel_answers_;
   std::deque<std::optional<SessionChoice>> session_answers_;
 };

@@ -68,6 +68,8 @@ void Form::SizeWasChanged() {
 
 void Form::WindowState(enum WindowState state) {
   if (state == window_state_) return;
+  // The desktop minimises a window, and brings it back, in a call of its own.
+  const ObservedInput observed(*this, {.kind = InputEvent::Kind::kState, .position = {}, .state = state});
   window_state_ = state;
   LayOutAligned();
   if (window_) window_->StateChanged(state);

@@ -102,6 +102,8 @@ class Form : public Object {
   void Character(char32_t character);
   void KeyRelease(int key_code, int shift);
   void CloseRequest();
+  /// The control that holds the mouse from a press to its release; nullptr for none, and for the form itself.
+  Control* MouseHolder() const { return gesture_.pressed ? gesture_.target : nullptr; }
   /// A character for `target` that no key stands behind: what is chosen from a menu passes its filters too.
   void SendCharacter(Control& target, int character);
   void TimerElapsed(Timer& timer);
@@ -146,6 +148,8 @@ class Form : public Object {
   void SizeWasChanged();
   void LayOutAligned();
   void UpdateCaret();
+  void TakeCharacter(char32_t character);
+  void TakeCloseRequest();
 
   // Focus (form_focus.cpp).
   void MoveFocus(Control* target);

@@ -70,6 +70,11 @@ void Form::EndGesture() {
 
 void Form::MousePress(Point position, int button, int shift, bool second_of_double) {
   if (!host_.TakesInput(*this)) return;
+  const ObservedInput observed(*this, {.kind = InputEvent::Kind::kPress,
+                                       .position = position,
+                                       .button = button,
+                                       .shift = shift,
+                                       .is_second = second_of_double});
   host_.input_form_ = this;
   // The button that counts as held goes down: its release went elsewhere.
   if (gesture_.pressed && button == gesture_.button) EndGesture();
@@ -127,6 +132,13 @@ void Form::PressSecondOfDouble(Control* target, Point position, int button, int 
 
 void Form::MouseMove(Point position, int buttons, int shift) {
   if (!host_.TakesInput(*this)) return;
+  // Without a button held the pointer only takes its shape; nobody looks on at that.
+  std::optional<ObservedInput> observed;
+  if (gesture_.pressed && host_.Observer() != nullptr) {
+    observed.emplace(
+        *this,
+        InputEvent{.kind = InputEvent::Kind::kMove, .position = position, .button = buttons, .shift = shift});
+  }
   Dispatch([&] {
     Control* target = gesture_.pressed ? gesture_.target : ControlAt(position);
     if (window_) {
@@ -143,6 +155,8 @@ void Form::MouseMove(Point position, int buttons, int shift) {
 
 void Form::MouseRelease(Point position, int button, int shift) {
   if (!host_.TakesInput(*this)) return;
+  const ObservedInput observed(
+      *this, {.kind = InputEvent::Kind::kRelease, .position = position, .button = button, .shift = shift});
   const auto release = [&] {
     if (!gesture_.pressed || button != gesture_.button) return;
     gesture_.pressed = false;
@@ -174,6 +188,10 @@ void Form::Release(Control* target, Point position, int button, int shift) {
 
 void Form::MouseWheel(Point position, double lines, double lines_of_a_notch) {
   if (!host_.TakesInput(*this) || lines_of_a_notch <= 0) return;
+  const ObservedInput observed(*this, {.kind = InputEvent::Kind::kWheel,
+                                       .position = position,
+                                       .lines = lines,
+                                       .lines_of_a_notch = lines_of_a_notch});
   Dispatch([&] {
     std::vector<Control*> hits;
     CollectAt(nullptr, position, hits);
@@ -192,10 +210,12 @@ void Form::MouseWheel(Point position, double lines, double lines_of_a_notch) {
 
 void Form::KeyPress(int key_code, int shift) {
   if (!host_.TakesInput(*this)) return;
+  const ObservedInput observed(
+      *this, {.kind = InputEvent::Kind::kKeyDown, .position = {}, .shift = shift, .key_code = key_code});
   host_.input_form_ = this;
   if (key_code == key::kF4 && (shift & shift_mask::kAlt) != 0) {
     character_swallowed_ = true;
-    CloseRequest();
+    TakeCloseRequest();
     return;
   }
   const ObjectRef self = shared_from_this();  // a handler may let the form go, and more follows
@@ -217,12 +237,19 @@ void Form::KeyPress(int key_code, int shift) {
     if (target->KeyDownDefault(code, shift)) character_swallowed_ = true;
   });
   // The clipboard's older keys mean the same as the letters, and pass the same filters.
-  if (key_code == key::kInsert && shift == shift_mask::kShift) Character(character::kPaste);
-  if (key_code == key::kInsert && shift == shift_mask::kControl) Character(character::kCopy);
-  if (key_code == key::kDelete && shift == shift_mask::kShift) Character(character::kCut);
+  if (key_code == key::kInsert && shift == shift_mask::kShift) TakeCharacter(character::kPaste);
+  if (key_code == key::kInsert && shift == shift_mask::kControl) TakeCharacter(character::kCopy);
+  if (key_code == key::kDelete && shift == shift_mask::kShift) TakeCharacter(character::kCut);
 }
 
 void Form::Character(char32_t character) {
+  if (!host_.TakesInput(*this)) return;
+  const ObservedInput observed(
+      *this, {.kind = InputEvent::Kind::kCharacter, .position = {}, .character = character});
+  TakeCharacter(character);
+}
+
+void Form::TakeCharacter(char32_t character) {
   if (!host_.TakesInput(*this)) return;
   host_.Keys().Add(character, host_.InputTime());
   Dispatch([&] {
@@ -241,12 +268,14 @@ void Form::Character(char32_t character) {
 void Form::SendCharacter(Control& target, int character) {
   key_target_ = &target;
   character_swallowed_ = false;
-  Character(static_cast<char32_t>(character));
+  TakeCharacter(static_cast<char32_t>(character));
   key_target_ = nullptr;
 }
 
 void Form::KeyRelease(int key_code, int shift) {
   if (!host_.TakesInput(*this)) return;
+  const ObservedInput observed(
+      *this, {.kind = InputEvent::Kind::kKeyUp, .position = {}, .shift = shift, .key_code = key_code});
   Dispatch([&] {
     const std::uint64_t life = life_;
     Control* target = active_control_;
@@ -261,6 +290,11 @@ void Form::KeyRelease(int key_code, int shift) {
 
 void Form::CloseRequest() {
   if (!host_.TakesInput(*this)) return;
+  const ObservedInput observed(*this, {.kind = InputEvent::Kind::kClose, .position = {}});
+  TakeCloseRequest();
+}
+
+void Form::TakeCloseRequest() {
   Dispatch([&] {
     if (OnCloseRequest) {
       OnCloseRequest();

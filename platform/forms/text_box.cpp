@@ -144,6 +144,12 @@ std::size_t TextBox::PositionAt(double x, double origin) const {
   return low;
 }
 
+Point TextBox::PlaceOf(int position) const {
+  const double x =
+      TextOrigin() + OffsetOf(std::min(static_cast<std::size_t>(std::max(position, 0)), length_));
+  return {std::clamp(x, 0.0, std::max(0.0, Width() - kTwipsPerPixel)), Height() / 2};
+}
+
 std::size_t TextBox::CharacterAt(double x) const {
   const double origin = TextOrigin();
   const std::size_t boundary = PositionAt(x, origin);

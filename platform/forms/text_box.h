@@ -56,6 +56,9 @@ class TextBox final : public Control {
   CursorShape Cursor(Point local) const override;
   /// The end of the selection that the keyboard moves.
   int CaretPosition() const { return static_cast<int>(caret_); }
+  /// The position that a press at `local` means, and a place whose press means it, as the text stands now.
+  int PositionOf(Point local) const { return static_cast<int>(PositionAt(local.x, TextOrigin())); }
+  Point PlaceOf(int position) const;
 
  protected:
   ControlProperties DefaultProperties() const override;

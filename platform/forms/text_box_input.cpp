@@ -243,7 +243,7 @@ void TextBox::OpenMenu(Point local) {
   std::optional<EditCommand> chosen;
   {
     const ModalScope menu_is_up(Host());
-    chosen = Host().RunEditMenu(Parent(), {bounds.left + local.x, bounds.top + local.y}, menu);
+    chosen = Host().ChooseFromEditMenu(Parent(), {bounds.left + local.x, bounds.top + local.y}, menu);
   }
   if (!chosen || !Parent().IsLoaded() || !HasFocus()) return;
   switch (*chosen) {

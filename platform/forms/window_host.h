@@ -14,6 +14,7 @@
 #include "platform/forms/edit_menu.h"
 #include "platform/forms/font.h"
 #include "platform/forms/geometry.h"
+#include "platform/forms/input_observer.h"
 #include "platform/forms/key_run.h"
 #include "platform/forms/text_measures.h"
 
@@ -109,7 +110,14 @@ class WindowHost : public TextMeasures {
   /// any handler hears of them.
   KeyRun& Keys() { return keys_; }
   /// What a paste brings: the clipboard's text, or the selected one while the middle button pastes.
-  std::string PastedText() { return pastes_selection_ ? SelectedText() : ClipboardText(); }
+  std::string PastedText();
+  /// Runs the menu of a text box, see RunEditMenu.
+  std::optional<EditCommand> ChooseFromEditMenu(Form& form, Point place, const EditMenu& menu);
+
+  /// Who looks on, and who stands in for the desktop; nullptr for nobody. Both outlive being named here.
+  void Observe(InputObserver* observer) { observer_ = observer; }
+  InputObserver* Observer() const { return observer_; }
+  void Replay(InputReplay* replay) { replay_ = replay; }
   Rgb Resolve(ColorWord color) {
     return RgbOf(IsSystemColor(color) ? SystemColor(SystemColorIndex(color)) : color);
   }
@@ -118,6 +126,9 @@ class WindowHost : public TextMeasures {
   friend class Form;
   friend class ModalScope;
   friend class SelectionPaste;
+  friend class ObservedInput;
+  friend class UnobservedInput;
+  bool IsObserved() const { return observer_ != nullptr && observed_events_ > 0 && unobserved_ == 0; }
   Form* active_form_ = nullptr;
   Form* input_form_ = nullptr;  // that a key or a press came to last
   bool pastes_selection_ = false;
@@ -125,6 +136,11 @@ class WindowHost : public TextMeasures {
   std::uint64_t modal_serial_ = 0;
   std::uint64_t input_time_ = 0;
   KeyRun keys_;
+  InputObserver* observer_ = nullptr;
+  InputReplay* replay_ = nullptr;
+  int observed_events_ = 0;  // one inside the other
+  int unobserved_ = 0;
+  const class ModalScope* observed_dialog_ = nullptr;  // that the outermost event came to
 };
 
 /// A modal dialog is up from construction to destruction. It ends the gesture in hand, whoever opened it: the

@@ -82,6 +82,16 @@ TEST_F(Script, UnknownCommandsAndWrongArgumentsStopIt) {
   EXPECT_EQ(StopAt("sesion 01 1"), "se escribe: sesion SUC PUESTO TURNO o sesion cancelar");
 }
 
+TEST_F(Script, NumbersThatNoScreenCanTakeStopIt) {
+  EXPECT_EQ(StopAt("lineas 2000000000"), "una pantalla tiene como mucho 1000000 filas");
+  EXPECT_EQ(StopAt("pon MSFProductos.Rows 100000000"), "no existe la propiedad MSFProductos.Rows");
+  EXPECT_EQ(StopAt("raton pulsa MSFProductos nan 1"), "«nan» no es un número");
+  EXPECT_EQ(StopAt("rueda MSFProductos 1 1 1e300"), "«1e300» no es un número");
+  EXPECT_EQ(StopAt("rueda MSFProductos 1 1 900000000 1"),
+            "se escribe: rueda CONTROL X Y LINEAS [LINEAS_DE_UNA_MUESCA]");
+  EXPECT_EQ(StopAt("tecla Enter car1114112"), "no existe el carácter car1114112");
+}
+
 TEST_F(Script, DatesThatAreNoneStopIt) {
   for (const char* date :
        {"16/11/2026", "2026-02-30", "2026-11-16T10:30", "\"2026-11-16 25:00:00\"", "hoy"}) {
