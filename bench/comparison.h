@@ -76,5 +76,6 @@ void AddEntry(Comparison& comparison);
 void AddPainting(Comparison& comparison);
 void AddMemory(Comparison& comparison);
 void AddStart(Comparison& comparison);
+void AddRecording(Comparison& comparison);
 
 }  // namespace orvendal::bench

@@ -21,5 +21,6 @@ int main(int argument_count, char** arguments) {
   AddPainting(comparison);
   AddMemory(comparison);
   AddStart(comparison);
+  AddRecording(comparison);
   return comparison.Run(argument_count, arguments);
 }

@@ -36,6 +36,7 @@ void FrmOrvendalciales::CargarExistencias() {
   }
   variables.lines_not_whole = false;
   variables.day_of_lines = Calendario.Value();
+  ++variables.loads;
   PlaceEditorAnew();  // an editor that stayed open shows what its cell holds now
 }
 

@@ -97,9 +97,10 @@ class FrmOrvendalciales final : public Form {
     std::uint8_t UltimaColumna = 0;
     bool CargandoLineas = false;  // a load runs: the open editor is not to write into the lines
     bool lines_not_whole =
-        false;           // a load failed and took lines away: a save would take them out of the store
-    Date day_of_lines;   // of the last load that came to its end
-    int editor_row = 0;  // the cell over which the editor was placed last
+        false;                // a load failed and took lines away: a save would take them out of the store
+    Date day_of_lines;        // of the last load that came to its end
+    std::uint64_t loads = 0;  // that came to their end
+    int editor_row = 0;       // the cell over which the editor was placed last
     int editor_column = 0;
   };
   Variables variables;

@@ -126,6 +126,9 @@ class Reader {
     if (offered.picture) {
       picture_option_ = Add("--captura", options.picture, words.value_picture, words.help_picture, nullptr);
     }
+    if (offered.record) {
+      record_option_ = Add("--grabar", options.record, words.value_file, words.help_record, nullptr);
+    }
     Describe("-h, --help", {}, words.help_help, &Words::help_help);
     for (const Command& command : commands_) AddCommand(command);
   }
@@ -280,6 +283,7 @@ class Reader {
     }
     RefuseEmpty(store_option_, typed_.store);
     if (picture_option_ != nullptr) RefuseEmpty(picture_option_, options.picture);
+    if (record_option_ != nullptr) RefuseEmpty(record_option_, options.record);
     if (store_option_->count() > 0) options.store = typed_.store;
   }
 
@@ -315,6 +319,7 @@ class Reader {
   std::vector<Description> descriptions_;
   CLI::Option* store_option_ = nullptr;
   CLI::Option* picture_option_ = nullptr;
+  CLI::Option* record_option_ = nullptr;
   Typed typed_;
   CommandLine line_;
 };

@@ -41,6 +41,7 @@ struct OfferedOptions {
   bool region = true;
   bool display = true;
   bool picture = true;
+  bool record = true;
 };
 
 /// Reads the words after the program's name. Help and errors are in the language asked for, else in

@@ -28,6 +28,7 @@ struct Options {
   bool create = false;  // the store named may be made
   Dialect dialect = Dialect::kSqlServer;
   std::string picture;  // empty: open a window
+  std::string record;   // the file that the session is recorded into; empty: none
 };
 
 }  // namespace orvendal

@@ -18,6 +18,7 @@
 #include "host/ending/start_error.h"
 #include "host/error_words.h"
 #include "host/library/stand_in_library.h"
+#include "host/recording/program_recording.h"
 #include "host/sample/chosen_store.h"
 #include "host/sample/session.h"
 #include "host/script/day_lines.h"
@@ -43,6 +44,21 @@ class MachineClock final : public Clock {
     return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday,
             local.tm_hour,        local.tm_min,     std::min(local.tm_sec, 59)};
   }
+};
+
+// Errors are told only to somebody who has made them.
+class ProgramHost final : public QtWindowHost {
+ public:
+  using QtWindowHost::QtWindowHost;
+  void BeQuiet(bool quiet) { quiet_ = quiet; }
+
+ protected:
+  void TellError(const RuntimeError& error) override {
+    if (!quiet_) QtWindowHost::TellError(error);
+  }
+
+ private:
+  bool quiet_ = false;
 };
 
 // A message box in front of the screen.
@@ -86,13 +102,14 @@ class Program {
   Program(const Options& options, const Words& words)
       : options_(options),
         words_(words),
-        host_(*options.region, clock_, HostOptions()),
+        host_(*options.region, recorded_clock_, HostOptions()),
         boxes_(host_),
         context_(ContextFor(options, host_,
                             options.picture.empty() ? static_cast<MessagePresenter&>(boxes_) : written_,
                             recordsets_)),
         library_(context_),
-        state_({host_, recordsets_, library_}) {}
+        recorded_library_(library_, host_),
+        state_({host_, recordsets_, recorded_library_}) {}
 
   /// Says on standard error which store it is. Raises StoreUnavailable.
   void OpenStore(const ChosenStore& chosen) {
@@ -105,11 +122,24 @@ class Program {
     if (opened.sample) QApplication::setApplicationDisplayName(TextOf(words_.sample_title));
   }
 
+  /// What is done from here on is written down, and what was not saved last time is asked for. Raises
+  /// RuntimeError, in the user's words.
+  void BeginRecording() {
+    recording_.emplace(
+        RecordedProgram{options_, words_, recorded_clock_, context_, library_, recorded_library_, state_,
+                        [this](bool quiet) { host_.BeQuiet(quiet); },
+                        [](const std::string& sentence) { std::cerr << ErrorLine(sentence); }});
+    if (!options_.record.empty()) recording_->RecordInto(options_.record);
+    if (options_.picture.empty()) recording_->KeepWork();
+  }
+
   /// Raises what the component's call raises.
   void CallComponent() {
-    ClassOrvendal component(state_);
-    component.Orvendal(std::make_shared<SampleSession>(context_, MakeDictionaries(options_.language)),
-                       options_.sucursal, options_.puesto, options_.turno);
+    recording_->Call([this] {
+      ClassOrvendal component(state_);
+      component.Orvendal(std::make_shared<SampleSession>(context_, MakeDictionaries(options_.language)),
+                         options_.sucursal, options_.puesto, options_.turno);
+    });
   }
 
   const std::string& StoreName() const { return context_.store_name; }
@@ -159,13 +189,16 @@ class Program {
   const Options& options_;
   const Words& words_;
   MachineClock clock_;
+  RecordedClock recorded_clock_{clock_};
   SqliteRecordsetFactory recordsets_;
-  QtWindowHost host_;
+  ProgramHost host_;
   BoxMessages boxes_;
   WrittenMessages written_;
   HostContext context_;
   StandInLibrary library_;
+  RecordedLibrary recorded_library_;
   ComponentState state_;
+  std::optional<ProgramRecording> recording_;
 };
 
 }  // namespace
@@ -215,6 +248,11 @@ int RunProgram(const Options& options, const char* program_name) {
   const auto run = [&] {
     Program program(options, words);
     program.OpenStore(chosen);
+    try {
+      program.BeginRecording();
+    } catch (const RuntimeError& error) {
+      return fail(error.Description());
+    }
     try {
       program.CallComponent();
     } catch (const StoreUnavailable&) {

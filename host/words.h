@@ -112,15 +112,24 @@ struct Words {
   std::string_view part_missing;  // %1 is the file
   std::string_view no_display;
   std::string_view picture_not_written;  // %1 is the file
-  std::string_view unknown_option;       // %1
-  std::string_view unexpected_word;      // %1
-  std::string_view value_missing;        // %1 is the option
-  std::string_view argument_missing;     // %1 is the command, %2 what it lacks
-  std::string_view bad_value;            // %1 is the option, %2 the value, %3 what it takes
-  std::string_view value_not_taken;      // %1 is the option
-  std::string_view option_not_for;       // %1 is the option, %2 the command
-  std::string_view see_help;             // %1 is what to type
-  std::string_view unexpected_error;     // %1 is what is known of it
+
+  // What is recorded of the user, and brought back; %1 is the file and %2 what the system says.
+  std::string_view record_not_made;
+  std::string_view record_cut;
+  std::string_view work_not_kept;
+  std::string_view unsaved_work_found;  // in the branch %1, written last at %2
+  std::string_view day_changed_meanwhile;
+  std::string_view bring_work_back;    // it is put into %1 otherwise
+  std::string_view work_not_all_back;  // all of it is in %1
+  std::string_view unknown_option;     // %1
+  std::string_view unexpected_word;    // %1
+  std::string_view value_missing;      // %1 is the option
+  std::string_view argument_missing;   // %1 is the command, %2 what it lacks
+  std::string_view bad_value;          // %1 is the option, %2 the value, %3 what it takes
+  std::string_view value_not_taken;    // %1 is the option
+  std::string_view option_not_for;     // %1 is the option, %2 the command
+  std::string_view see_help;           // %1 is what to type
+  std::string_view unexpected_error;   // %1 is what is known of it
   std::string_view no_memory;
   std::string_view output_lost;
 
@@ -150,6 +159,7 @@ struct Words {
   std::string_view help_store;
   std::string_view help_dialect;
   std::string_view help_picture;
+  std::string_view help_record;
   std::string_view help_script;
   std::string_view help_create;
   std::string_view help_help;

@@ -138,6 +138,23 @@ const Words& CatalanWords() {
       .part_missing = "No es pot carregar %1. Ha de ser a la mateixa carpeta que el programa.",
       .no_display = "No hi ha pantalla. Amb --captura FITXER.png es desa una imatge sense pantalla.",
       .picture_not_written = "No es pot escriure la imatge %1.",
+      .record_not_made =
+          "No es pot fer el fitxer %1 per a l’enregistrament: %2. Trieu un nom nou en una carpeta on es "
+          "pugui escriure.",
+      .record_cut = "L’enregistrament %1 s’ha quedat a mitges: %2.",
+      .work_not_kept =
+          "No es pot portar nota del que s’escriu a %1: %2. Es pot treballar, però no es podrà recuperar.",
+      .unsaved_work_found =
+          "El programa va acabar sense que es desessin línies del recompte d’avui de la sucursal %1. S’hi va "
+          "escriure per última vegada a les %2.",
+      .day_changed_meanwhile =
+          "Atenció: des d’aleshores aquest recompte ha canviat a la base de dades. Si deseu les línies "
+          "recuperades, substituiran les que hi ha.",
+      .bring_work_back =
+          "Voleu recuperar les línies? Tornen a la pantalla, sense desar. Si responeu No, queden apartades a "
+          "%1.",
+      .work_not_all_back =
+          "No s’ha pogut recuperar tot. Reviseu les línies. El que es va fer és sencer a %1.",
       .unknown_option = "No existeix l’opció %1.",
       .unexpected_word = "Sobra la paraula %1.",
       .value_missing = "A l’opció %1 li falta el valor.",
@@ -175,6 +192,7 @@ const Words& CatalanWords() {
       .help_store = "fitxer SQLite amb la base de dades, que ha d’existir (%1)",
       .help_dialect = "proveïdor que s’imita: sqlserver o jet (sqlserver)",
       .help_picture = "sense finestra: desa una imatge de la pantalla i escriu les línies del dia",
+      .help_record = "enregistra tota la sessió, com a guió, en un fitxer nou",
       .help_script = "Executa un guió sobre la pantalla, sense finestra, i escriu el que mostra.",
       .help_create = "crea la base de dades de --db si no existeix, amb la cadena de mostra",
       .help_help = "mostra aquesta ajuda",

@@ -135,6 +135,23 @@ const Words& EnglishWords() {
       .part_missing = "%1 cannot be loaded. It has to be in the same folder as the program.",
       .no_display = "There is no display. With --captura FILE.png a picture is saved without one.",
       .picture_not_written = "The picture %1 cannot be written.",
+      .record_not_made =
+          "The file %1 for the recording cannot be made: %2. Choose a new name in a folder that can be "
+          "written to.",
+      .record_cut = "The recording %1 was cut short: %2.",
+      .work_not_kept =
+          "What is typed cannot be noted down in %1: %2. Work can go on, but could not be brought back.",
+      .unsaved_work_found =
+          "The program ended before lines of today's count of branch %1 were saved. They were last typed at "
+          "%2.",
+      .day_changed_meanwhile =
+          "Careful: that count has changed in the database since then. If you save the lines brought back, "
+          "they replace those in it.",
+      .bring_work_back =
+          "Bring the lines back? They return to the screen, unsaved. If you answer No, they are put aside in "
+          "%1.",
+      .work_not_all_back =
+          "Not everything could be brought back. Check the lines. All that was done is in %1.",
       .unknown_option = "There is no option %1.",
       .unexpected_word = "The word %1 is one too many.",
       .value_missing = "The option %1 lacks its value.",
@@ -170,6 +187,7 @@ const Words& EnglishWords() {
       .help_store = "SQLite file with the database, which has to exist (%1)",
       .help_dialect = "provider to act as: sqlserver or jet (sqlserver)",
       .help_picture = "no window: saves a picture of the screen and writes the day's lines",
+      .help_record = "records the whole session, as a script, in a new file",
       .help_script = "Runs a script on the screen, without a window, and writes what it shows.",
       .help_create = "makes the database of --db if it does not exist, with the sample chain",
       .help_help = "shows this help",

@@ -142,6 +142,24 @@ const Words& SpanishWords() {
       .part_missing = "No se puede cargar %1. Debe estar en la misma carpeta que el programa.",
       .no_display = "No hay pantalla. Con --captura FICHERO.png se guarda una imagen sin ella.",
       .picture_not_written = "No se puede escribir la imagen %1.",
+      .record_not_made =
+          "No se puede hacer el fichero %1 para la grabación: %2. Elija un nombre nuevo en una carpeta en la "
+          "que se pueda escribir.",
+      .record_cut = "La grabación %1 se ha quedado a medias: %2.",
+      .work_not_kept =
+          "No se puede llevar nota de lo que se escribe en %1: %2. Se puede trabajar, pero no se podrá "
+          "recuperar.",
+      .unsaved_work_found =
+          "El programa terminó sin que se guardaran líneas del recuento de hoy de la sucursal %1. Se "
+          "escribió en ellas por última vez a las %2.",
+      .day_changed_meanwhile =
+          "Atención: desde entonces ese recuento ha cambiado en la base de datos. Si guarda las líneas "
+          "recuperadas, sustituirán a las que hay en ella.",
+      .bring_work_back =
+          "¿Recuperar las líneas? Vuelven a la pantalla, sin guardar. Si responde No, quedan apartadas en "
+          "%1.",
+      .work_not_all_back =
+          "No se ha podido recuperar todo. Revise las líneas. Lo que se hizo está entero en %1.",
       .unknown_option = "No existe la opción %1.",
       .unexpected_word = "Sobra la palabra %1.",
       .value_missing = "A la opción %1 le falta su valor.",
@@ -180,6 +198,7 @@ const Words& SpanishWords() {
       .help_store = "fichero SQLite con la base de datos, que ha de existir (%1)",
       .help_dialect = "proveedor que se imita: sqlserver o jet (sqlserver)",
       .help_picture = "sin ventana: guarda una imagen de la pantalla y escribe las líneas del día",
+      .help_record = "graba toda la sesión, como guion, en un fichero nuevo",
       .help_script = "Ejecuta un guion sobre la pantalla, sin ventana, y escribe lo que muestra.",
       .help_create = "crea la base de datos de --db si no existe, con la cadena de muestra",
       .help_help = "muestra esta ayuda",

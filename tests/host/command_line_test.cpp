@@ -112,7 +112,7 @@ TEST(CommandLine, ErrorsAreInTheLanguageAskedFor) {
 
 TEST(CommandLine, AProgramMayOfferLess) {
   static const std::vector<Command> none;
-  const OfferedOptions offered{false, false, false};
+  const OfferedOptions offered{false, false, false, false};
   for (const char* option : {"--region", "--pantalla", "--captura"}) {
     const CommandLine line = ReadCommandLine({option, "x"}, Language::kSpanish, none, offered);
     EXPECT_EQ(line.exit_code, kExitWrongUse) << option;
@@ -195,7 +195,8 @@ TEST_F(CommandLineWithCommand, HelpTellsEveryOptionOfTheProgramAndItsCommands) {
     EXPECT_EQ(line.errors, "");
     EXPECT_EQ(OptionsListed(line.output),
               (std::vector<std::string>{"--sucursal", "--puesto", "--turno", "--idioma", "--region", "--base",
-                                        "--pantalla", "--db", "--crear", "--dialecto", "--captura", "-h,"}));
+                                        "--pantalla", "--db", "--crear", "--dialecto", "--captura",
+                                        "--grabar", "-h,"}));
     EXPECT_NE(line.output.find("\n  guion " + std::string(words.value_file)), std::string::npos);
   }
 }

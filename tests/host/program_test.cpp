@@ -156,6 +156,29 @@ TEST_F(Program, ACurrentFolderThatIsGoneIsTold) {
       "orvendal: Ya no existe la carpeta actual: escriba la base de datos x.db con su ruta completa.\n");
 }
 
+TEST_F(Program, ARecordNeverReplacesAFile) {
+  std::ofstream(folder / "mio") << "mine";
+  const std::string picture = "--captura '" + (folder / "p.png") + "'";
+  EXPECT_EQ(Run(picture + " --grabar '" + (folder / "mio") + "'"), 1);
+  EXPECT_NE(errors.find("No se puede hacer el fichero " + (folder / "mio") + " para la grabación: "),
+            std::string::npos)
+      << errors;
+  EXPECT_EQ(Content("mio"), "mine");
+}
+
+TEST_F(Program, ARecordedSessionIsPrivateAndShowsTheSameLinesWhenItIsReplayed) {
+  const std::string record = folder / "sesion.guion";
+  ASSERT_EQ(
+      Run("--dialecto jet --idioma ca --captura '" + (folder / "p.png") + "' --grabar '" + record + "'"), 0)
+      << errors;
+  const std::string lines = output;
+  EXPECT_FALSE(lines.empty());
+  EXPECT_EQ(static_cast<unsigned>(std::filesystem::status(record).permissions()), 0600U);
+  EXPECT_TRUE(Content("sesion.guion").starts_with("# opciones: --idioma ca --region es-ES --dialecto jet\n"));
+  ASSERT_EQ(Run("guion '" + record + "' --db '" + (folder / "orvendal/cadena.db") + "'"), 0) << errors;
+  EXPECT_EQ(output, "orvendal -> False\n" + lines);
+}
+
 // Everything in the folder and what it holds; what changes is what was written.
 std::map<std::string, std::string> FilesOf(const std::string& place) {
   std::map<std::string, std::string> files;

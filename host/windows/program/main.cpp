@@ -33,7 +33,7 @@ int WINAPI wWinMain(HINSTANCE /*instance*/, HINSTANCE /*previous*/, PWSTR /*line
   using namespace orvendal;
   TakeLibrariesOfSystemOnly();
   // What the system knows of the user, and what belongs to a program without windows, is not asked for here.
-  const OfferedOptions offered{.region = false, .display = false, .picture = false};
+  const OfferedOptions offered{.region = false, .display = false, .picture = false, .record = false};
   const CommandLine line = ReadCommandLine(WordsOfCommandLine(), LanguageOfUser(), {}, offered);
   if (!line.output.empty()) ShowText(line.output, MB_ICONINFORMATION);
   if (!line.errors.empty()) ShowText(line.errors, MB_ICONERROR);
