@@ -64,7 +64,8 @@ TEST_F(ScriptOnAStore, ANumberWithoutEndInTheStoreIsAnErrorOfTheLine) {
                 "empleado E002\nclic MSFProductos 1 0\ndobleclic MSFProductos 1 0\nteclas \"LAC001\\n\"\n"),
             0)
       << errors;
-  EXPECT_EQ(output, "orvendal -> False\nerror 6: Overflow\n");
+  EXPECT_EQ(output,
+            "orvendal -> False\nerror 6: Overflow: the field 'Stock' holds a number beyond all bounds.\n");
 }
 
 TEST_F(ScriptOnAStore, AStoreThatDoesNotFitIsRefusedBeforeTheFirstLine) {
