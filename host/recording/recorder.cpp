@@ -11,6 +11,9 @@
 namespace orvendal {
 namespace {
 
+// A line is written anew with each of its characters; a key that is held down types without an end.
+constexpr std::size_t kMostInALine = 100;
+
 std::string ClockLine(Date moment, int readings) {
   std::string line = "reloj " + Region::English().Format(moment, "yyyy-mm-dd hh:nn:ss");
   if (readings > 0) line += " tras " + std::to_string(readings);
@@ -253,7 +256,8 @@ void Recorder::CommitCharacter(const Step& step) {
 
 void Recorder::CommitTyped(const std::string& character, std::optional<int> milliseconds) {
   const bool of_reader = milliseconds.has_value();
-  const bool may_join = before_.empty() && last_.kind == Entry::Kind::kText && !last_.text.ends_with('\n');
+  const bool may_join = before_.empty() && last_.kind == Entry::Kind::kText && !last_.text.ends_with('\n') &&
+                        last_.characters < kMostInALine;
   const bool joins = may_join && last_.of_reader == of_reader;
   // A single key that was followed fast is the first one of a reader.
   const bool turns_fast = may_join && of_reader && last_.characters == 1;

@@ -97,6 +97,15 @@ TEST_F(Record, AHandWritesAReaderTypesAndOneKeyThatFollowsFastIsTheReadersFirst)
   EXPECT_EQ(Written(), "teclas \"444\"\n");
 }
 
+// Seen: each key took longer than the one before it.
+TEST_F(Record, AKeyThatIsHeldDownIsWrittenInLinesOfAHundred) {
+  run_->Do("dobleclic MSFProductos 1 0");
+  Written();
+  for (int key = 0; key < 250; ++key) Key(U'4', key == 0 ? 500 : 30);
+  const auto line = [](std::size_t keys) { return "teclas \"" + std::string(keys, '4') + "\""; };
+  EXPECT_EQ(Written(), line(100) + "\n" + line(100) + " 30\n" + line(50) + " 30\n");
+}
+
 TEST_F(Record, AClickOnALetterIsWrittenByTheLetter) {
   run_->Do("dobleclic MSFProductos 1 0");
   run_->Do("escribe \"LAC001\"");
